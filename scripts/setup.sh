@@ -1,0 +1,28 @@
+#!/usr/bin/env bash
+# Installs what building and testing Dustlark needs, and nothing that is already there.
+set -euo pipefail
+
+DEBIAN_PACKAGES=(qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
+    libssl-dev libplist-dev libgtest-dev libgmock-dev cmake g++ git pkg-config ccache xvfb xauth)
+BREW_PACKAGES=(qt openssl@3 libplist googletest cmake pkg-config)
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
+}
+
+if [ "$(uname -s)" = "Darwin" ]; then
+    missing=()
+    for p in "${BREW_PACKAGES[@]}"; do brew list --versions "$p" >/dev/null 2>&1 || missing+=("$p"); done
+    [ ${#missing[@]} -eq 0 ] || brew install "${missing[@]}"
+    exit 0
+fi
+
+missing=()
+for p in "${DEBIAN_PACKAGES[@]}"; do
+    dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
+done
+if [ ${#missing[@]} -gt 0 ]; then
+    echo "Installing: ${missing[*]}"
+    as_root apt-get update -qq
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq "${missing[@]}"
+fi

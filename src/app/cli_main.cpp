@@ -1,0 +1,13 @@
+#include "report/ReportCommand.h"
+
+#include <QCoreApplication>
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setOrganizationName(QStringLiteral("Dustlark"));
+    QCoreApplication::setApplicationName(QStringLiteral("Dustlark"));
+    QStringList arguments = QCoreApplication::arguments();
+    arguments.removeFirst();
+    return ReportCommand::run(arguments);
+}

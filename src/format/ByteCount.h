@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+// The one file-size formatter: decimal units in the system's file-size style
+// ("Zero KB", "512 bytes", "345 KB", "1.2 MB", "1.23 GB"). Everything that shows a size uses it.
+namespace ByteCount {
+
+QString format(qint64 bytes);
+
+}  // namespace ByteCount

@@ -1,0 +1,44 @@
+#pragma once
+
+// The few operating-system calls that differ between macOS and Linux. linux.cpp (/proc, statx)
+// is compiled and tested here; mac.cpp (libproc, CoreFoundation C API, st_flags) is compiled
+// only on Apple and kept small enough to be right by reading. Everything is thread-safe.
+
+#include <QDateTime>
+#include <QString>
+#include <QStringList>
+#include <optional>
+#include <sys/stat.h>
+#include <sys/types.h>
+#include <vector>
+
+namespace Platform {
+
+// Direct children of a process; empty when they cannot be listed.
+std::vector<pid_t> childProcesses(pid_t parent);
+
+// When the process started, as seconds x 1,000,000 + microseconds since 1970; absent when
+// its information cannot be read (it has ended, or is not ours to see).
+std::optional<qint64> processStartTime(pid_t pid);
+
+// The executable path of every process the person can see.
+QStringList runningExecutables();
+
+// Whether the file's content lives only in the cloud (macOS SF_DATALESS); false where the
+// system has no such flag.
+bool isDataless(const struct stat& info);
+
+// The file's creation time where the file system records one.
+std::optional<QDateTime> birthTime(const QString& path);
+
+// Free bytes of the volume holding `path` that the system would let the person use
+// ("available for important usage" on macOS); absent when it cannot be read.
+std::optional<qint64> availableCapacity(const QString& path);
+
+// Total bytes of the volume holding `path`.
+std::optional<qint64> totalCapacity(const QString& path);
+
+// One line naming this machine for an AI assistant, e.g. "macOS 14.5 on Apple M2".
+QString machineDescription();
+
+}  // namespace Platform

@@ -1,0 +1,82 @@
+#include "report/ReportCommand.h"
+
+#include "report/ScanRunner.h"
+#include "scan/ScannerCatalog.h"
+
+#include <QDir>
+#include <QJsonDocument>
+#include <QSettings>
+#include <cstdio>
+#include <mutex>
+
+namespace ReportCommand {
+
+namespace {
+
+QString standardized(const QString& path)
+{
+    return QDir::cleanPath(QDir(path).absolutePath());
+}
+
+ScanContext makeContext(const ReportOptions& options, const Protection& protection)
+{
+    ScanContext context;
+    context.home = standardized(options.home.value_or(QDir::homePath()));
+    for (const QString& root : options.roots)
+        context.roots.append(standardized(root));
+    if (context.roots.isEmpty())
+        context.roots = options.home ? QStringList{context.home} : protection.scanRoots;
+    if (context.roots.isEmpty())
+        context.roots = {context.home};
+    context.safeFolders = QSet<QString>(protection.protectedPaths.begin(), protection.protectedPaths.end());
+    return context;
+}
+
+QList<CategoryID> askedCategories(const ReportOptions& options)
+{
+    if (!options.categories.isEmpty())
+        return options.categories;
+    return QList<CategoryID>(Categories::allCases().begin(), Categories::allCases().end());
+}
+
+}  // namespace
+
+ScanReport::Results scan(const ReportOptions& options, const Protection& protection)
+{
+    const ScanContext context = makeContext(options, protection);
+    const QList<CategoryID> asked = askedCategories(options);
+    const ScanFilter filter(context.home, protection.safeItemIds, protection.protectedPaths);
+
+    ScanReport::Results results;
+    std::mutex resultsMutex;
+    ScanRunner::runAll(ScannerCatalog::filling(asked), context, [&](const ScanOutputs& outputs) {
+        std::lock_guard lock(resultsMutex);
+        for (const auto& [category, output] : outputs) {
+            if (!asked.contains(category))
+                continue;
+            const ScanOutput kept = ScanRunner::filtered(output, filter);
+            results[category] = CategoryResult{CategoryResult::State::done, kept.items, kept.notes, kept.summary};
+        }
+    });
+    return results;
+}
+
+int run(const QStringList& arguments)
+{
+    QString error;
+    const auto options = ReportOptions::parse(arguments, &error);
+    if (!options) {
+        std::fprintf(stderr, "%s\n", qPrintable(error));
+        return 2;
+    }
+    Protection protection;
+    const ScanReport::Results results = scan(*options, protection);
+    const QString home = standardized(options->home.value_or(QDir::homePath()));
+    const QByteArray out = options->json
+        ? QJsonDocument(ScanReport::toJson(results, home)).toJson(QJsonDocument::Indented)
+        : ScanReport::toText(results, home);
+    std::fwrite(out.constData(), 1, static_cast<size_t>(out.size()), stdout);
+    return 0;
+}
+
+}  // namespace ReportCommand

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "report/ReportOptions.h"
+#include "report/ScanReport.h"
+
+#include <QSet>
+
+// What the report tool does for one command line: build the context, run the scanners that
+// fill the asked categories, filter like the app, and render. Never changes anything on disk.
+namespace ReportCommand {
+
+struct Protection {
+    QSet<QString> safeItemIds;
+    QStringList protectedPaths;
+    QStringList scanRoots;  // used when no --home and no --root is given
+};
+
+ScanReport::Results scan(const ReportOptions& options, const Protection& protection);
+
+// Runs the command and returns the exit status; output goes to stdout, errors to stderr.
+int run(const QStringList& arguments);
+
+}  // namespace ReportCommand

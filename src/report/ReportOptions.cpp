@@ -1,0 +1,50 @@
+#include "report/ReportOptions.h"
+
+#include <QCoreApplication>
+
+QString ReportOptions::usage()
+{
+    return QStringLiteral("usage: dustlark-cli scan [--home DIR] [--root DIR]... [--category RAW]... [--json]");
+}
+
+std::optional<ReportOptions> ReportOptions::parse(const QStringList& arguments, QString* error)
+{
+    if (arguments.isEmpty() || arguments.first() != QLatin1String("scan")) {
+        *error = usage();
+        return std::nullopt;
+    }
+    ReportOptions options;
+    for (int i = 1; i < arguments.size(); ++i) {
+        const QString& argument = arguments.at(i);
+        if (argument == QLatin1String("--json")) {
+            options.json = true;
+            continue;
+        }
+        const bool takesValue = argument == QLatin1String("--home") || argument == QLatin1String("--root")
+            || argument == QLatin1String("--category");
+        if (!takesValue) {
+            //: Error of the report tool; %1 is the argument it did not understand
+            *error = QCoreApplication::translate("ReportOptions", "Unknown argument \"%1\".").arg(argument) + QLatin1Char(' ') + usage();
+            return std::nullopt;
+        }
+        if (i + 1 >= arguments.size()) {
+            //: Error of the report tool; %1 is an option such as --home
+            *error = QCoreApplication::translate("ReportOptions", "%1 needs a value.").arg(argument);
+            return std::nullopt;
+        }
+        const QString value = arguments.at(++i);
+        if (argument == QLatin1String("--home")) {
+            options.home = value;
+        } else if (argument == QLatin1String("--root")) {
+            options.roots.append(value);
+        } else if (auto category = Categories::fromRawValue(value)) {
+            if (!options.categories.contains(*category))
+                options.categories.append(*category);
+        } else {
+            //: Error of the report tool; %1 is the category name it did not know
+            *error = QCoreApplication::translate("ReportOptions", "Unknown category \"%1\".").arg(value);
+            return std::nullopt;
+        }
+    }
+    return options;
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "model/CategoryID.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+// The report tool's command line: scan [--home DIR] [--root DIR]... [--category RAW]... [--json]
+struct ReportOptions {
+    std::optional<QString> home;
+    QStringList roots;
+    QList<CategoryID> categories;  // empty: every category
+    bool json = false;
+
+    // Parses the arguments after the program name. On failure returns absent and sets
+    // `error` to a one-line message.
+    static std::optional<ReportOptions> parse(const QStringList& arguments, QString* error);
+    static QString usage();
+};

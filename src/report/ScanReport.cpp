@@ -1,0 +1,88 @@
+#include "report/ScanReport.h"
+
+#include "format/ByteCount.h"
+
+#include <QJsonArray>
+#include <QTextStream>
+
+namespace ScanReport {
+
+namespace {
+
+QJsonValue optionalText(const std::optional<QString>& text)
+{
+    return text ? QJsonValue(*text) : QJsonValue(QJsonValue::Null);
+}
+
+CategoryResult resultFor(const Results& results, CategoryID category)
+{
+    const auto found = results.find(category);
+    return found == results.end() ? CategoryResult{} : found->second;
+}
+
+}  // namespace
+
+QJsonObject itemToJson(const CleanupItem& item, const QString& home)
+{
+    QJsonObject object;
+    object[QStringLiteral("id")] = item.id;
+    object[QStringLiteral("title")] = item.title;
+    object[QStringLiteral("badge")] = optionalText(item.badge);
+    object[QStringLiteral("detail")] = item.detail;
+    object[QStringLiteral("size")] = static_cast<double>(item.size);
+    object[QStringLiteral("safety")] = Safeties::rawValue(item.safety(home));
+    object[QStringLiteral("lockedReason")] = optionalText(item.lockedReason);
+    object[QStringLiteral("date")] = item.date ? QJsonValue(item.date->toUTC().toString(Qt::ISODate))
+                                               : QJsonValue(QJsonValue::Null);
+    object[QStringLiteral("projectPath")] = optionalText(item.projectPath);
+    object[QStringLiteral("paths")] = QJsonArray::fromStringList(item.removal.paths());
+    object[QStringLiteral("removal")] = item.removal.rawKind();
+    object[QStringLiteral("duplicateGroup")] = optionalText(item.duplicateGroup);
+    object[QStringLiteral("isOldestCopy")] = item.isOldestCopy;
+    return object;
+}
+
+QJsonObject toJson(const Results& results, const QString& home)
+{
+    QJsonArray categories;
+    for (CategoryID category : Categories::allCases()) {
+        const CategoryResult result = resultFor(results, category);
+        QJsonArray items;
+        for (const CleanupItem& item : result.items)
+            items.append(itemToJson(item, home));
+        QJsonObject object;
+        object[QStringLiteral("id")] = Categories::rawValue(category);
+        object[QStringLiteral("title")] = Categories::title(category);
+        object[QStringLiteral("state")] = CategoryResult::rawState(result.state);
+        object[QStringLiteral("notes")] = QJsonArray::fromStringList(result.notes);
+        object[QStringLiteral("summary")] = optionalText(result.summary);
+        object[QStringLiteral("totalSize")] = static_cast<double>(result.totalSize());
+        object[QStringLiteral("items")] = items;
+        categories.append(object);
+    }
+    return QJsonObject{{QStringLiteral("categories"), categories}};
+}
+
+QByteArray toText(const Results& results, const QString& home)
+{
+    QByteArray out;
+    QTextStream stream(&out);
+    for (CategoryID category : Categories::allCases()) {
+        const CategoryResult result = resultFor(results, category);
+        stream << Categories::title(category) << "  (" << CategoryResult::rawState(result.state)
+               << ", " << ByteCount::format(result.totalSize()) << ")\n";
+        for (const QString& note : result.notes)
+            stream << "  ! " << note << '\n';
+        for (const CleanupItem& item : result.items) {
+            stream << "  " << ByteCount::format(item.size).rightJustified(10) << "  "
+                   << Safeties::title(item.safety(home)).leftJustified(7) << ' ' << item.title;
+            if (item.lockedReason)
+                stream << "  [" << *item.lockedReason << ']';
+            stream << "\n              " << item.detail << '\n';
+        }
+    }
+    stream.flush();
+    return out;
+}
+
+}  // namespace ScanReport

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "model/CategoryResult.h"
+
+#include <QByteArray>
+#include <QJsonObject>
+#include <map>
+
+// Renders scan results for the report tool: one JSON object, or a readable table.
+// Every category appears, in declaration order; missing ones as idle.
+namespace ScanReport {
+
+using Results = std::map<CategoryID, CategoryResult>;
+
+QJsonObject toJson(const Results& results, const QString& home);
+QJsonObject itemToJson(const CleanupItem& item, const QString& home);
+QByteArray toText(const Results& results, const QString& home);
+
+}  // namespace ScanReport

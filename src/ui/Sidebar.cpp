@@ -1,0 +1,107 @@
+#include "ui/Sidebar.h"
+
+#include <QHeaderView>
+
+namespace {
+
+constexpr int destinationRole = Qt::UserRole + 1;
+
+QVariant encode(const SidebarDestination& destination)
+{
+    const int category = destination.category ? static_cast<int>(*destination.category) : -1;
+    return QVariantList{static_cast<int>(destination.kind), category};
+}
+
+SidebarDestination decode(const QVariant& value)
+{
+    const QVariantList parts = value.toList();
+    const auto kind = static_cast<SidebarDestination::Kind>(parts.value(0).toInt());
+    const int category = parts.value(1).toInt();
+    if (kind == SidebarDestination::Kind::category)
+        return SidebarDestination::of(static_cast<CategoryID>(category));
+    return SidebarDestination::screen(kind);
+}
+
+}  // namespace
+
+Sidebar::Sidebar(QWidget* parent) : QTreeWidget(parent)
+{
+    setColumnCount(2);
+    setHeaderHidden(true);
+    setRootIsDecorated(false);
+    setIndentation(8);
+    setUniformRowHeights(true);
+    setFrameShape(QFrame::NoFrame);
+    header()->setStretchLastSection(false);
+    header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+
+    using Kind = SidebarDestination::Kind;
+    //: Sidebar entry of the overview screen
+    addScreen(nullptr, tr("Overview"), SidebarDestination::screen(Kind::overview));
+    //: Sidebar entry of the storage breakdown screen
+    addScreen(nullptr, tr("Storage"), SidebarDestination::screen(Kind::storage));
+    //: Sidebar entry of the screen of folders that are large because of many small files
+    addScreen(nullptr, tr("Large Folders"), SidebarDestination::screen(Kind::largeFolders));
+    //: Sidebar entry of the Safe List screen
+    addScreen(nullptr, tr("Safe List"), SidebarDestination::screen(Kind::safeList));
+
+    for (CleanerGroup group : CleanerGroups::allCases()) {
+        auto* heading = new QTreeWidgetItem(this, {CleanerGroups::title(group)});
+        heading->setFlags(Qt::ItemIsEnabled);
+        QFont font = heading->font(0);
+        font.setBold(true);
+        heading->setFont(0, font);
+        heading->setForeground(0, palette().color(QPalette::PlaceholderText));
+        for (CategoryID category : CleanerGroups::categories(group))
+            addScreen(heading, Categories::title(category), SidebarDestination::of(category));
+        heading->setExpanded(true);
+    }
+    //: Sidebar entry of the About screen
+    addScreen(nullptr, tr("About"), SidebarDestination::screen(Kind::about));
+
+    connect(this, &QTreeWidget::itemSelectionChanged, this, &Sidebar::emitChoice);
+}
+
+QTreeWidgetItem* Sidebar::addScreen(QTreeWidgetItem* parent, const QString& title,
+                                    const SidebarDestination& destination)
+{
+    auto* item = parent ? new QTreeWidgetItem(parent, {title}) : new QTreeWidgetItem(this, {title});
+    item->setData(0, destinationRole, encode(destination));
+    item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+    return item;
+}
+
+QTreeWidgetItem* Sidebar::itemFor(const SidebarDestination& destination) const
+{
+    const QVariant wanted = encode(destination);
+    for (QTreeWidgetItemIterator it(const_cast<Sidebar*>(this)); *it; ++it) {
+        if ((*it)->data(0, destinationRole) == wanted)
+            return *it;
+    }
+    return nullptr;
+}
+
+void Sidebar::select(const SidebarDestination& destination)
+{
+    if (QTreeWidgetItem* item = itemFor(destination)) {
+        const QSignalBlocker blocker(this);
+        setCurrentItem(item);
+    }
+}
+
+void Sidebar::setCategorySize(CategoryID category, const QString& size)
+{
+    if (QTreeWidgetItem* item = itemFor(SidebarDestination::of(category)))
+        item->setText(1, size);
+}
+
+void Sidebar::emitChoice()
+{
+    const QList<QTreeWidgetItem*> chosen = selectedItems();
+    if (chosen.isEmpty())
+        return;
+    const QVariant data = chosen.first()->data(0, destinationRole);
+    if (data.isValid())
+        emit destinationChosen(decode(data));
+}
