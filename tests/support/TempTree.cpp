@@ -3,7 +3,10 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <cerrno>
 #include <fcntl.h>
+#include <grp.h>
+#include <sys/wait.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -75,4 +78,63 @@ void TempTree::setTimes(const QString& relative, qint64 secondsSinceEpoch) const
 {
     const struct timespec times[2] = {{secondsSinceEpoch, 0}, {secondsSinceEpoch, 0}};
     ::utimensat(AT_FDCWD, QFile::encodeName(path(relative)).constData(), times, AT_SYMLINK_NOFOLLOW);
+}
+
+namespace {
+
+constexpr uid_t nobody = 65534;
+constexpr int childCannotRun = 77;
+
+[[noreturn]] void runAsNobody(const std::function<QByteArray()>& work, const QString& root, int output)
+{
+    const bool dropped = ::setgroups(0, nullptr) == 0 && ::setgid(nobody) == 0 && ::setuid(nobody) == 0;
+    if (!dropped || ::access(QFile::encodeName(root).constData(), R_OK | X_OK) != 0)
+        ::_exit(childCannotRun);
+    const QByteArray result = work();
+    for (qsizetype written = 0; written < result.size();) {
+        const ssize_t count = ::write(output, result.constData() + written, result.size() - written);
+        if (count <= 0)
+            ::_exit(childCannotRun);
+        written += count;
+    }
+    ::_exit(0);
+}
+
+QByteArray readAll(int input)
+{
+    QByteArray all;
+    char buffer[4096];
+    for (ssize_t count; (count = ::read(input, buffer, sizeof buffer)) != 0;) {
+        if (count > 0)
+            all.append(buffer, count);
+        else if (errno != EINTR)
+            break;
+    }
+    return all;
+}
+
+}  // namespace
+
+std::optional<QByteArray> TempTree::runUnprivileged(const std::function<QByteArray()>& work) const
+{
+    if (::geteuid() != 0)
+        return work();
+    ::chmod(QFile::encodeName(m_root).constData(), 0755);
+    int pipeEnds[2];
+    if (::pipe(pipeEnds) != 0)
+        return std::nullopt;
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::close(pipeEnds[0]);
+        runAsNobody(work, m_root, pipeEnds[1]);
+    }
+    ::close(pipeEnds[1]);
+    const QByteArray result = child > 0 ? readAll(pipeEnds[0]) : QByteArray();
+    ::close(pipeEnds[0]);
+    int status = 0;
+    if (child < 0 || ::waitpid(child, &status, 0) != child)
+        return std::nullopt;
+    if (!WIFEXITED(status) || WEXITSTATUS(status) != 0)
+        return std::nullopt;
+    return result;
 }

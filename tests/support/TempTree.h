@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QString>
 #include <QTemporaryDir>
+#include <functional>
+#include <optional>
 
 // A folder tree built for one test in a temporary folder: files of chosen sizes and times,
 // folders, links. Paths given to it are relative to its root. Removed with the object.
@@ -24,6 +26,12 @@ public:
     QString hardlink(const QString& relative, const QString& existingRelative) const;
     // Sets modification and access time, seconds since 1970.
     void setTimes(const QString& relative, qint64 secondsSinceEpoch) const;
+
+    // Runs `work` where permissions bind: in this process for an ordinary user; as root, in a
+    // child process that became the user "nobody" (the tree is opened to it first), because
+    // root reads every folder whatever its mode. Returns what `work` returned, or nothing when
+    // the child could not drop its privileges or reach the tree.
+    std::optional<QByteArray> runUnprivileged(const std::function<QByteArray()>& work) const;
 
 private:
     QTemporaryDir m_dir;
