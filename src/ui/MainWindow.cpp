@@ -30,6 +30,10 @@ MainWindow::MainWindow(QWidget* parent)
     setCentralWidget(splitter);
     resize(1280, 800);
 
+    using Kind = SidebarDestination::Kind;
+    for (Kind kind : {Kind::storage, Kind::largeFolders, Kind::safeList, Kind::about})
+        m_sidebar->setScreenAvailable(SidebarDestination::screen(kind), false);
+
     connect(m_sidebar, &Sidebar::destinationChosen, this, &MainWindow::showDestination);
     showDestination(SidebarDestination::screen(SidebarDestination::Kind::overview));
 }

@@ -90,6 +90,12 @@ void Sidebar::select(const SidebarDestination& destination)
     }
 }
 
+void Sidebar::setScreenAvailable(const SidebarDestination& destination, bool available)
+{
+    if (QTreeWidgetItem* item = itemFor(destination))
+        item->setFlags(available ? Qt::ItemIsEnabled | Qt::ItemIsSelectable : Qt::NoItemFlags);
+}
+
 void Sidebar::setCategorySize(CategoryID category, const QString& size)
 {
     if (QTreeWidgetItem* item = itemFor(SidebarDestination::of(category)))

@@ -12,6 +12,8 @@ public:
     explicit Sidebar(QWidget* parent = nullptr);
 
     void select(const SidebarDestination& destination);
+    // Screens whose page is not built yet stay visible but cannot be chosen.
+    void setScreenAvailable(const SidebarDestination& destination, bool available);
     // Sets the size shown beside a category (empty text hides it).
     void setCategorySize(CategoryID category, const QString& size);
 
