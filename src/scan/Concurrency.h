@@ -19,7 +19,7 @@ auto map(const std::vector<Item>& items, int limit, const CancellationToken& can
          Transform transform) -> std::vector<decltype(transform(items.front()))>
 {
     using Result = decltype(transform(items.front()));
-    std::vector<std::optional<Result>> slots(items.size());
+    std::vector<std::optional<Result>> cells(items.size());
     std::atomic<size_t> next{0};
 
     auto worker = [&] {
@@ -29,7 +29,7 @@ auto map(const std::vector<Item>& items, int limit, const CancellationToken& can
             const size_t index = next.fetch_add(1);
             if (index >= items.size())
                 return;
-            slots[index].emplace(transform(items[index]));
+            cells[index].emplace(transform(items[index]));
         }
     };
 
@@ -45,9 +45,9 @@ auto map(const std::vector<Item>& items, int limit, const CancellationToken& can
 
     std::vector<Result> results;
     results.reserve(items.size());
-    for (auto& slot : slots) {
-        if (slot)
-            results.push_back(std::move(*slot));
+    for (auto& cell : cells) {
+        if (cell)
+            results.push_back(std::move(*cell));
     }
     return results;
 }
