@@ -1,0 +1,177 @@
+#include "WalkFixture.h"
+
+#include "scan/ProjectScanner.h"
+
+#include <QFile>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace {
+
+qint64 allocated(const QString& path)
+{
+    struct stat info {};
+    ::lstat(QFile::encodeName(path).constData(), &info);
+    return static_cast<qint64>(info.st_blocks) * 512;
+}
+
+}  // namespace
+
+using WalkFiles = WalkFixture;
+
+TEST_F(WalkFiles, SizeThresholdsAndInstallerExtensions)
+{
+    tree.sparseFile("scan/just-below", 999'999);
+    tree.sparseFile("scan/exactly-minimum", 1'000'000);
+    tree.sparseFile("scan/almost-large", 199'999'999);
+    tree.sparseFile("scan/large.mov", 200'000'000);
+    for (const char* installer : {"a.dmg", "b.PKG", "c.Mpkg", "d.xIp"})
+        tree.sparseFile(QStringLiteral("scan/") + installer, 300'000'000);
+    const Walk walk = walked({"scan"});
+
+    EXPECT_EQ(candidates(walk), QStringList({"scan/a.dmg", "scan/almost-large", "scan/b.PKG", "scan/c.Mpkg",
+                                             "scan/d.xIp", "scan/exactly-minimum", "scan/large.mov"}));
+    EXPECT_EQ(largeFiles(walk), QStringList({"scan/large.mov"}));
+}
+
+TEST_F(WalkFiles, CandidatesCarryIdentitySizesAndNanosecondTime)
+{
+    const QString path = tree.file("scan/real", 1'200'000);
+    const struct timespec times[2] = {{1'700'000'000, 123'456'789}, {1'700'000'000, 123'456'789}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times, 0), 0);
+    const QString sparse = tree.sparseFile("scan/sparse", 250'000'000);
+    const Walk walk = walked({"scan"});
+
+    struct stat info {};
+    ::lstat(QFile::encodeName(path).constData(), &info);
+    const auto real = std::find_if(walk.duplicateCandidates().begin(), walk.duplicateCandidates().end(),
+                                   [&](const DuplicateFinder::File& f) { return f.path == path; });
+    ASSERT_NE(real, walk.duplicateCandidates().end());
+    EXPECT_EQ(real->size, 1'200'000);
+    EXPECT_EQ(real->allocated, allocated(path));
+    EXPECT_GE(real->allocated, 1'200'000);
+    EXPECT_EQ(real->device, static_cast<qint32>(info.st_dev));
+    EXPECT_EQ(real->inode, static_cast<quint64>(info.st_ino));
+    EXPECT_EQ(real->stamp.size, 1'200'000);
+    EXPECT_EQ(real->stamp.modified, 1'700'000'000'123'456'789);
+
+    ASSERT_EQ(walk.largeFiles().size(), 1);
+    EXPECT_EQ(walk.largeFiles().front().size, allocated(sparse)) << "a large file's size is what it takes on disk";
+    EXPECT_LT(walk.largeFiles().front().size, 1'000'000);
+}
+
+TEST_F(WalkFiles, HiddenFoldersBelowTheRootAndSyncedHomeFoldersAreIgnored)
+{
+    tree.sparseFile("home/Projects/.cache/x/big", 300'000'000);
+    tree.sparseFile("home/Projects/app/.build-cache/big", 2'000'000);
+    tree.sparseFile("home/Projects/.bigfile", 300'000'000);
+    tree.sparseFile("home/Dropbox (Personal)/big", 2'000'000);
+    tree.sparseFile("home/OneDrive - Work/big", 2'000'000);
+    tree.sparseFile("home/Google Drive/big", 2'000'000);
+    tree.sparseFile("home/Documents/Google Drive/big", 2'000'000);
+    const Walk projects = walked({"home/Projects"});
+    EXPECT_EQ(candidates(projects), QStringList({"home/Projects/.bigfile"}));
+    EXPECT_EQ(largeFiles(projects), QStringList({"home/Projects/.bigfile"}));
+
+    const Walk home = walked({"home"});
+    EXPECT_EQ(candidates(home), QStringList({"home/Documents/Google Drive/big", "home/Projects/.bigfile"}));
+}
+
+TEST_F(WalkFiles, SymbolicLinksAreNeverFollowed)
+{
+    tree.sparseFile("outside/big", 300'000'000);
+    tree.sparseFile("outside/folder/big", 300'000'000);
+    tree.symlink("scan/file-link", tree.path("outside/big"));
+    tree.symlink("scan/folder-link", tree.path("outside/folder"));
+    tree.symlink("scan/dangling", tree.path("nowhere"));
+    const Walk walk = walked({"scan"});
+    EXPECT_TRUE(walk.duplicateCandidates().isEmpty());
+    EXPECT_TRUE(walk.largeFiles().isEmpty());
+    EXPECT_EQ(walk.unreadable(), 0);
+}
+
+using WalkSkips = WalkFixture;
+
+TEST_F(WalkSkips, PackagesInAnyCaseAreNeverEntered)
+{
+    for (const char* package : {"Photos Library.photoslibrary", "Thing.APP", "Kit.Framework", "Disk.sparsebundle",
+                                "VM.utm", "Song.band"})
+        tree.sparseFile(QStringLiteral("scan/%1/inside").arg(package), 2'000'000);
+    tree.sparseFile("scan/notes.appdata/inside", 2'000'000);
+    tree.sparseFile("scan/app/inside", 2'000'000);
+    const Walk walk = walked({"scan"});
+    EXPECT_EQ(candidates(walk), QStringList({"scan/app/inside", "scan/notes.appdata/inside"}));
+}
+
+TEST_F(WalkSkips, SafeFoldersGoPackagesAndHomeToolFolders)
+{
+    for (const char* folder : {"Library", "Applications", ".hidden", ".cargo", "go/pkg", "Work/kept-safe",
+                               "Documents/Library", "Documents/.Trash/proj", "go/src", "Work/other"}) {
+        tree.sparseFile(QStringLiteral("home/%1/big").arg(folder), 2'000'000);
+    }
+    tree.file("home/Documents/.Trash/proj/package.json");
+    tree.dir("home/Documents/.Trash/proj/node_modules");
+    tree.file("home/Work/kept-safe/package.json");
+    tree.dir("home/Work/kept-safe/node_modules");
+    context.safeFolders.insert(tree.path("home/Work/kept-safe"));
+    const Walk walk = walked({"home"});
+    EXPECT_EQ(candidates(walk), QStringList({"home/Documents/Library/big", "home/Work/other/big", "home/go/src/big"}));
+    EXPECT_TRUE(walk.artifacts().isEmpty()) << qPrintable(artifacts(walk).join(", "));
+}
+
+TEST_F(WalkSkips, NestedScanFoldersAreWalkedOnce)
+{
+    tree.sparseFile("home/code/app/big", 2'000'000);
+    tree.sparseFile("home/code/lib/big", 2'000'000);
+    const QStringList roots = ProjectScanner::distinctRoots(
+        {tree.path("home/code/app"), "~/code", tree.path("home/code/lib/")}, context.home);
+    ASSERT_EQ(roots, QStringList({tree.path("home/code")}));
+    Walk walk(context);
+    for (const QString& root : roots)
+        walk.run(root);
+    EXPECT_EQ(candidates(walk), QStringList({"home/code/app/big", "home/code/lib/big"}));
+}
+
+TEST_F(WalkFiles, UnreadableFoldersAreCountedAndTheWalkGoesOn)
+{
+    tree.sparseFile("scan/open/big", 2'000'000);
+    tree.sparseFile("scan/locked/big", 2'000'000);
+    ::chmod(QFile::encodeName(tree.path("scan/locked")).constData(), 0);
+    const auto result = tree.runUnprivileged([&] {
+        const Walk walk = walked({"scan"});
+        return QByteArray::number(walk.unreadable()) + ' ' + candidates(walk).join(',').toUtf8();
+    });
+    ::chmod(QFile::encodeName(tree.path("scan/locked")).constData(), 0755);
+    if (!result)
+        GTEST_SKIP() << "running as root, and a child as 'nobody' could not be started to honour folder modes";
+    EXPECT_EQ(*result, "1 scan/open/big");
+}
+
+using WalkProgress = WalkFixture;
+
+TEST_F(WalkProgress, CountsEveryEntryAndShowsShallowFoldersFromHome)
+{
+    tree.file("home/Projects/a/b/c/file");
+    tree.file("home/Projects/a/b/c/other");
+    tree.file("home/Projects/a/node_modules/ignored");
+    const Walk walk = walked({"home/Projects"});
+    // Projects, a, b, c, two files, the unproven node_modules (reported, not entered).
+    const ScanProgress::Snapshot snapshot = context.progress->snapshot();
+    EXPECT_EQ(snapshot.entries, 7);
+    EXPECT_EQ(snapshot.currentFolder, "~/Projects/a/b") << "the third level is not shown";
+
+    tree.dir("elsewhere/x");
+    context.progress->reset();
+    walked({"elsewhere"});
+    EXPECT_EQ(context.progress->snapshot().currentFolder, tree.path("elsewhere/x"));
+}
+
+TEST_F(WalkProgress, CancellationStopsAtTheNextBatchKeepingWhatWasFound)
+{
+    for (int i = 0; i < 5000; ++i)
+        tree.sparseFile(QStringLiteral("scan/f%1").arg(i), 1'000'000);
+    context.cancellation.cancel();
+    const Walk walk = walked({"scan"});
+    EXPECT_EQ(context.progress->snapshot().entries, 4096);
+    EXPECT_EQ(walk.duplicateCandidates().size(), 4096 - 1) << "everything but the root folder before the stop";
+}
