@@ -1,0 +1,227 @@
+#include "model/AppModel.h"
+
+#include "model/SettingsStore.h"
+#include "model/SharedScanFolders.h"
+#include "model/StatsStore.h"
+#include "platform/Platform.h"
+#include "scan/ScannerCatalog.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <QThreadPool>
+
+AppModel::Services AppModel::defaultServices()
+{
+    Services services;
+    services.scanners = [] { return ScannerCatalog::all(); };
+    services.readSystemState = [](const QString& home) {
+        SystemState state;
+        state.freeBytes = Platform::availableCapacity(home);
+        state.totalBytes = Platform::totalCapacity(home);
+        return state;
+    };
+    services.now = [] { return QDateTime::currentDateTimeUtc(); };
+    return services;
+}
+
+AppModel::AppModel(SettingsStore* settings, StatsStore* stats, Services services, QObject* parent)
+    : QObject(parent), m_settings(settings), m_stats(stats), m_services(std::move(services))
+{
+}
+
+// Cancels every running scan; each ScanTask waits for its threads as it is destroyed.
+AppModel::~AppModel()
+{
+    for (auto& [id, scan] : m_scans)
+        scan.task->cancel();
+    stopCleanup();
+    joinCleanupThread();
+}
+
+bool AppModel::isBusyScanning() const
+{
+    if (m_isScanning)
+        return true;
+    for (const auto& [category, result] : m_results) {
+        if (result.state == CategoryResult::State::scanning)
+            return true;
+    }
+    return false;
+}
+
+bool AppModel::isCategoryScanning(CategoryID category) const
+{
+    return result(category).state == CategoryResult::State::scanning;
+}
+
+CategoryResult AppModel::result(CategoryID category) const
+{
+    const auto found = m_results.find(category);
+    return found == m_results.end() ? CategoryResult{} : found->second;
+}
+
+ScanContext AppModel::makeContext() const
+{
+    ScanContext context;
+    context.home = m_settings->home();
+    context.roots = m_settings->scanRoots();
+    context.progress = m_progress;
+    context.now = m_services.now();
+    context.fullDiskAccess = m_systemState.fullDiskAccess;
+    const QStringList& folders = m_settings->safeFolders();
+    context.safeFolders = QSet<QString>(folders.begin(), folders.end());
+    return context;
+}
+
+ScanFilter AppModel::makeFilter() const
+{
+    const QStringList& ids = m_settings->safeItems();
+    return ScanFilter(m_settings->home(), QSet<QString>(ids.begin(), ids.end()), m_settings->protectedPaths());
+}
+
+std::unique_ptr<ScanTask> AppModel::makeTask(std::vector<std::shared_ptr<const Scanner>> scanners, const QUuid& id)
+{
+    return std::make_unique<ScanTask>(std::move(scanners), makeContext(), this,
+                                      [this, id](const ScanOutputs& outputs) { outputArrived(id, outputs); });
+}
+
+void AppModel::startScan()
+{
+    if (isBusyScanning())
+        return;
+    const QUuid id = QUuid::createUuid();
+    RunningScan scan{makeTask(m_services.scanners(), id), 0, m_services.now()};
+    scan.outputsLeft = scan.task->scannerCount();
+    m_progress->reset();
+    clearSelection();
+    m_results.clear();
+    for (CategoryID category : Categories::allCases())
+        m_results[category].state = CategoryResult::State::scanning;
+    m_isScanning = true;
+    m_fullScanId = id;
+    ScanTask* task = scan.task.get();
+    m_scans.emplace(id, std::move(scan));
+    for (CategoryID category : Categories::allCases())
+        emit resultsChanged(category);
+    emit scanStateChanged();
+    task->start();
+    if (task->scannerCount() == 0)
+        finishScan(id);
+}
+
+void AppModel::stopScan()
+{
+    for (auto& [id, scan] : m_scans)
+        scan.task->cancel();
+}
+
+void AppModel::rescan(CategoryID category)
+{
+    if (m_isScanning || isCategoryScanning(category))
+        return;
+    std::vector<std::shared_ptr<const Scanner>> chosen;
+    for (const auto& scanner : m_services.scanners()) {
+        if (scanner->categories().contains(category))
+            chosen.push_back(scanner);
+    }
+    if (chosen.empty())
+        return;
+    const QUuid id = QUuid::createUuid();
+    RunningScan scan{makeTask(chosen, id), chosen.size(), m_services.now()};
+    const QList<CategoryID> refreshed = scan.task->categories();
+    ScanTask* task = scan.task.get();
+    m_scans.emplace(id, std::move(scan));
+    for (CategoryID each : refreshed)
+        setState(each, CategoryResult::State::scanning);
+    emit scanStateChanged();
+    task->start();
+}
+
+void AppModel::setState(CategoryID category, CategoryResult::State state)
+{
+    m_results[category].state = state;
+    emit resultsChanged(category);
+}
+
+void AppModel::outputArrived(const QUuid& id, const ScanOutputs& outputs)
+{
+    const auto found = m_scans.find(id);
+    if (found == m_scans.end())
+        return;
+    apply(outputs, found->second.task->isCancelled());
+    if (--found->second.outputsLeft == 0)
+        finishScan(id);
+}
+
+void AppModel::finishScan(const QUuid& id)
+{
+    const auto found = m_scans.find(id);
+    const bool stopped = found->second.task->isCancelled();
+    const QDateTime started = found->second.started;
+    markUnfinishedDone(found->second.task->categories(), stopped);
+    // Destroying the task joins threads that have all returned by now.
+    m_scans.erase(found);
+    if (id == m_fullScanId) {
+        markUnfinishedDone(QList<CategoryID>(Categories::allCases().begin(), Categories::allCases().end()), stopped);
+        m_fullScanId = QUuid();
+        m_isScanning = false;
+        m_hasScanned = true;
+        if (!stopped)
+            m_stats->recordScan(started, m_results);
+        refreshSystemState();
+    }
+    emit scanStateChanged();
+}
+
+void AppModel::markUnfinishedDone(const QList<CategoryID>& categories, bool stopped)
+{
+    for (CategoryID category : categories) {
+        CategoryResult& entry = m_results[category];
+        if (entry.state != CategoryResult::State::scanning)
+            continue;
+        entry.state = CategoryResult::State::done;
+        if (stopped)
+            //: Banner of a category whose scanner had not finished when the person stopped the scan
+            entry.notes.append(tr("The scan was stopped before this category finished."));
+        emit resultsChanged(category);
+    }
+}
+
+void AppModel::apply(const ScanOutputs& outputs, bool stopped)
+{
+    const ScanFilter filter = makeFilter();
+    for (const auto& [category, output] : outputs) {
+        CategoryResult result;
+        result.state = CategoryResult::State::done;
+        for (const CleanupItem& item : output.items) {
+            if (!filter.drops(item))
+                result.items.append(item);
+        }
+        result.notes = output.notes;
+        if (stopped)
+            //: Banner of a category whose scanner returned early because the scan was stopped
+            result.notes.append(tr("The scan was stopped; this list may be incomplete."));
+        result.summary = output.summary;
+        m_results[category] = std::move(result);
+        indexDuplicates();
+        emit resultsChanged(category);
+    }
+    removeLoneCopies();
+}
+
+void AppModel::refreshSystemState()
+{
+    const QString home = m_settings->home();
+    auto read = m_services.readSystemState;
+    QPointer<AppModel> self(this);
+    // The global pool is waited for when the application ends, so the read never outlives it.
+    QThreadPool::globalInstance()->start([self, read, home] {
+        const SystemState state = read(home);
+        QMetaObject::invokeMethod(qApp, [self, state] {
+            if (!self)
+                return;
+            self->m_systemState = state;
+            emit self->systemStateChanged();
+        }, Qt::QueuedConnection);
+    });
+}

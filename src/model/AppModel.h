@@ -1,0 +1,175 @@
+#pragma once
+
+#include "model/CategoryResult.h"
+#include "model/CleanupSession.h"
+#include "model/ScanFilter.h"
+#include "model/ScanTask.h"
+#include "model/SizeFilter.h"
+
+#include <QHash>
+#include <QObject>
+#include <QSet>
+#include <QUuid>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <thread>
+
+class SettingsStore;
+class StatsStore;
+
+// The one owner of what the screens show: per-category results, the selection, the running
+// scan and rescans, and the system figures. Scanners run on worker threads and hand their
+// outputs back with queued calls; everything here is read and written on the GUI thread only.
+class AppModel : public QObject {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(AppModel)
+
+public:
+    struct SystemState {
+        std::optional<qint64> freeBytes;
+        std::optional<qint64> totalBytes;
+        bool fullDiskAccess = true;
+    };
+
+    // What the model reaches outside the process through; tests replace parts of it.
+    struct Services {
+        std::function<std::vector<std::shared_ptr<const Scanner>>()> scanners;
+        std::function<SystemState(const QString& home)> readSystemState;  // runs on a worker
+        std::function<QDateTime()> now;
+        // Removes one item for good or to the Trash; runs on the cleanup's worker thread.
+        std::function<CleanupSession::Outcome(const CleanupItem&)> removeItem;
+        // Empties the Trash; the message to show when it failed. Runs on a worker thread.
+        std::function<std::optional<QString>()> emptyTrash;
+        // Bytes in the Trash now; absent when it can't be measured. Runs on a worker thread.
+        std::function<std::optional<qint64>(const QString& home)> measureTrash;
+    };
+    static Services defaultServices();
+
+    AppModel(SettingsStore* settings, StatsStore* stats, Services services = defaultServices(),
+             QObject* parent = nullptr);
+    ~AppModel() override;
+
+    SettingsStore* settings() const { return m_settings; }
+    StatsStore* stats() const { return m_stats; }
+
+    // --- Scanning
+    void startScan();
+    void stopScan();
+    void rescan(CategoryID category);
+    bool isScanning() const { return m_isScanning; }
+    bool hasScanned() const { return m_hasScanned; }
+    bool isBusyScanning() const;
+    bool isCategoryScanning(CategoryID category) const;
+    ScanContext makeContext() const;
+    void refreshSystemState();
+    // Folds scanner outputs into the results, dropping what the person protected.
+    void apply(const ScanOutputs& outputs, bool stopped);
+    CategoryResult result(CategoryID category) const;
+    std::shared_ptr<ScanProgress> progress() const { return m_progress; }
+    const SystemState& systemState() const { return m_systemState; }
+
+    // --- Selection
+    bool isSelected(const QString& id) const { return m_selection.contains(id); }
+    const QSet<QString>& selection() const { return m_selection; }
+    bool canSelect(const CleanupItem& item) const;
+    void setSelected(const CleanupItem& item, bool selected);
+    void setAll(const QList<CleanupItem>& items, bool selected);
+    void clearSelection();
+    bool isLastUnselectedCopy(const CleanupItem& item) const;
+    std::optional<QString> duplicateGroup(const CleanupItem& item) const;
+    void indexDuplicates();
+    void removeLoneCopies();
+    QList<CleanupItem> selectedItems() const;
+    qint64 selectedSize() const;
+    qint64 selectedSize(const QList<CategoryID>& categories) const;
+    // True when removing `item` would leave no copy of its content among `remaining`.
+    bool duplicateWouldBeLost(const CleanupItem& item, const QList<CleanupItem>& remaining) const;
+    // The same rule from the rows' own group keys, for worker threads.
+    static bool wouldLoseLastCopy(const CleanupItem& item, const QList<CleanupItem>& remaining);
+    // The rows of a category that pass the size filter and the search text, in list order.
+    QList<CleanupItem> visibleItems(CategoryID category, const QString& search = {}) const;
+    SizeFilter sizeFilter() const;
+    void setSizeFilter(SizeFilter filter);
+
+    // --- Safe List
+    void addToSafeList(const CleanupItem& item);
+    void removeSafeItemsFromResults();
+    void removeFromSafeList(const QString& id);
+    void shareScanFolders() const;
+    const QString& toast() const { return m_toast; }
+    void showToast(const QString& text);
+
+    // --- Cleanup
+    CleanupSession* cleanup() const { return m_cleanup.get(); }
+    CleanupSession* lastRunCleanup() const { return m_lastRunCleanup.get(); }
+    // Opens a session over the selection, leaving out items another selected item removes.
+    void prepareCleanup();
+    void startCleanup();
+    void stopCleanup();
+    // Closes the sheet: a finished session stays readable as lastRunCleanup.
+    void closeCleanup();
+    void removeFromResults(const CleanupItem& item);
+    bool isChangingFiles() const;
+    // Stops what changes files and calls `then` once it has ended (at once when nothing runs).
+    void stopForQuit(std::function<void()> then);
+    void emptyTrash();
+    void refreshTrash();
+    bool isEmptyingTrash() const { return m_isEmptyingTrash; }
+    const QString& trashMessage() const { return m_trashMessage; }
+    std::optional<qint64> trashBytes() const { return m_trashBytes; }
+
+signals:
+    void resultsChanged(CategoryID category);
+    void cleanupChanged();
+    void trashChanged();
+    void scanStateChanged();
+    void selectionChanged();
+    void systemStateChanged();
+    void toastChanged(const QString& text);
+
+private:
+    struct RunningScan {
+        std::unique_ptr<ScanTask> task;
+        size_t outputsLeft = 0;
+        QDateTime started;
+    };
+
+    ScanFilter makeFilter() const;
+    std::unique_ptr<ScanTask> makeTask(std::vector<std::shared_ptr<const Scanner>> scanners, const QUuid& id);
+    void outputArrived(const QUuid& id, const ScanOutputs& outputs);
+    void finishScan(const QUuid& id);
+    void markUnfinishedDone(const QList<CategoryID>& categories, bool stopped);
+    void setState(CategoryID category, CategoryResult::State state);
+    bool removeItemsWhere(const std::function<bool(const CleanupItem&)>& predicate);
+
+    SettingsStore* m_settings;
+    StatsStore* m_stats;
+    Services m_services;
+    std::map<CategoryID, CategoryResult> m_results;
+    bool m_isScanning = false;
+    bool m_hasScanned = false;
+    QSet<QString> m_selection;
+    QHash<QString, QString> m_duplicateGroupOf;          // item id -> group key
+    QHash<QString, QStringList> m_duplicateMembers;      // group key -> member ids in list order
+    std::shared_ptr<ScanProgress> m_progress = std::make_shared<ScanProgress>();
+    QUuid m_fullScanId;                                  // null when no full scan runs
+    std::map<QUuid, RunningScan> m_scans;                // the full scan and every rescan
+    void runCleanup(CleanupSession* session, QList<CleanupItem> items, QList<CleanupItem> copies);
+    bool removeOne(CleanupSession* session, const CleanupItem& item, const QList<CleanupItem>& copies);
+    void finishCleanup(std::optional<qint64> freeAfter);
+    void joinCleanupThread();
+    template <typename Work>
+    void onWorker(Work work);
+
+    SystemState m_systemState;
+    QString m_toast;
+    std::unique_ptr<CleanupSession> m_cleanup;
+    std::unique_ptr<CleanupSession> m_lastRunCleanup;
+    std::thread m_cleanupThread;
+    std::function<void()> m_quitCompletion;
+    bool m_isEmptyingTrash = false;
+    QString m_trashMessage;
+    std::optional<qint64> m_trashBytes;
+};

@@ -1,0 +1,188 @@
+// The cleanup session of AppModel: one worker thread removes the items one at a time and
+// reports each step back to the GUI thread, where the results and the session change.
+#include "model/AppModel.h"
+
+#include "model/SelectionIndex.h"
+#include "model/SettingsStore.h"
+#include "model/StatsStore.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <QThreadPool>
+
+template <typename Work>
+void AppModel::onWorker(Work work)
+{
+    // The global pool is waited for when the application ends.
+    QThreadPool::globalInstance()->start(std::move(work));
+}
+
+void AppModel::prepareCleanup()
+{
+    if (isBusyScanning() || m_cleanup)
+        return;
+    const QList<CleanupItem> selected = selectedItems();
+    const SelectionIndex index(selected);
+    QList<CleanupItem> items;
+    for (int i = 0; i < selected.size(); ++i) {
+        if (!index.covering(i))
+            items.append(selected[i]);
+    }
+    shareScanFolders();
+    m_cleanup = std::make_unique<CleanupSession>(items);
+    emit cleanupChanged();
+}
+
+void AppModel::startCleanup()
+{
+    if (!m_cleanup || m_cleanup->phase() != CleanupSession::Phase::confirming)
+        return;
+    joinCleanupThread();
+    m_cleanup->setPhase(CleanupSession::Phase::running);
+    CleanupSession* session = m_cleanup.get();
+    // The worker never waits for the GUI thread, so stopping and joining it can't deadlock; it
+    // keeps its own account of which duplicates still exist.
+    m_cleanupThread = std::thread([this, session, items = session->items(),
+                                   copies = result(CategoryID::duplicates).items] {
+        runCleanup(session, items, copies);
+    });
+    emit cleanupChanged();
+}
+
+void AppModel::runCleanup(CleanupSession* session, QList<CleanupItem> items, QList<CleanupItem> copies)
+{
+    const QString home = m_settings->home();
+    const std::optional<qint64> freeBefore = m_services.readSystemState(home).freeBytes;
+    QMetaObject::invokeMethod(this, [session, freeBefore] { session->setFreeBefore(freeBefore); }, Qt::QueuedConnection);
+    for (const CleanupItem& item : items) {
+        if (session->stopRequested()) {
+            QMetaObject::invokeMethod(this, [session] { session->setStopped(); }, Qt::QueuedConnection);
+            break;
+        }
+        if (removeOne(session, item, copies))
+            copies.removeIf([&](const CleanupItem& copy) { return copy.id == item.id; });
+    }
+    const std::optional<qint64> freeAfter = m_services.readSystemState(home).freeBytes;
+    QMetaObject::invokeMethod(this, [this, freeAfter] { finishCleanup(freeAfter); }, Qt::QueuedConnection);
+}
+
+bool AppModel::removeOne(CleanupSession* session, const CleanupItem& item, const QList<CleanupItem>& copies)
+{
+    QMetaObject::invokeMethod(this, [session, title = item.title] { session->setCurrent(title); }, Qt::QueuedConnection);
+    const CleanupSession::Outcome outcome = wouldLoseLastCopy(item, copies)
+        //: Why a duplicate was not removed: every other copy is gone or being removed
+        ? CleanupSession::Outcome::failure(tr("It's the last copy of this file, so it was kept."))
+        : m_services.removeItem(item);
+    QMetaObject::invokeMethod(this, [this, session, item, outcome] {
+        session->record(item, outcome);
+        if (outcome.removed())
+            removeFromResults(item);
+    }, Qt::QueuedConnection);
+    return outcome.removed();
+}
+
+void AppModel::finishCleanup(std::optional<qint64> freeAfter)
+{
+    CleanupSession* session = m_cleanup.get();
+    joinCleanupThread();
+    session->setFreeAfter(freeAfter);
+    m_stats->recordCleanup(session->movedToTrash(), session->removedByTools(), session->removedCount());
+    refreshSystemState();
+    refreshTrash();
+    if (session->removedContainers())
+        rescan(CategoryID::docker);
+    session->setPhase(CleanupSession::Phase::finished);
+    emit cleanupChanged();
+    if (m_quitCompletion)
+        std::exchange(m_quitCompletion, {})();
+}
+
+void AppModel::joinCleanupThread()
+{
+    if (m_cleanupThread.joinable())
+        m_cleanupThread.join();
+}
+
+void AppModel::stopCleanup()
+{
+    if (m_cleanup)
+        m_cleanup->requestStop();
+}
+
+void AppModel::closeCleanup()
+{
+    if (!m_cleanup || m_cleanup->phase() == CleanupSession::Phase::running)
+        return;
+    if (m_cleanup->phase() == CleanupSession::Phase::finished)
+        m_lastRunCleanup = std::move(m_cleanup);
+    m_cleanup.reset();
+    emit cleanupChanged();
+}
+
+void AppModel::removeFromResults(const CleanupItem& item)
+{
+    auto found = m_results.find(item.category);
+    if (found == m_results.end())
+        return;
+    const qsizetype before = found->second.items.size();
+    found->second.items.removeIf([&](const CleanupItem& each) { return each.id == item.id; });
+    if (found->second.items.size() != before)
+        emit resultsChanged(item.category);
+    if (m_selection.remove(item.id))
+        emit selectionChanged();
+    indexDuplicates();
+    removeLoneCopies();
+}
+
+bool AppModel::isChangingFiles() const
+{
+    return m_cleanup && m_cleanup->phase() == CleanupSession::Phase::running;
+}
+
+void AppModel::stopForQuit(std::function<void()> then)
+{
+    if (!isChangingFiles()) {
+        then();
+        return;
+    }
+    m_quitCompletion = std::move(then);
+    stopCleanup();
+}
+
+void AppModel::emptyTrash()
+{
+    if (m_isEmptyingTrash)
+        return;
+    m_isEmptyingTrash = true;
+    emit trashChanged();
+    QPointer<AppModel> self(this);
+    onWorker([self, empty = m_services.emptyTrash] {
+        const std::optional<QString> failure = empty ? empty() : std::nullopt;
+        QMetaObject::invokeMethod(qApp, [self, failure] {
+            if (!self)
+                return;
+            self->m_isEmptyingTrash = false;
+            self->m_trashMessage = failure.value_or(QString());
+            if (!failure && self->m_cleanup)
+                self->m_cleanup->setTrashEmptied();
+            if (!failure && self->m_lastRunCleanup)
+                self->m_lastRunCleanup->setTrashEmptied();
+            emit self->trashChanged();
+            self->refreshTrash();
+        }, Qt::QueuedConnection);
+    });
+}
+
+void AppModel::refreshTrash()
+{
+    QPointer<AppModel> self(this);
+    onWorker([self, measure = m_services.measureTrash, home = m_settings->home()] {
+        const std::optional<qint64> bytes = measure ? measure(home) : std::nullopt;
+        QMetaObject::invokeMethod(qApp, [self, bytes] {
+            if (!self)
+                return;
+            self->m_trashBytes = bytes;
+            emit self->trashChanged();
+        }, Qt::QueuedConnection);
+    });
+}

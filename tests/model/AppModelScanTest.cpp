@@ -1,0 +1,132 @@
+#include "support/ModelFixture.h"
+#include "support/Wait.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+ScanOutputs outputOf(CategoryID category, QList<CleanupItem> items)
+{
+    ScanOutputs outputs;
+    outputs[category].items = std::move(items);
+    return outputs;
+}
+
+const QString stoppedEarly = "The scan was stopped before this category finished.";
+const QString stoppedLate = "The scan was stopped; this list may be incomplete.";
+
+}  // namespace
+
+TEST(AppModelScan, ListsFillInFinishingOrderAndTheScanIsRecorded)
+{
+    auto fast = std::make_shared<FakeScanner>(QList{CategoryID::packageCaches},
+        outputOf(CategoryID::packageCaches, {rowAt(CategoryID::packageCaches, "/Users/a/.npm/_cacache")}));
+    auto slow = std::make_shared<FakeScanner>(QList{CategoryID::logs},
+        outputOf(CategoryID::logs, {rowAt(CategoryID::logs, "/Users/a/Library/Logs/App")}));
+    slow->holdUntilReleased();
+    ModelFixture fixture({slow, fast});
+    AppModel& model = fixture.model();
+
+    model.startScan();
+    EXPECT_TRUE(model.isScanning());
+    EXPECT_EQ(model.result(CategoryID::trash).state, CategoryResult::State::scanning);
+    ASSERT_TRUE(waitUntil([&] { return model.result(CategoryID::packageCaches).state == CategoryResult::State::done; }));
+    EXPECT_EQ(model.result(CategoryID::logs).state, CategoryResult::State::scanning);
+    EXPECT_EQ(model.result(CategoryID::packageCaches).items.size(), 1);
+
+    model.startScan();  // a second start while scanning changes nothing
+    EXPECT_EQ(fast->runs(), 1);
+    model.rescan(CategoryID::packageCaches);
+    EXPECT_EQ(fast->runs(), 1);
+
+    slow->release();
+    ASSERT_TRUE(waitUntil([&] { return !model.isScanning(); }));
+    EXPECT_TRUE(model.hasScanned());
+    EXPECT_EQ(model.result(CategoryID::logs).items.size(), 1);
+    EXPECT_TRUE(model.result(CategoryID::logs).notes.isEmpty());
+    EXPECT_EQ(model.result(CategoryID::trash).state, CategoryResult::State::done);
+    ASSERT_TRUE(fixture.stats().stats().lastScan.has_value());
+    EXPECT_EQ(fixture.stats().stats().lastScan->found, 2000);
+}
+
+TEST(AppModelScan, StopLeavesEveryCategoryDoneWithItsNoteAndRecordsNothing)
+{
+    auto fast = std::make_shared<FakeScanner>(QList{CategoryID::packageCaches},
+        outputOf(CategoryID::packageCaches, {rowAt(CategoryID::packageCaches, "/Users/a/.npm/_cacache")}));
+    auto slow = std::make_shared<FakeScanner>(QList{CategoryID::logs}, ScanOutputs{});
+    slow->holdUntilReleased();
+    ModelFixture fixture({fast, slow});
+    AppModel& model = fixture.model();
+
+    model.startScan();
+    ASSERT_TRUE(waitUntil([&] { return model.result(CategoryID::packageCaches).state == CategoryResult::State::done; }));
+    model.stopScan();
+    ASSERT_TRUE(waitUntil([&] { return !model.isBusyScanning(); }));
+
+    for (CategoryID category : Categories::allCases())
+        EXPECT_EQ(model.result(category).state, CategoryResult::State::done);
+    EXPECT_EQ(model.result(CategoryID::logs).notes, QStringList{stoppedEarly});
+    EXPECT_TRUE(model.result(CategoryID::logs).items.isEmpty());
+    EXPECT_TRUE(model.result(CategoryID::packageCaches).notes.isEmpty());  // finished before the stop
+    EXPECT_FALSE(fixture.stats().stats().lastScan.has_value());
+}
+
+TEST(AppModelScan, OutputsArrivingAfterAStopAreMarkedIncomplete)
+{
+    ModelFixture fixture;
+    fixture.model().apply(outputOf(CategoryID::logs, {rowAt(CategoryID::logs, "/Users/a/Library/Logs/A")}), true);
+    EXPECT_EQ(fixture.model().result(CategoryID::logs).notes, QStringList{stoppedLate});
+    EXPECT_EQ(fixture.model().result(CategoryID::logs).items.size(), 1);
+}
+
+TEST(AppModelScan, ApplyDropsSafeListAndICloudItems)
+{
+    ModelFixture fixture;
+    CleanupItem tool = rowAt(CategoryID::appCaches, "/Users/a/Library/Caches/tool");
+    tool.id = "docker:buildcache";
+    fixture.settings().addSafeItem(tool);
+
+    fixture.model().apply(outputOf(CategoryID::appCaches, {
+        tool,
+        rowAt(CategoryID::appCaches, "/Users/a/Library/Caches/com.apple.cloudkit.foo"),
+        rowAt(CategoryID::appCaches, "/Users/a/Library/CloudStorage"),
+        rowAt(CategoryID::appCaches, "/Users/a/Documents/CloudKit"),
+    }), false);
+
+    const QList<CleanupItem> kept = fixture.model().result(CategoryID::appCaches).items;
+    ASSERT_EQ(kept.size(), 1);
+    EXPECT_EQ(kept.first().id, "/Users/a/Documents/CloudKit");
+}
+
+TEST(AppModelScan, RescanRerunsEveryScannerOfTheCategoryAndRefreshesTheirCategories)
+{
+    auto walk = std::make_shared<FakeScanner>(QList{CategoryID::projects, CategoryID::largeFiles},
+        outputOf(CategoryID::largeFiles, {rowAt(CategoryID::largeFiles, "/Users/a/big.mov")}));
+    auto other = std::make_shared<FakeScanner>(QList{CategoryID::logs}, ScanOutputs{});
+    ModelFixture fixture({walk, other});
+    AppModel& model = fixture.model();
+
+    model.rescan(CategoryID::largeFiles);
+    EXPECT_EQ(model.result(CategoryID::projects).state, CategoryResult::State::scanning);
+    EXPECT_TRUE(model.isBusyScanning());
+    model.startScan();  // refused while a rescan runs
+    EXPECT_FALSE(model.isScanning());
+    ASSERT_TRUE(waitUntil([&] { return !model.isBusyScanning(); }));
+    EXPECT_EQ(walk->runs(), 1);
+    EXPECT_EQ(other->runs(), 0);
+    EXPECT_EQ(model.result(CategoryID::projects).state, CategoryResult::State::done);
+    EXPECT_EQ(model.result(CategoryID::largeFiles).items.size(), 1);
+    EXPECT_EQ(model.result(CategoryID::logs).state, CategoryResult::State::idle);
+}
+
+TEST(AppModelScan, ContextCarriesTheStoredChoices)
+{
+    ModelFixture fixture;
+    fixture.settings().addRoot("/Users/a/Projects");
+    fixture.settings().addSafeFolder("/Users/a/Projects/keep");
+    const ScanContext context = fixture.model().makeContext();
+    EXPECT_EQ(context.home, "/Users/a");
+    EXPECT_TRUE(context.roots.contains("/Users/a/Projects"));
+    EXPECT_EQ(context.safeFolders, QSet<QString>{"/Users/a/Projects/keep"});
+    EXPECT_EQ(context.progress, fixture.model().progress());
+}
