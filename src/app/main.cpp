@@ -1,8 +1,8 @@
+#include "model/AppLanguage.h"
 #include "ui/MainWindow.h"
 
 #include <QApplication>
-#include <QLocale>
-#include <QTranslator>
+#include <QSettings>
 
 int main(int argc, char* argv[])
 {
@@ -10,9 +10,7 @@ int main(int argc, char* argv[])
     QApplication::setOrganizationName(QStringLiteral("Dustlark"));
     QApplication::setApplicationName(QStringLiteral("Dustlark"));
 
-    QTranslator translator;
-    if (translator.load(QLocale(), QStringLiteral("dustlark"), QStringLiteral("_"), QStringLiteral(":/i18n")))
-        QApplication::installTranslator(&translator);
+    AppLanguage::loadAtLaunch(QSettings());
 
     MainWindow window;
     window.show();

@@ -1,5 +1,6 @@
 #include "report/ReportCommand.h"
 
+#include "model/SettingsStore.h"
 #include "report/ScanRunner.h"
 #include "scan/ScannerCatalog.h"
 
@@ -28,7 +29,7 @@ ScanContext makeContext(const ReportOptions& options, const Protection& protecti
         context.roots = options.home ? QStringList{context.home} : protection.scanRoots;
     if (context.roots.isEmpty())
         context.roots = {context.home};
-    context.safeFolders = QSet<QString>(protection.protectedPaths.begin(), protection.protectedPaths.end());
+    context.safeFolders = QSet<QString>(protection.safeFolders.begin(), protection.safeFolders.end());
     return context;
 }
 
@@ -40,6 +41,17 @@ QList<CategoryID> askedCategories(const ReportOptions& options)
 }
 
 }  // namespace
+
+Protection storedProtection(QSettings* settings)
+{
+    const SettingsStore store(settings);
+    Protection protection;
+    protection.safeItemIds = QSet<QString>(store.safeItems().begin(), store.safeItems().end());
+    protection.protectedPaths = store.protectedPaths();
+    protection.safeFolders = store.safeFolders();
+    protection.scanRoots = store.scanRoots();
+    return protection;
+}
 
 ScanReport::Results scan(const ReportOptions& options, const Protection& protection)
 {
@@ -69,7 +81,9 @@ int run(const QStringList& arguments)
         std::fprintf(stderr, "%s\n", qPrintable(error));
         return 2;
     }
-    Protection protection;
+    // With --home the fixture home stands alone: the person's Safe List does not apply.
+    QSettings settings(QStringLiteral("Dustlark"), QStringLiteral("Dustlark"));
+    const Protection protection = options->home ? Protection{} : storedProtection(&settings);
     const ScanReport::Results results = scan(*options, protection);
     const QString home = standardized(options->home.value_or(QDir::homePath()));
     const QByteArray out = options->json

@@ -4,6 +4,7 @@
 #include "report/ScanReport.h"
 
 #include <QSet>
+#include <QSettings>
 
 // What the report tool does for one command line: build the context, run the scanners that
 // fill the asked categories, filter like the app, and render. Never changes anything on disk.
@@ -12,8 +13,12 @@ namespace ReportCommand {
 struct Protection {
     QSet<QString> safeItemIds;
     QStringList protectedPaths;
+    QStringList safeFolders;
     QStringList scanRoots;  // used when no --home and no --root is given
 };
+
+// The person's stored scan folders and Safe List, read through the settings store.
+Protection storedProtection(QSettings* settings);
 
 ScanReport::Results scan(const ReportOptions& options, const Protection& protection);
 
