@@ -28,7 +28,8 @@ QStringList runningExecutables();
 // system has no such flag.
 bool isDataless(const struct stat& info);
 
-// The file's creation time where the file system records one.
+// The file's creation time where the file system records one (of the link itself for a
+// symbolic link); absent when it has none or the path cannot be read.
 std::optional<QDateTime> birthTime(const QString& path);
 
 // Free bytes of the volume holding `path` that the system would let the person use
@@ -40,5 +41,15 @@ std::optional<qint64> totalCapacity(const QString& path);
 
 // One line naming this machine for an AI assistant, e.g. "macOS 14.5 on Apple M2".
 QString machineDescription();
+
+// Opens a pipe whose two ends no launched program inherits unless they are handed over
+// explicitly (close-on-exec from the start where the system allows it). False, with errno
+// set, when no pipe can be made.
+bool openPrivatePipe(int ends[2]);
+
+// posix_spawn flags this system adds to the portable ones. On macOS a launched tool gets only
+// the descriptors handed to it, so a pipe another thread opens at the same moment never leaks
+// into it; zero where the system has no such flag.
+short extraSpawnFlags();
 
 }  // namespace Platform

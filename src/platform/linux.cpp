@@ -1,10 +1,188 @@
 #include "platform/Platform.h"
 
+#include <QDir>
+#include <QFile>
+#include <QSysInfo>
+#include <QTimeZone>
+
+#include <fcntl.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+
 namespace Platform {
+
+namespace {
+
+// The fields of /proc/PID/stat after the command name, which may itself hold spaces and
+// parentheses; field 3 of the file ("state") is index 0 here.
+QList<QByteArray> statFieldsAfterName(pid_t pid)
+{
+    QFile file(QStringLiteral("/proc/%1/stat").arg(pid));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray line = file.readAll();
+    const qsizetype nameEnd = line.lastIndexOf(')');
+    if (nameEnd < 0)
+        return {};
+    return line.mid(nameEnd + 2).trimmed().split(' ');
+}
+
+std::optional<qint64> parentOf(pid_t pid)
+{
+    const QList<QByteArray> fields = statFieldsAfterName(pid);
+    if (fields.size() < 2)
+        return std::nullopt;
+    bool ok = false;
+    const qint64 parent = fields[1].toLongLong(&ok);
+    return ok ? std::optional<qint64>(parent) : std::nullopt;
+}
+
+QList<pid_t> allProcessIds()
+{
+    QList<pid_t> ids;
+    const QStringList names = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString& name : names) {
+        bool ok = false;
+        const int id = name.toInt(&ok);
+        if (ok && id > 0)
+            ids.append(id);
+    }
+    return ids;
+}
+
+// Seconds since 1970 at which the system booted, from /proc/stat; 0 when unreadable.
+qint64 bootTimeSeconds()
+{
+    QFile file(QStringLiteral("/proc/stat"));
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    for (const QByteArray& line : file.readAll().split('\n')) {
+        if (line.startsWith("btime "))
+            return line.mid(6).trimmed().toLongLong();
+    }
+    return 0;
+}
+
+// The value of `key` in a "key<separator>value" text file, without surrounding quotes.
+QString valueInFile(const QString& path, const QByteArray& key, char separator)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    for (const QByteArray& line : file.readAll().split('\n')) {
+        const qsizetype at = line.indexOf(separator);
+        if (at < 0 || line.left(at).trimmed() != key)
+            continue;
+        QByteArray value = line.mid(at + 1).trimmed();
+        if (value.size() >= 2 && value.startsWith('"') && value.endsWith('"'))
+            value = value.mid(1, value.size() - 2);
+        return QString::fromUtf8(value);
+    }
+    return {};
+}
+
+std::optional<struct statvfs> volumeInfo(const QString& path)
+{
+    struct statvfs info {};
+    if (::statvfs(QFile::encodeName(path).constData(), &info) != 0)
+        return std::nullopt;
+    return info;
+}
+
+}  // namespace
+
+std::vector<pid_t> childProcesses(pid_t parent)
+{
+    // /proc/PID/task/*/children needs a kernel option that is often off; the parent field of
+    // every process's stat file is always there.
+    std::vector<pid_t> children;
+    for (pid_t id : allProcessIds()) {
+        if (parentOf(id) == parent)
+            children.push_back(id);
+    }
+    return children;
+}
+
+std::optional<qint64> processStartTime(pid_t pid)
+{
+    static const qint64 bootSeconds = bootTimeSeconds();
+    static const long ticksPerSecond = sysconf(_SC_CLK_TCK);
+    const QList<QByteArray> fields = statFieldsAfterName(pid);
+    constexpr int startTimeIndex = 22 - 3;  // field 22 of the file, counted from "state"
+    if (bootSeconds == 0 || ticksPerSecond <= 0 || fields.size() <= startTimeIndex)
+        return std::nullopt;
+    bool ok = false;
+    const qint64 ticks = fields[startTimeIndex].toLongLong(&ok);
+    if (!ok)
+        return std::nullopt;
+    return bootSeconds * 1'000'000 + ticks * 1'000'000 / ticksPerSecond;
+}
+
+QStringList runningExecutables()
+{
+    QStringList paths;
+    for (pid_t id : allProcessIds()) {
+        const QByteArray link = QFile::encodeName(QStringLiteral("/proc/%1/exe").arg(id));
+        char target[4096];
+        const ssize_t length = ::readlink(link.constData(), target, sizeof target);
+        if (length > 0 && length < ssize_t(sizeof target))
+            paths.append(QFile::decodeName(QByteArray(target, length)));
+    }
+    return paths;
+}
 
 bool isDataless(const struct stat&)
 {
     return false;  // Linux file systems have no evicted-to-the-cloud flag
+}
+
+std::optional<QDateTime> birthTime(const QString& path)
+{
+    struct statx info {};
+    const QByteArray name = QFile::encodeName(path);
+    if (::statx(AT_FDCWD, name.constData(), AT_SYMLINK_NOFOLLOW, STATX_BTIME, &info) != 0)
+        return std::nullopt;
+    if ((info.stx_mask & STATX_BTIME) == 0)
+        return std::nullopt;
+    const qint64 milliseconds = qint64(info.stx_btime.tv_sec) * 1000 + info.stx_btime.tv_nsec / 1'000'000;
+    return QDateTime::fromMSecsSinceEpoch(milliseconds, QTimeZone::utc());
+}
+
+std::optional<qint64> availableCapacity(const QString& path)
+{
+    const auto info = volumeInfo(path);
+    if (!info)
+        return std::nullopt;
+    return qint64(info->f_bavail) * qint64(info->f_frsize);
+}
+
+std::optional<qint64> totalCapacity(const QString& path)
+{
+    const auto info = volumeInfo(path);
+    if (!info)
+        return std::nullopt;
+    return qint64(info->f_blocks) * qint64(info->f_frsize);
+}
+
+QString machineDescription()
+{
+    QString system = valueInFile(QStringLiteral("/etc/os-release"), "PRETTY_NAME", '=');
+    if (system.isEmpty())
+        system = QSysInfo::prettyProductName();
+    QString processor = valueInFile(QStringLiteral("/proc/cpuinfo"), "model name", ':');
+    if (processor.isEmpty())
+        processor = QSysInfo::currentCpuArchitecture();
+    return system + QStringLiteral(" on ") + processor;
+}
+
+bool openPrivatePipe(int ends[2])
+{
+    return ::pipe2(ends, O_CLOEXEC) == 0;
+}
+
+short extraSpawnFlags()
+{
+    return 0;
 }
 
 }  // namespace Platform

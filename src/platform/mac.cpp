@@ -1,10 +1,138 @@
 #include "platform/Platform.h"
 
+#include <QFile>
+#include <QTimeZone>
+
+#include <CoreFoundation/CoreFoundation.h>
+#include <algorithm>
+#include <cstring>
+#include <fcntl.h>
+#include <libproc.h>
+#include <spawn.h>
+#include <sys/sysctl.h>
+#include <unistd.h>
+
 namespace Platform {
+
+namespace {
+
+// proc_list*pids fill `ids` and return how many they wrote (not bytes), or -1.
+std::vector<pid_t> positiveIds(std::vector<pid_t> ids, int count)
+{
+    ids.resize(size_t(std::clamp(count, 0, int(ids.size()))));
+    std::erase_if(ids, [](pid_t id) { return id <= 0; });
+    return ids;
+}
+
+QString sysctlText(const char* name)
+{
+    char buffer[256] = {};
+    size_t size = sizeof buffer;
+    if (::sysctlbyname(name, buffer, &size, nullptr, 0) != 0)
+        return {};
+    return QString::fromUtf8(buffer, qsizetype(strnlen(buffer, sizeof buffer)));
+}
+
+// A number-valued volume property of the volume holding `path`; absent when unreadable.
+std::optional<qint64> volumeNumber(const QString& path, CFStringRef key)
+{
+    const QByteArray name = QFile::encodeName(path);
+    CFURLRef url = CFURLCreateFromFileSystemRepresentation(
+        kCFAllocatorDefault, reinterpret_cast<const UInt8*>(name.constData()), CFIndex(name.size()), false);
+    if (url == nullptr)
+        return std::nullopt;
+    std::optional<qint64> result;
+    CFTypeRef value = nullptr;
+    if (CFURLCopyResourcePropertyForKey(url, key, &value, nullptr) && value != nullptr) {
+        SInt64 number = 0;
+        if (CFGetTypeID(value) == CFNumberGetTypeID()
+            && CFNumberGetValue(static_cast<CFNumberRef>(value), kCFNumberSInt64Type, &number))
+            result = number;
+        CFRelease(value);
+    }
+    CFRelease(url);
+    return result;
+}
+
+}  // namespace
+
+std::vector<pid_t> childProcesses(pid_t parent)
+{
+    std::vector<pid_t> ids(4096);
+    const int count = proc_listchildpids(parent, ids.data(), int(ids.size() * sizeof(pid_t)));
+    return positiveIds(std::move(ids), count);
+}
+
+std::optional<qint64> processStartTime(pid_t pid)
+{
+    struct proc_bsdinfo info {};
+    if (proc_pidinfo(pid, PROC_PIDTBSDINFO, 0, &info, sizeof info) != int(sizeof info))
+        return std::nullopt;
+    return qint64(info.pbi_start_tvsec) * 1'000'000 + qint64(info.pbi_start_tvusec);
+}
+
+QStringList runningExecutables()
+{
+    const int estimate = proc_listallpids(nullptr, 0);
+    if (estimate <= 0)
+        return {};
+    std::vector<pid_t> ids(size_t(estimate) + 64);  // room for processes started meanwhile
+    const int count = proc_listallpids(ids.data(), int(ids.size() * sizeof(pid_t)));
+    ids = positiveIds(std::move(ids), count);
+    QStringList paths;
+    char path[PROC_PIDPATHINFO_MAXSIZE];
+    for (pid_t id : ids) {
+        if (proc_pidpath(id, path, sizeof path) > 0)
+            paths.append(QFile::decodeName(path));
+    }
+    return paths;
+}
 
 bool isDataless(const struct stat& info)
 {
     return (info.st_flags & SF_DATALESS) != 0;
+}
+
+std::optional<QDateTime> birthTime(const QString& path)
+{
+    struct stat info {};
+    if (::lstat(QFile::encodeName(path).constData(), &info) != 0 || info.st_birthtimespec.tv_sec <= 0)
+        return std::nullopt;  // file systems without creation times report 0
+    const qint64 milliseconds =
+        qint64(info.st_birthtimespec.tv_sec) * 1000 + info.st_birthtimespec.tv_nsec / 1'000'000;
+    return QDateTime::fromMSecsSinceEpoch(milliseconds, QTimeZone::utc());
+}
+
+std::optional<qint64> availableCapacity(const QString& path)
+{
+    return volumeNumber(path, kCFURLVolumeAvailableCapacityForImportantUsageKey);
+}
+
+std::optional<qint64> totalCapacity(const QString& path)
+{
+    return volumeNumber(path, kCFURLVolumeTotalCapacityKey);
+}
+
+QString machineDescription()
+{
+    return QStringLiteral("macOS %1 on %2")
+        .arg(sysctlText("kern.osproductversion"), sysctlText("machdep.cpu.brand_string"));
+}
+
+bool openPrivatePipe(int ends[2])
+{
+    // macOS has no pipe2(); the short window before FD_CLOEXEC is covered for our own launches
+    // by POSIX_SPAWN_CLOEXEC_DEFAULT (extraSpawnFlags).
+    if (::pipe(ends) != 0)
+        return false;
+    ::fcntl(ends[0], F_SETFD, FD_CLOEXEC);
+    ::fcntl(ends[1], F_SETFD, FD_CLOEXEC);
+    return true;
+}
+
+short extraSpawnFlags()
+{
+    return POSIX_SPAWN_CLOEXEC_DEFAULT;
 }
 
 }  // namespace Platform

@@ -1,0 +1,137 @@
+#include "platform/Platform.h"
+
+#include "support/TempTree.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QFileInfo>
+#include <QProcess>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <fcntl.h>
+#include <thread>
+#include <unistd.h>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr qint64 microsecondsPerSecond = 1'000'000;
+
+qint64 nowInMicroseconds()
+{
+    return QDateTime::currentMSecsSinceEpoch() * 1000;
+}
+
+// A child of this test process that sleeps until it is killed.
+class Sleeper {
+public:
+    Sleeper() { m_process.start(QStringLiteral("/bin/sleep"), {QStringLiteral("300")}); }
+    ~Sleeper() { end(); }
+
+    bool started() { return m_process.waitForStarted(); }
+    pid_t pid() const { return pid_t(m_process.processId()); }
+    void end()
+    {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+
+private:
+    QProcess m_process;
+};
+
+bool contains(const std::vector<pid_t>& ids, pid_t id)
+{
+    return std::find(ids.begin(), ids.end(), id) != ids.end();
+}
+
+}  // namespace
+
+TEST(Platform, ChildProcessesListsAChildUntilItIsCollected)
+{
+    Sleeper sleeper;
+    ASSERT_TRUE(sleeper.started());
+    const pid_t child = sleeper.pid();
+    EXPECT_TRUE(contains(Platform::childProcesses(::getpid()), child));
+    EXPECT_FALSE(contains(Platform::childProcesses(child), child));
+
+    sleeper.end();
+    EXPECT_FALSE(contains(Platform::childProcesses(::getpid()), child));
+}
+
+TEST(Platform, ProcessStartTimeIsStableAndTellsProcessesApart)
+{
+    const qint64 before = nowInMicroseconds();
+    Sleeper first;
+    ASSERT_TRUE(first.started());
+    const std::optional<qint64> firstStart = Platform::processStartTime(first.pid());
+    ASSERT_TRUE(firstStart.has_value());
+    EXPECT_EQ(Platform::processStartTime(first.pid()), firstStart);
+    // Boot time is kept in whole seconds, so allow a little either way of the wall clock.
+    EXPECT_GT(*firstStart, before - 5 * microsecondsPerSecond);
+    EXPECT_LT(*firstStart, nowInMicroseconds() + 5 * microsecondsPerSecond);
+
+    first.end();
+    std::this_thread::sleep_for(50ms);  // start times tick in hundredths of a second here
+    Sleeper second;
+    ASSERT_TRUE(second.started());
+    const std::optional<qint64> secondStart = Platform::processStartTime(second.pid());
+    ASSERT_TRUE(secondStart.has_value());
+    EXPECT_GT(*secondStart, *firstStart);
+
+    EXPECT_EQ(Platform::processStartTime(0x7ffffff0), std::nullopt);
+}
+
+TEST(Platform, RunningExecutablesIncludeThisProgram)
+{
+    const QString self = QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath();
+    EXPECT_TRUE(Platform::runningExecutables().contains(self)) << self.toStdString();
+}
+
+TEST(Platform, VolumeCapacitiesAreReadableAndConsistent)
+{
+    const std::optional<qint64> available = Platform::availableCapacity(QStringLiteral("/tmp"));
+    const std::optional<qint64> total = Platform::totalCapacity(QStringLiteral("/tmp"));
+    ASSERT_TRUE(available.has_value());
+    ASSERT_TRUE(total.has_value());
+    EXPECT_GT(*available, 0);
+    EXPECT_LE(*available, *total);
+
+    EXPECT_EQ(Platform::availableCapacity(QStringLiteral("/no/such/folder")), std::nullopt);
+    EXPECT_EQ(Platform::totalCapacity(QStringLiteral("/no/such/folder")), std::nullopt);
+}
+
+TEST(Platform, BirthTimeIsRecentForANewFileAndReadsLinksThemselves)
+{
+    TempTree tree;
+    const QString file = tree.file(QStringLiteral("new.txt"), 10);
+    const QString dangling = tree.symlink(QStringLiteral("dangling"), tree.path(QStringLiteral("gone")));
+
+    const std::optional<QDateTime> born = Platform::birthTime(file);
+    if (born) {  // absent where the file system keeps no creation time
+        EXPECT_LT(std::abs(born->secsTo(QDateTime::currentDateTimeUtc())), 60);
+        EXPECT_TRUE(Platform::birthTime(dangling).has_value());
+    }
+    EXPECT_EQ(Platform::birthTime(tree.path(QStringLiteral("gone"))), std::nullopt);
+}
+
+TEST(Platform, MachineDescriptionNamesSystemAndProcessor)
+{
+    const QStringList parts = Platform::machineDescription().split(QStringLiteral(" on "));
+    ASSERT_EQ(parts.size(), 2);
+    EXPECT_FALSE(parts[0].trimmed().isEmpty());
+    EXPECT_FALSE(parts[1].trimmed().isEmpty());
+}
+
+TEST(Platform, PrivatePipeEndsAreClosedOnExec)
+{
+    int ends[2];
+    ASSERT_TRUE(Platform::openPrivatePipe(ends));
+    EXPECT_TRUE(::fcntl(ends[0], F_GETFD) & FD_CLOEXEC);
+    EXPECT_TRUE(::fcntl(ends[1], F_GETFD) & FD_CLOEXEC);
+    ::close(ends[0]);
+    ::close(ends[1]);
+}
