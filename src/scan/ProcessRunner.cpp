@@ -232,10 +232,14 @@ void stop(pid_t tool)
     std::vector<StoppedProcess> processes = processTree(tool);
     for (const StoppedProcess& process : processes)
         ::kill(process.pid, SIGTERM);
-    std::thread([processes = std::move(processes)] {
-        std::this_thread::sleep_for(killDelay);
-        killUnchanged(processes);
-    }).detach();
+    try {
+        std::thread([processes = std::move(processes)] {
+            std::this_thread::sleep_for(killDelay);
+            killUnchanged(processes);
+        }).detach();
+    } catch (const std::system_error&) {
+        // No thread to spare: the SIGTERM stands alone, and the run still waits for the tool.
+    }
 }
 
 // When a running tool must be stopped: its deadline has passed, or the caller cancelled.
