@@ -53,3 +53,13 @@ bool openPrivatePipe(int ends[2]);
 short extraSpawnFlags();
 
 }  // namespace Platform
+
+namespace Platform {
+
+// Where a file's data lies, when the file system says the file shares blocks with other files
+// (reflinks on Linux, clones on APFS): two files with equal keys occupy the same blocks, so
+// removing one of them frees nothing. Absent when the file's blocks are not shared or the
+// system cannot tell; callers then treat the file as owning its storage.
+std::optional<QByteArray> sharedStorageKey(const QString& path);
+
+}  // namespace Platform

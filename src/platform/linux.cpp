@@ -186,3 +186,84 @@ short extraSpawnFlags()
 }
 
 }  // namespace Platform
+
+// ---- Shared storage: FIEMAP reports each extent's physical place and whether it is shared ----
+
+#include <cstring>
+#include <linux/fiemap.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+
+namespace Platform {
+
+namespace {
+
+constexpr __u32 extentBatch = 256;
+// Extents whose physical address says nothing about sharing: not placed yet, or kept inside
+// the file system's metadata.
+constexpr __u32 unplacedExtent = FIEMAP_EXTENT_UNKNOWN | FIEMAP_EXTENT_DELALLOC
+    | FIEMAP_EXTENT_DATA_INLINE | FIEMAP_EXTENT_DATA_TAIL | FIEMAP_EXTENT_NOT_ALIGNED;
+
+enum class ExtentScan { more, done, failed };
+
+// Appends each extent of one batch as (logical, physical, length).
+ExtentScan appendExtents(const fiemap& map, QByteArray& key, bool& shared)
+{
+    for (__u32 i = 0; i < map.fm_mapped_extents; ++i) {
+        const fiemap_extent& extent = map.fm_extents[i];
+        if (extent.fe_flags & unplacedExtent)
+            return ExtentScan::failed;
+        shared = shared || (extent.fe_flags & FIEMAP_EXTENT_SHARED) != 0;
+        const __u64 place[3] = {extent.fe_logical, extent.fe_physical, extent.fe_length};
+        key.append(reinterpret_cast<const char*>(place), sizeof place);
+        if (extent.fe_flags & FIEMAP_EXTENT_LAST)
+            return ExtentScan::done;
+    }
+    return map.fm_mapped_extents == 0 ? ExtentScan::done : ExtentScan::more;
+}
+
+// Every extent of the open file, when at least one of them is shared.
+std::optional<QByteArray> sharedExtents(int fd)
+{
+    std::vector<std::uint64_t> storage((sizeof(fiemap) + extentBatch * sizeof(fiemap_extent)) / 8 + 1);
+    auto* map = reinterpret_cast<fiemap*>(storage.data());
+    QByteArray key;
+    bool shared = false;
+    for (__u64 start = 0;;) {
+        std::memset(map, 0, sizeof(fiemap));
+        map->fm_start = start;
+        map->fm_length = FIEMAP_MAX_OFFSET - start;
+        map->fm_extent_count = extentBatch;
+        if (::ioctl(fd, FS_IOC_FIEMAP, map) != 0)
+            return std::nullopt;
+        const ExtentScan scan = appendExtents(*map, key, shared);
+        if (scan == ExtentScan::failed)
+            return std::nullopt;
+        if (scan == ExtentScan::done)
+            return shared ? std::optional<QByteArray>(key) : std::nullopt;
+        const fiemap_extent& last = map->fm_extents[map->fm_mapped_extents - 1];
+        start = last.fe_logical + last.fe_length;
+    }
+}
+
+}  // namespace
+
+std::optional<QByteArray> sharedStorageKey(const QString& path)
+{
+    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
+    if (fd < 0)
+        return std::nullopt;
+    struct stat info {};
+    std::optional<QByteArray> key;
+    if (::fstat(fd, &info) == 0 && S_ISREG(info.st_mode))
+        key = sharedExtents(fd);
+    ::close(fd);
+    // Physical addresses are per volume.
+    const quint64 device = info.st_dev;
+    if (key)
+        key->prepend(reinterpret_cast<const char*>(&device), sizeof device);
+    return key;
+}
+
+}  // namespace Platform

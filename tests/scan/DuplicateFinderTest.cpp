@@ -1,0 +1,293 @@
+#include "scan/DuplicateFinder.h"
+
+#include "platform/Platform.h"
+#include "support/TempTree.h"
+
+#include <QCryptographicHash>
+#include <QFile>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QThread>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+using DuplicateFinder::File;
+
+constexpr qint64 head = 65'536;
+
+// `size` bytes that differ from every other call's content within their first bytes.
+QByteArray randomContent(qint64 size)
+{
+    QByteArray content(size, Qt::Uninitialized);
+    QRandomGenerator::global()->fillRange(reinterpret_cast<quint32*>(content.data()), size / 4);
+    for (qint64 i = size / 4 * 4; i < size; ++i)
+        content[i] = char(QRandomGenerator::global()->bounded(256));
+    return content;
+}
+
+// Copies with `cp --reflink=always`: false where the file system cannot share blocks.
+bool reflink(const QString& from, const QString& to)
+{
+    QProcess cp;
+    cp.start(QStringLiteral("cp"), {QStringLiteral("--reflink=always"), from, to});
+    return cp.waitForFinished() && cp.exitStatus() == QProcess::NormalExit && cp.exitCode() == 0;
+}
+
+QString sha256(const QByteArray& content)
+{
+    return QString::fromLatin1(QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex());
+}
+
+class DuplicateFinderTest : public ::testing::Test {
+protected:
+    DuplicateFinderTest() { context.home = tree.root(); }
+
+    // The candidate as the walk reports it.
+    File candidate(const QString& path) const
+    {
+        struct stat info {};
+        EXPECT_EQ(::lstat(QFile::encodeName(path).constData(), &info), 0) << qPrintable(path);
+        File file;
+        file.path = path;
+        file.size = info.st_size;
+        file.allocated = qint64(info.st_blocks) * 512;
+        file.device = qint32(info.st_dev);
+        file.inode = info.st_ino;
+        file.stamp = {info.st_size, qint64(info.st_mtim.tv_sec) * 1'000'000'000 + info.st_mtim.tv_nsec};
+        return file;
+    }
+
+    QList<File> candidates(const QStringList& relativePaths) const
+    {
+        QList<File> files;
+        for (const QString& relative : relativePaths)
+            files.append(candidate(tree.path(relative)));
+        return files;
+    }
+
+    DuplicateFinder::Outcome find(const QStringList& relativePaths) const
+    {
+        return DuplicateFinder::find(candidates(relativePaths), context);
+    }
+
+    static QStringList titles(const QList<CleanupItem>& items)
+    {
+        QStringList result;
+        for (const CleanupItem& item : items)
+            result.append(item.title);
+        return result;
+    }
+
+    TempTree tree;
+    ScanContext context;
+};
+
+TEST_F(DuplicateFinderTest, HardLinksToOneFileAreNoDuplicates)
+{
+    tree.file("a", 2'000'000);
+    tree.hardlink("b", "a");
+    const auto outcome = find({"a", "b"});
+    EXPECT_TRUE(outcome.items.isEmpty());
+    EXPECT_EQ(outcome.stats.filesRead, 0) << "one stored file has nothing to compare with";
+}
+
+TEST_F(DuplicateFinderTest, FilesOfExactly64KiBAreComparedWholeByTheFirstPass)
+{
+    const QByteArray content = randomContent(head);
+    tree.file("a", content);
+    tree.file("b", content);
+    const auto outcome = find({"a", "b"});
+    ASSERT_EQ(outcome.items.size(), 2);
+    EXPECT_EQ(outcome.items[0].duplicateGroup, sha256(content));
+    EXPECT_EQ(outcome.items[1].duplicateGroup, sha256(content));
+    EXPECT_EQ(outcome.stats.filesReadWhole, 0);
+    EXPECT_EQ(outcome.stats.bytesRead, 2 * head);
+    EXPECT_EQ(context.progress->snapshot().entries, 2);
+}
+
+TEST_F(DuplicateFinderTest, ALastByteBeyond64KiBSeparatesFiles)
+{
+    QByteArray content = randomContent(head + 1);
+    tree.file("a", content);
+    content[head] = char(content[head] ^ 1);
+    tree.file("b", content);
+    const auto outcome = find({"a", "b"});
+    EXPECT_TRUE(outcome.items.isEmpty());
+    EXPECT_EQ(outcome.stats.filesReadWhole, 2);
+}
+
+// Same size everywhere: "same" is a true copy of "original", "tail" shares their first 64 KiB
+// but differs later, "other" differs at once and must never be read past its head.
+TEST_F(DuplicateFinderTest, OnlyFilesSharingTheirHeadAreReadWholeAndOnlyOnce)
+{
+    constexpr qint64 size = 3 * 1'048'576 + 17;  // several chunks and a ragged end
+    const QByteArray content = randomContent(size);
+    tree.file("original", content);
+    tree.file("same", content);
+    QByteArray tail = content;
+    tail[size - 2] = char(tail[size - 2] ^ 0x40);
+    tree.file("tail", tail);
+    tree.file("other", randomContent(size));
+
+    const auto outcome = find({"original", "tail", "other", "same"});
+    EXPECT_EQ(titles(outcome.items), QStringList({"~/original", "~/same"}));
+    ASSERT_FALSE(outcome.items.isEmpty());
+    EXPECT_EQ(outcome.items[0].duplicateGroup, sha256(content));
+    EXPECT_EQ(outcome.stats.filesRead, 4);
+    EXPECT_EQ(outcome.stats.filesReadWhole, 3);
+    // Heads once each, the rest of the three head-sharing files once each: nothing twice.
+    EXPECT_EQ(outcome.stats.bytesRead, 4 * head + 3 * (size - head));
+}
+
+TEST_F(DuplicateFinderTest, ThreeCopiesMakeOneGroupOldestFirst)
+{
+    const QByteArray content = randomContent(1'500'000);
+    for (const char* name : {"Documents/first.bin", "Desktop/second.bin", "third.bin"}) {
+        tree.file(name, content);
+        QThread::msleep(20);  // birth times come from a coarse clock
+    }
+    tree.setTimes("Documents/first.bin", 1'600'000'000);
+    tree.setTimes("Desktop/second.bin", 1'650'000'000);
+    tree.setTimes("third.bin", 1'700'000'000);
+    const QStringList files = {"third.bin", "Documents/first.bin", "Desktop/second.bin"};
+    const auto outcome = find(files);
+
+    ASSERT_EQ(titles(outcome.items),
+              QStringList({"~/Documents/first.bin", "~/Desktop/second.bin", "~/third.bin"}));
+    for (int i = 0; i < 3; ++i) {
+        const CleanupItem& item = outcome.items[i];
+        EXPECT_EQ(item.category, CategoryID::duplicates);
+        EXPECT_EQ(item.duplicateGroup, sha256(content));
+        EXPECT_EQ(item.isOldestCopy, i == 0);
+        EXPECT_EQ(item.badge, i == 0 ? std::optional<QString>("Oldest copy") : std::nullopt);
+        EXPECT_TRUE(item.detail.startsWith("created ")) << qPrintable(item.detail);
+        EXPECT_EQ(item.safety(tree.root()), Safety::askAI);
+    }
+    const File expected = candidate(tree.path("Documents/first.bin"));
+    const CleanupItem& oldest = outcome.items[0];
+    EXPECT_EQ(oldest.id, expected.path);
+    EXPECT_EQ(oldest.size, expected.allocated);
+    const auto* trash = oldest.removal.as<Removal::Trash>();
+    ASSERT_TRUE(trash && trash->targets.size() == 1);
+    EXPECT_EQ(trash->targets[0].path, expected.path);
+    EXPECT_EQ(trash->targets[0].inode, expected.inode);
+    EXPECT_EQ(trash->targets[0].device, expected.device);
+    EXPECT_EQ(trash->targets[0].content, expected.stamp);
+}
+
+TEST_F(DuplicateFinderTest, CreationTimeOutranksModificationTime)
+{
+    const QByteArray content = randomContent(1'200'000);
+    tree.file("original", content);
+    QThread::msleep(20);
+    tree.file("copy", content);
+    if (!Platform::birthTime(tree.path("original")) || !Platform::birthTime(tree.path("copy")))
+        GTEST_SKIP() << "this file system records no creation times";
+    tree.setTimes("original", 1'700'000'000);  // edited after the copy was made
+    tree.setTimes("copy", 1'600'000'000);
+    const auto items = find({"copy", "original"}).items;
+    ASSERT_EQ(titles(items), QStringList({"~/original", "~/copy"}));
+    EXPECT_EQ(items[0].detail, "created just now");
+}
+
+TEST_F(DuplicateFinderTest, ACopyThatIsGoneOrReplacedDropsOutAndALoneSurvivorIsNoGroup)
+{
+    const QByteArray content = randomContent(1'100'000);
+    for (const char* name : {"a", "b", "c", "d"})
+        tree.file(name, content);
+    QList<File> files = candidates({"a", "b", "c", "d"});
+    QFile::remove(tree.path("c"));
+    QFile::remove(tree.path("d"));
+    tree.file("d", content);  // same content, but not the file the walk saw
+
+    EXPECT_EQ(titles(DuplicateFinder::items(files, context)), QStringList({"~/a", "~/b"}));
+    QFile::remove(tree.path("b"));
+    EXPECT_TRUE(DuplicateFinder::items(files, context).isEmpty());
+}
+
+TEST_F(DuplicateFinderTest, AnUnreadableCopyDropsOut)
+{
+    if (::geteuid() == 0)
+        GTEST_SKIP() << "root reads files without read permission";
+    const QByteArray content = randomContent(1'100'000);
+    for (const char* name : {"a", "b", "c"})
+        tree.file(name, content);
+    QFile::setPermissions(tree.path("b"), QFileDevice::WriteOwner);
+    EXPECT_EQ(titles(find({"a", "b", "c"}).items), QStringList({"~/a", "~/c"}));
+}
+
+TEST_F(DuplicateFinderTest, ACancelledScanReadsNothing)
+{
+    const QByteArray content = randomContent(1'100'000);
+    tree.file("a", content);
+    tree.file("b", content);
+    context.cancellation.cancel();
+    const auto outcome = find({"a", "b"});
+    EXPECT_TRUE(outcome.items.isEmpty());
+    EXPECT_EQ(outcome.stats.bytesRead, 0);
+}
+
+TEST_F(DuplicateFinderTest, GroupsComeLargestFirstAndPathsOutsideHomeStayWhole)
+{
+    tree.file("small-1", 1'000'000, 's');
+    tree.file("small-2", 1'000'000, 's');
+    tree.file("large-1", 4'000'000, 'l');
+    tree.file("large-2", 4'000'000, 'l');
+    context.home = tree.path("elsewhere");
+    const auto items = find({"small-1", "large-1", "small-2", "large-2"}).items;
+    EXPECT_EQ(titles(items), QStringList({tree.path("large-1"), tree.path("large-2"),
+                                          tree.path("small-1"), tree.path("small-2")}));
+}
+
+TEST_F(DuplicateFinderTest, ClonesCountOnceLikeHardLinks)
+{
+    const QByteArray content = randomContent(1'300'000);
+    tree.file("original", content);
+    tree.file("copy", content);
+    EXPECT_EQ(Platform::sharedStorageKey(tree.path("copy")), std::nullopt);
+    EXPECT_EQ(Platform::sharedStorageKey(tree.path("missing")), std::nullopt);
+    if (!reflink(tree.path("original"), tree.path("clone")))
+        GTEST_SKIP() << "the temporary folder's file system cannot share blocks (no reflinks)";
+    tree.setTimes("original", 1'600'000'000);
+    tree.setTimes("copy", 1'650'000'000);
+    tree.setTimes("clone", 1'700'000'000);
+    const auto cloneStorage = Platform::sharedStorageKey(tree.path("clone"));
+    ASSERT_TRUE(cloneStorage.has_value());
+    EXPECT_EQ(cloneStorage, Platform::sharedStorageKey(tree.path("original")));
+
+    const auto outcome = find({"clone", "copy", "original"});
+    QStringList kept = titles(outcome.items);
+    kept.sort();
+    EXPECT_EQ(kept, QStringList({"~/copy", "~/original"})) << "the clone is the younger of the pair";
+    EXPECT_EQ(outcome.stats.sharedStorage, 1);
+    EXPECT_TRUE(find({"clone", "original"}).items.isEmpty()) << "removing either frees nothing";
+}
+
+TEST(DuplicateFinderDigest, MatchesKnownSha256)
+{
+    TempTree tree;
+    const QString abc = tree.file("abc", QByteArray("abc"));
+    EXPECT_EQ(DuplicateFinder::digest(abc),
+              "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad");
+    EXPECT_EQ(DuplicateFinder::digest(abc, 1),
+              "ca978112ca1bbdcafac231b39a23dc4da786eff8147c4e72b9807785afee48bb");  // "a"
+    EXPECT_EQ(DuplicateFinder::digest(tree.file("empty", 0)),
+              "e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855");
+    EXPECT_EQ(DuplicateFinder::digest(tree.path("missing")), std::nullopt);
+    EXPECT_EQ(DuplicateFinder::digest(tree.dir("folder")), std::nullopt);
+}
+
+TEST(DuplicateFinderDigest, SpansChunksAndStopsAtTheLimit)
+{
+    TempTree tree;
+    const QByteArray content = randomContent(2'500'000);
+    const QString path = tree.file("big", content);
+    EXPECT_EQ(DuplicateFinder::digest(path), sha256(content));
+    EXPECT_EQ(DuplicateFinder::digest(path, 1'500'000), sha256(content.left(1'500'000)));
+    EXPECT_EQ(DuplicateFinder::digest(path, 9'000'000), sha256(content));
+}
+
+}  // namespace
