@@ -63,3 +63,22 @@ namespace Platform {
 std::optional<QByteArray> sharedStorageKey(const QString& path);
 
 }  // namespace Platform
+
+namespace Platform {
+
+// Renames `from` to `to` only when nothing exists at `to` (renameat2 RENAME_NOREPLACE on Linux,
+// renamex_np RENAME_EXCL on macOS), so an object is never put back over another. 0 on success,
+// otherwise the errno (EEXIST when the name is taken).
+int renameNoReplace(const QString& from, const QString& to);
+
+// Modification and status-change times of a status record in nanoseconds since 1970, at the
+// file system's own precision.
+qint64 modificationNanoseconds(const struct stat& info);
+qint64 statusChangeNanoseconds(const struct stat& info);
+
+// Whose conventions the desktop follows for the Trash, privacy settings and showing files:
+// Finder's on macOS, freedesktop.org's on Linux.
+enum class Desktop { finder, freedesktop };
+Desktop desktop();
+
+}  // namespace Platform

@@ -267,3 +267,34 @@ std::optional<QByteArray> sharedStorageKey(const QString& path)
 }
 
 }  // namespace Platform
+
+#include <cerrno>
+#include <cstdio>  // renameat2 / renamex_np
+
+namespace Platform {
+
+int renameNoReplace(const QString& from, const QString& to)
+{
+    const QByteArray source = QFile::encodeName(from);
+    const QByteArray target = QFile::encodeName(to);
+    if (::renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) == 0)
+        return 0;
+    return errno;
+}
+
+qint64 modificationNanoseconds(const struct stat& info)
+{
+    return qint64(info.st_mtim.tv_sec) * 1'000'000'000 + info.st_mtim.tv_nsec;
+}
+
+qint64 statusChangeNanoseconds(const struct stat& info)
+{
+    return qint64(info.st_ctim.tv_sec) * 1'000'000'000 + info.st_ctim.tv_nsec;
+}
+
+Desktop desktop()
+{
+    return Desktop::freedesktop;
+}
+
+}  // namespace Platform

@@ -149,3 +149,34 @@ std::optional<QByteArray> sharedStorageKey(const QString&)
 }
 
 }  // namespace Platform
+
+#include <cerrno>
+#include <cstdio>  // renameat2 / renamex_np
+
+namespace Platform {
+
+int renameNoReplace(const QString& from, const QString& to)
+{
+    const QByteArray source = QFile::encodeName(from);
+    const QByteArray target = QFile::encodeName(to);
+    if (::renamex_np(source.constData(), target.constData(), RENAME_EXCL) == 0)
+        return 0;
+    return errno;
+}
+
+qint64 modificationNanoseconds(const struct stat& info)
+{
+    return qint64(info.st_mtimespec.tv_sec) * 1'000'000'000 + info.st_mtimespec.tv_nsec;
+}
+
+qint64 statusChangeNanoseconds(const struct stat& info)
+{
+    return qint64(info.st_ctimespec.tv_sec) * 1'000'000'000 + info.st_ctimespec.tv_nsec;
+}
+
+Desktop desktop()
+{
+    return Desktop::finder;
+}
+
+}  // namespace Platform

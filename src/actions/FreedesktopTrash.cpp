@@ -1,0 +1,152 @@
+#include "actions/FreedesktopTrash.h"
+
+#include "actions/OwnerWrite.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <QStorageInfo>
+#include <fts.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace FreedesktopTrash {
+
+namespace {
+
+const QString infoSuffix = QStringLiteral(".trashinfo");
+
+QString canonical(const QString& path)
+{
+    const QString resolved = QFileInfo(path).canonicalFilePath();
+    return resolved.isEmpty() ? QDir::cleanPath(path) : resolved;
+}
+
+bool makeOwnerOnlyFolder(const QString& path)
+{
+    if (!QDir().mkpath(path))
+        return false;
+    return QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+}
+
+QStringList allowedFilesFolders(const QString& originalPath)
+{
+    QStringList folders{homeTrash() + QStringLiteral("/files")};
+    const QString top = QStorageInfo(QFileInfo(originalPath).path()).rootPath();
+    if (top.isEmpty())
+        return folders;
+    const QString uid = QString::number(::getuid());
+    const QString base = top.endsWith(QLatin1Char('/')) ? top : top + QLatin1Char('/');
+    folders << base + QStringLiteral(".Trash/") + uid + QStringLiteral("/files")
+            << base + QStringLiteral(".Trash-") + uid + QStringLiteral("/files");
+    return folders;
+}
+
+bool lexists(const QString& path)
+{
+    struct stat info {};
+    return ::lstat(QFile::encodeName(path).constData(), &info) == 0;
+}
+
+// Removes a file, link or folder tree without following links. True when it is gone.
+bool removeTree(const QString& path)
+{
+    if (!lexists(path))
+        return true;
+    OwnerWrite::addThroughTree(path);
+    QByteArray root = QFile::encodeName(path);
+    char* roots[] = {root.data(), nullptr};
+    FTS* tree = ::fts_open(roots, FTS_PHYSICAL | FTS_NOCHDIR | FTS_XDEV, nullptr);
+    if (!tree)
+        return false;
+    while (FTSENT* entry = ::fts_read(tree)) {
+        if (entry->fts_info == FTS_DP)
+            ::rmdir(entry->fts_accpath);
+        else if (entry->fts_info != FTS_D)
+            ::unlink(entry->fts_accpath);
+    }
+    ::fts_close(tree);
+    return !lexists(path);
+}
+
+QStringList entriesOf(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+}
+
+// Removes each trashed object; its info file goes only with it, so whatever stays can still
+// be put back by a file manager.
+bool removeObjects(const QString& trash)
+{
+    bool allRemoved = true;
+    for (const QString& name : entriesOf(trash + QStringLiteral("/files"))) {
+        if (removeTree(trash + QStringLiteral("/files/") + name))
+            QFile::remove(trash + QStringLiteral("/info/") + name + infoSuffix);
+        else
+            allRemoved = false;
+    }
+    return allRemoved;
+}
+
+void removeOrphanedInfo(const QString& trash)
+{
+    for (const QString& name : entriesOf(trash + QStringLiteral("/info"))) {
+        const QString object = name.endsWith(infoSuffix) ? name.chopped(infoSuffix.size()) : name;
+        if (!lexists(trash + QStringLiteral("/files/") + object))
+            QFile::remove(trash + QStringLiteral("/info/") + name);
+    }
+}
+
+}  // namespace
+
+QString homeTrash()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/Trash");
+}
+
+bool prepareHomeTrash()
+{
+    const QString trash = homeTrash();
+    if (!QDir::isAbsolutePath(trash))
+        return false;
+    return makeOwnerOnlyFolder(trash) && makeOwnerOnlyFolder(trash + QStringLiteral("/files"))
+        && makeOwnerOnlyFolder(trash + QStringLiteral("/info"));
+}
+
+bool isTrashLocation(const QString& pathInTrash, const QString& originalPath)
+{
+    if (!QDir::isAbsolutePath(pathInTrash))
+        return false;
+    const QString folder = canonical(QFileInfo(pathInTrash).path());
+    for (const QString& allowed : allowedFilesFolders(originalPath)) {
+        if (QFileInfo::exists(allowed) && canonical(allowed) == folder)
+            return true;
+    }
+    return false;
+}
+
+QString infoFile(const QString& pathInTrash)
+{
+    const QFileInfo object(pathInTrash);
+    const QDir files = object.dir();
+    if (files.dirName() != QLatin1String("files"))
+        return {};
+    return QFileInfo(files.path()).path() + QStringLiteral("/info/") + object.fileName() + infoSuffix;
+}
+
+std::optional<QString> empty()
+{
+    const QString trash = homeTrash();
+    const bool allRemoved = removeObjects(trash);
+    removeOrphanedInfo(trash);
+    removeTree(trash + QStringLiteral("/expunged"));
+    QFile::remove(trash + QStringLiteral("/directorysizes"));
+    if (allRemoved)
+        return std::nullopt;
+    //: Empty Trash error on Linux, when some trashed items could not be deleted
+    return QCoreApplication::translate("SystemAccess", "Some items in the Trash couldn't be removed. Empty the Trash again or use your file manager.");
+}
+
+}  // namespace FreedesktopTrash

@@ -1,0 +1,35 @@
+#include "actions/RemovalEnvironment.h"
+
+#include "actions/SystemTrash.h"
+#include "model/SharedScanFolders.h"
+#include "platform/Platform.h"
+
+#include <QDir>
+
+RemovalEnvironment RemovalEnvironment::current()
+{
+    RemovalEnvironment environment;
+    environment.home = QDir::cleanPath(QDir::homePath());
+    environment.otherVolumeFolders = SharedScanFolders::current();
+    environment.tools = ToolLocations::standard(environment.home);
+    environment.dockerScan = DockerScanRecord::last();
+    const QString dockerHost = qEnvironmentVariable("DOCKER_HOST");
+    if (!dockerHost.isEmpty())
+        environment.dockerHostVariable = dockerHost;
+    return environment;
+}
+
+QDateTime RemovalEnvironment::systemNow()
+{
+    return QDateTime::currentDateTimeUtc();
+}
+
+QStringList RemovalEnvironment::systemRunningExecutables()
+{
+    return Platform::runningExecutables();
+}
+
+TrashResult RemovalEnvironment::systemTrash(const QString& path)
+{
+    return SystemTrash::move(path);
+}

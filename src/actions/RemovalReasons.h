@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+// The sentences that say why an item was not removed, in one place so the checks, the trash
+// move and the tools word the same fault the same way. Thread-safe (translation lookups only).
+namespace RemovalReasons {
+
+[[nodiscard]] QString outsideHome();
+[[nodiscard]] QString noLongerExists();
+[[nodiscard]] QString symbolicLink();
+[[nodiscard]] QString changedSinceScan();
+[[nodiscard]] QString pathThroughSymbolicLink();
+[[nodiscard]] QString folderUnreadable();
+[[nodiscard]] QString gitLocked();
+[[nodiscard]] QString running();
+[[nodiscard]] QString changedInLastDay();
+[[nodiscard]] QString emptyTrashInstead();
+// The file manager's trash refused; `systemReason` is its own description, may be empty.
+[[nodiscard]] QString trashFailed(const QString& systemReason);
+// A tool could not even be started; `systemReason` is the system's description.
+[[nodiscard]] QString toolDidNotStart(const QString& systemReason);
+
+}  // namespace RemovalReasons

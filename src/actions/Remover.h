@@ -1,0 +1,33 @@
+#pragma once
+
+#include "actions/RemovalEnvironment.h"
+#include "actions/RemovalOutcome.h"
+#include "model/CleanupItem.h"
+#include "model/FileTarget.h"
+
+#include <QList>
+#include <QString>
+#include <optional>
+
+// Removes one cleanup item at the moment the cleanup session reaches it: files go to the Trash
+// after every target is checked again against the scan; Docker objects and simulators are
+// removed for good by their own tools. Stateless; every call blocks its worker thread until
+// done and is safe on any thread but the GUI's.
+namespace Remover {
+
+using Outcome = RemovalOutcome;
+
+// Moved to the Trash, removed by its tool, or failed with one sentence. Never throws; a
+// locked item is refused with its lock reason.
+[[nodiscard]] Outcome remove(const CleanupItem& item, const RemovalEnvironment& environment = RemovalEnvironment::current());
+
+// Nothing when the target may be moved to the Trash now, otherwise the reason. Also used by
+// the mover before it trashes an original.
+[[nodiscard]] std::optional<QString> problem(const FileTarget& target,
+                                             const RemovalEnvironment& environment = RemovalEnvironment::current());
+
+// Checks every target, then moves each to the Trash.
+[[nodiscard]] Outcome moveToTrash(const QList<FileTarget>& targets,
+                                  const RemovalEnvironment& environment = RemovalEnvironment::current());
+
+}  // namespace Remover

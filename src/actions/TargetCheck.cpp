@@ -1,0 +1,186 @@
+#include "actions/TargetCheck.h"
+
+#include "actions/Fingerprint.h"
+#include "actions/MovedTargets.h"
+#include "actions/RemovalReasons.h"
+#include "actions/SecurePath.h"
+#include "model/PathRules.h"
+#include "platform/Platform.h"
+
+#include <QDir>
+#include <QFile>
+#include <algorithm>
+#include <cerrno>
+#include <sys/stat.h>
+
+namespace TargetCheck {
+
+namespace {
+
+constexpr qint64 secondsPerDay = 86'400;
+
+bool isStrictlyInside(const QString& path, const QString& folder)
+{
+    return !folder.isEmpty() && path != folder && PathRules::isAtOrBelow(path, folder);
+}
+
+// "..", "." and doubled slashes could lead a path that looks inside the home folder out of it.
+bool isNormalAbsolute(const QString& path)
+{
+    return path.startsWith(QLatin1Char('/')) && QDir::cleanPath(path) == path;
+}
+
+bool lexists(const QString& path)
+{
+    struct stat info {};
+    return ::lstat(QFile::encodeName(path).constData(), &info) == 0;
+}
+
+bool isSameObject(const FileTarget& target, qint32 device, quint64 inode)
+{
+    return target.device == device && target.inode == inode;
+}
+
+std::optional<QString> vanishedProblem(const FileTarget& target, int error)
+{
+    if (error != ENOENT && error != ENOTDIR)
+        return RemovalReasons::folderUnreadable();
+    if (MovedTargets::contains(target))
+        return std::nullopt;  // it went to the Trash with an earlier item
+    return RemovalReasons::noLongerExists();
+}
+
+bool hasSameContent(const FileTarget::ContentStamp& stamp, const struct stat& info)
+{
+    return stamp.size == qint64(info.st_size) && stamp.modified == Platform::modificationNanoseconds(info);
+}
+
+// Checks 3 to 6: the object found at the path is the one the scan saw, unchanged.
+std::optional<QString> objectProblem(const FileTarget& target, const struct stat& info,
+                                     const RemovalEnvironment& environment)
+{
+    if (S_ISLNK(info.st_mode))
+        return RemovalReasons::symbolicLink();
+    if (!isSameObject(target, qint32(info.st_dev), quint64(info.st_ino)))
+        return RemovalReasons::changedSinceScan();
+    if (target.content && !hasSameContent(*target.content, info))
+        return RemovalReasons::changedSinceScan();
+    if (target.tree && Fingerprint::compute(target.path, environment.cancellation) != target.tree)
+        return RemovalReasons::changedSinceScan();
+    return std::nullopt;
+}
+
+std::optional<QString> parentProblem(const FileTarget& target)
+{
+    const SecurePath::Finding finding = SecurePath::examine(target.path);
+    switch (finding.verdict) {
+    case SecurePath::Verdict::ok:
+        if (isSameObject(target, finding.device, finding.inode))
+            return std::nullopt;
+        return RemovalReasons::changedSinceScan();
+    case SecurePath::Verdict::throughSymbolicLink:
+        return RemovalReasons::pathThroughSymbolicLink();
+    case SecurePath::Verdict::folderUnreadable:
+        return RemovalReasons::folderUnreadable();
+    case SecurePath::Verdict::changed:
+        return RemovalReasons::changedSinceScan();
+    case SecurePath::Verdict::missing:
+        return RemovalReasons::noLongerExists();
+    }
+    return RemovalReasons::folderUnreadable();
+}
+
+// A tree that can't be read completely might hide a recent change, so it doesn't count as quiet.
+bool isQuietSince(const QString& path, qint64 cutoff, const RemovalEnvironment& environment)
+{
+    const std::optional<TreeStamp> stamp = Fingerprint::compute(path, environment.cancellation);
+    return stamp && stamp->unreadable == 0 && stamp->latestChange < cutoff;
+}
+
+std::optional<QString> quietProblem(const FileTarget& target, const RemovalEnvironment& environment,
+                                    const std::optional<QString>& projectPath)
+{
+    if (!target.quietForADay && !target.projectQuietForADay)
+        return std::nullopt;
+    const qint64 cutoff = environment.now().toSecsSinceEpoch() - secondsPerDay;
+    if (target.quietForADay && !isQuietSince(target.path, cutoff, environment))
+        return RemovalReasons::changedInLastDay();
+    if (target.projectQuietForADay && (!projectPath || !isQuietSince(*projectPath, cutoff, environment)))
+        return RemovalReasons::changedInLastDay();
+    return std::nullopt;
+}
+
+bool runsProgram(const QStringList& pathParts, const QString& program)
+{
+    if (pathParts.isEmpty() || program.isEmpty())
+        return false;
+    if (pathParts.last().compare(program, Qt::CaseInsensitive) == 0)
+        return true;
+    const QString bundle = program + QStringLiteral(".app");
+    return std::any_of(pathParts.begin(), pathParts.end(),
+                       [&](const QString& part) { return part.compare(bundle, Qt::CaseInsensitive) == 0; });
+}
+
+}  // namespace
+
+std::optional<QString> problem(const FileTarget& target, const RemovalEnvironment& environment,
+                               const std::optional<QString>& projectPath)
+{
+    if (!isInAllowedPlace(target.path, environment))
+        return RemovalReasons::outsideHome();
+    struct stat info {};
+    if (::lstat(QFile::encodeName(target.path).constData(), &info) != 0)
+        return vanishedProblem(target, errno);
+    if (auto found = objectProblem(target, info, environment))
+        return found;
+    if (auto found = parentProblem(target))
+        return found;
+    if (target.gitLockFile && lexists(*target.gitLockFile))
+        return RemovalReasons::gitLocked();
+    if (auto found = runningProblem(target, environment))
+        return found;
+    return quietProblem(target, environment, projectPath);
+}
+
+bool isInAllowedPlace(const QString& path, const RemovalEnvironment& environment)
+{
+    if (!isNormalAbsolute(path))
+        return false;
+    if (isStrictlyInside(path, QDir::cleanPath(environment.home)) || isApplicationsBundle(path))
+        return true;
+    return std::any_of(environment.otherVolumeFolders.begin(), environment.otherVolumeFolders.end(),
+                       [&](const QString& folder) {
+                           const QString clean = QDir::cleanPath(folder);
+                           return clean.startsWith(QLatin1String("/Volumes/")) && isStrictlyInside(path, clean);
+                       });
+}
+
+bool isApplicationsBundle(const QString& path)
+{
+    static const QString applications = QStringLiteral("/Applications/");
+    return path.startsWith(applications) && path.endsWith(QLatin1String(".app"))
+        && path.size() > applications.size() + 4 && path.indexOf(QLatin1Char('/'), applications.size()) < 0;
+}
+
+bool usedByRunningApp(const QStringList& programs, const QStringList& runningExecutables)
+{
+    for (const QString& executable : runningExecutables) {
+        const QStringList parts = executable.split(QLatin1Char('/'), Qt::SkipEmptyParts);
+        for (const QString& program : programs) {
+            if (runsProgram(parts, program))
+                return true;
+        }
+    }
+    return false;
+}
+
+std::optional<QString> runningProblem(const FileTarget& target, const RemovalEnvironment& environment)
+{
+    if (target.usedWhileRunning.isEmpty())
+        return std::nullopt;
+    if (usedByRunningApp(target.usedWhileRunning, environment.runningExecutables()))
+        return RemovalReasons::running();
+    return std::nullopt;
+}
+
+}  // namespace TargetCheck

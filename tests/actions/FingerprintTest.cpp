@@ -1,0 +1,104 @@
+#include "actions/Fingerprint.h"
+#include "support/TempTree.h"
+
+#include <QDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr qint64 longAgo = 1'600'000'000;
+
+// A small project folder with a nested file, an empty folder and a link out of the tree.
+void buildProject(const TempTree& tree, const QString& top, const QString& outside)
+{
+    tree.file(top + QStringLiteral("/a.txt"), 100);
+    tree.file(top + QStringLiteral("/sub/b.bin"), 2000);
+    tree.dir(top + QStringLiteral("/empty"));
+    tree.symlink(top + QStringLiteral("/link"), outside);
+    for (const char* entry : {"/a.txt", "/sub/b.bin", "/empty", "/link", "/sub", ""})
+        tree.setTimes(top + QLatin1String(entry), longAgo);
+}
+
+TreeStamp stampOf(const QString& path)
+{
+    const std::optional<TreeStamp> stamp = Fingerprint::compute(path);
+    EXPECT_TRUE(stamp.has_value());
+    return stamp.value_or(TreeStamp{});
+}
+
+TEST(Fingerprint, CountsFilesAndBytesWithoutFollowingLinks)
+{
+    TempTree tree;
+    tree.file(QStringLiteral("outside/huge.bin"), 50'000);
+    buildProject(tree, QStringLiteral("project"), tree.path(QStringLiteral("outside")));
+
+    const TreeStamp stamp = stampOf(tree.path(QStringLiteral("project")));
+    EXPECT_EQ(stamp.files, 2);
+    EXPECT_EQ(stamp.bytes, 2100);
+    EXPECT_EQ(stamp.unreadable, 0);
+    EXPECT_EQ(stamp.latestChange, longAgo);
+}
+
+TEST(Fingerprint, IsTheSameForACopyWithTheSameTimesButNotForAnAlteredOne)
+{
+    TempTree tree;
+    buildProject(tree, QStringLiteral("original"), QStringLiteral("/nowhere"));
+    buildProject(tree, QStringLiteral("copy"), QStringLiteral("/nowhere"));
+    const TreeStamp original = stampOf(tree.path(QStringLiteral("original")));
+    const TreeStamp copy = stampOf(tree.path(QStringLiteral("copy")));
+    EXPECT_EQ(copy.layout, original.layout);
+    EXPECT_EQ(copy.stamps, original.stamps);
+    EXPECT_EQ(copy.files, original.files);
+
+    tree.file(QStringLiteral("copy/sub/b.bin"), 2000, 'y');  // same size, new time
+    const TreeStamp altered = stampOf(tree.path(QStringLiteral("copy")));
+    EXPECT_EQ(altered.layout, original.layout);
+    EXPECT_NE(altered.stamps, original.stamps);
+}
+
+TEST(Fingerprint, SeesAddedRenamedAndRetypedEntries)
+{
+    TempTree tree;
+    buildProject(tree, QStringLiteral("p"), QStringLiteral("/nowhere"));
+    const QString top = tree.path(QStringLiteral("p"));
+    const TreeStamp before = stampOf(top);
+    EXPECT_EQ(stampOf(top), before);
+
+    tree.file(QStringLiteral("p/sub/new.txt"), 0);
+    const TreeStamp added = stampOf(top);
+    EXPECT_NE(added.layout, before.layout);
+    EXPECT_EQ(added.files, before.files + 1);
+
+    QDir().rmdir(tree.path(QStringLiteral("p/empty")));
+    tree.file(QStringLiteral("p/empty"), 0);  // a folder became a file of the same name
+    EXPECT_NE(stampOf(top).layout, added.layout);
+}
+
+TEST(Fingerprint, IgnoresFinderMetadataFiles)
+{
+    TempTree tree;
+    buildProject(tree, QStringLiteral("p"), QStringLiteral("/nowhere"));
+    const QString top = tree.path(QStringLiteral("p"));
+    const TreeStamp before = stampOf(top);
+    tree.file(QStringLiteral("p/sub/.DS_Store"), 6148);
+    tree.setTimes(QStringLiteral("p/sub"), longAgo);
+    const TreeStamp after = stampOf(top);
+    EXPECT_EQ(after.files, before.files);
+    EXPECT_EQ(after.layout, before.layout);
+    EXPECT_EQ(after.stamps, before.stamps);
+}
+
+TEST(Fingerprint, AMissingPathIsUnreadableAndAStoppedWalkHasNoResult)
+{
+    TempTree tree;
+    EXPECT_EQ(stampOf(tree.path(QStringLiteral("missing"))).unreadable, 1);
+
+    for (int i = 0; i < 600; ++i)
+        tree.file(QStringLiteral("many/%1").arg(i), 1);
+    CancellationToken token;
+    token.cancel();
+    EXPECT_FALSE(Fingerprint::compute(tree.path(QStringLiteral("many")), &token).has_value());
+    EXPECT_EQ(stampOf(tree.path(QStringLiteral("many"))).files, 600);
+}
+
+}  // namespace

@@ -1,0 +1,164 @@
+#include "actions/Fingerprint.h"
+#include "actions/FreedesktopTrash.h"
+#include "actions/RemovalReasons.h"
+#include "actions/Remover.h"
+#include "actions/SystemTrash.h"
+#include "actions/TrashFixture.h"
+
+#include <QDir>
+#include <QFile>
+#include <sys/stat.h>
+
+namespace {
+
+class RemoverTrash : public TrashFixture {};
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool lexists(const QString& path)
+{
+    struct stat info {};
+    return ::lstat(QFile::encodeName(path).constData(), &info) == 0;
+}
+
+TEST_F(RemoverTrash, MovesAFileIntoTheFreedesktopTrashWithItsInfoFile)
+{
+    const QString path = home.file(QStringLiteral("Downloads/setup.dmg"), QByteArray("disk image"));
+    EXPECT_EQ(Remover::remove(trashItem({path}), environment), RemovalOutcome::movedToTrash());
+
+    EXPECT_FALSE(lexists(path));
+    EXPECT_EQ(trashedNames(), QStringList{QStringLiteral("setup.dmg")});
+    EXPECT_EQ(contentOf(trashFolder() + QStringLiteral("/files/setup.dmg")), QByteArray("disk image"));
+    const QByteArray info = contentOf(trashFolder() + QStringLiteral("/info/setup.dmg.trashinfo"));
+    EXPECT_TRUE(info.contains("[Trash Info]")) << info.constData();
+    EXPECT_TRUE(info.contains("Path=")) << info.constData();
+}
+
+TEST_F(RemoverTrash, MovesAGuardedFolderThatDidNotChange)
+{
+    const QString folder = home.dir(QStringLiteral("Library/Caches/tool"));
+    home.file(QStringLiteral("Library/Caches/tool/a/b.cache"), 500);
+    CleanupItem item = trashItem({folder});
+    FileTarget& guarded = std::get<Removal::Trash>(item.removal.value).targets[0];
+    guarded.tree = Fingerprint::compute(folder);
+    guarded.gitLockFile = home.path(QStringLiteral("no-such-lock"));
+
+    EXPECT_EQ(Remover::remove(item, environment), RemovalOutcome::movedToTrash());
+    EXPECT_EQ(trashedNames(), QStringList{QStringLiteral("tool")});
+    EXPECT_TRUE(lexists(trashFolder() + QStringLiteral("/files/tool/a/b.cache")));
+}
+
+TEST_F(RemoverTrash, ChecksEveryTargetBeforeMovingAny)
+{
+    const QString first = home.file(QStringLiteral("app/Caches"), 10);
+    const QString second = home.file(QStringLiteral("app/Logs"), 10);
+    const CleanupItem item = trashItem({first, second});
+    home.file(QStringLiteral("app/Logs.new"), 10);
+    ASSERT_TRUE(QFile::remove(second));
+    ASSERT_TRUE(QFile::rename(home.path(QStringLiteral("app/Logs.new")), second));
+
+    expectRefused(item, RemovalReasons::changedSinceScan());
+}
+
+TEST_F(RemoverTrash, ATargetThatWentWithAnEarlierItemCountsAsDone)
+{
+    const QString shared = home.file(QStringLiteral("Library/Preferences/com.example.plist"), 10);
+    const QString own = home.file(QStringLiteral("Library/Caches/com.example"), 10);
+    const CleanupItem earlier = trashItem({shared});
+    const CleanupItem later = trashItem({shared, own});
+
+    ASSERT_EQ(Remover::remove(earlier, environment), RemovalOutcome::movedToTrash());
+    EXPECT_EQ(Remover::remove(later, environment), RemovalOutcome::movedToTrash());
+    EXPECT_FALSE(lexists(own));
+    EXPECT_EQ(trashedNames().size(), 2);
+}
+
+TEST_F(RemoverTrash, PutsBackAnObjectSwappedInDuringTheMove)
+{
+    const QString path = home.file(QStringLiteral("Library/Logs/app.log"), QByteArray("scanned"));
+    const CleanupItem item = trashItem({path});
+    // Between the last look and the move, someone puts another file in its place.
+    environment.trash = [&](const QString& original) {
+        QFile::rename(original, original + QStringLiteral(".scanned"));
+        home.file(QStringLiteral("Library/Logs/app.log"), QByteArray("someone else's"));
+        return SystemTrash::move(original);
+    };
+
+    EXPECT_EQ(Remover::remove(item, environment), RemovalOutcome::failed(RemovalReasons::changedSinceScan()));
+    EXPECT_EQ(contentOf(path), QByteArray("someone else's"));
+    EXPECT_EQ(contentOf(path + QStringLiteral(".scanned")), QByteArray("scanned"));
+    EXPECT_TRUE(trashedNames().isEmpty());
+    EXPECT_TRUE(QDir(trashFolder() + QStringLiteral("/info")).isEmpty());
+}
+
+TEST_F(RemoverTrash, ARefusedTrashMoveNeverDeletes)
+{
+    const QString path = home.file(QStringLiteral("Documents/old.zip"), 10);
+    environment.trash = [](const QString&) { return TrashResult{std::nullopt, QStringLiteral("Operation not permitted"), false}; };
+
+    EXPECT_EQ(Remover::remove(trashItem({path}), environment),
+              RemovalOutcome::failed(RemovalReasons::trashFailed(QStringLiteral("Operation not permitted"))));
+    EXPECT_TRUE(lexists(path));
+    EXPECT_EQ(RemovalReasons::trashFailed(QStringLiteral("Operation not permitted")),
+              QStringLiteral("It couldn't be moved to the Trash: Operation not permitted"));
+}
+
+TEST_F(RemoverTrash, MakesAGoModuleCacheWritableSoItCanGo)
+{
+    const QString module = home.dir(QStringLiteral("go/pkg/mod/example.com/lib@v1.2.0"));
+    const QString file = home.file(QStringLiteral("go/pkg/mod/example.com/lib@v1.2.0/go.mod"), 20);
+    ASSERT_EQ(::chmod(QFile::encodeName(file).constData(), 0444), 0);
+    ASSERT_EQ(::chmod(QFile::encodeName(module).constData(), 0555), 0);
+
+    EXPECT_EQ(Remover::remove(trashItem({module}), environment), RemovalOutcome::movedToTrash());
+    struct stat info {};
+    ASSERT_EQ(::lstat(QFile::encodeName(trashFolder() + QStringLiteral("/files/lib@v1.2.0/go.mod")).constData(), &info), 0);
+    EXPECT_TRUE(info.st_mode & S_IWUSR);
+}
+
+TEST_F(RemoverTrash, LockedItemsAndTheTrashRowAreNotRemovedHere)
+{
+    CleanupItem locked = trashItem({home.file(QStringLiteral("agent/session.jsonl"), 10)});
+    locked.lockedReason = QStringLiteral("Running. Quit Claude to remove it.");
+    expectRefused(locked, QStringLiteral("Running. Quit Claude to remove it."));
+
+    CleanupItem trashRow;
+    trashRow.category = CategoryID::trash;
+    trashRow.removal = Removal{Removal::EmptyTrash{}};
+    EXPECT_EQ(Remover::remove(trashRow, environment),
+              RemovalOutcome::failed(QStringLiteral("The Trash is emptied with Empty Trash.")));
+}
+
+// Qt 6.4 moves the file into ./files of the working folder when the data folder is missing.
+TEST_F(RemoverTrash, SetsUpAMissingTrashInsteadOfUsingTheWorkingFolder)
+{
+    const QByteArray saved = qgetenv("XDG_DATA_HOME");
+    const QString data = home.path(QStringLiteral("fresh-profile/.local/share"));
+    qputenv("XDG_DATA_HOME", QFile::encodeName(data));
+    const QString path = home.file(QStringLiteral("notes.txt"), 10);
+
+    const TrashResult result = SystemTrash::move(path);
+    qputenv("XDG_DATA_HOME", saved);
+
+    ASSERT_TRUE(result.moved()) << qPrintable(result.error);
+    EXPECT_EQ(*result.pathInTrash, data + QStringLiteral("/Trash/files/notes.txt"));
+    EXPECT_TRUE(lexists(data + QStringLiteral("/Trash/info/notes.txt.trashinfo")));
+    EXPECT_FALSE(lexists(QDir::currentPath() + QStringLiteral("/files/notes.txt")));
+}
+
+TEST_F(RemoverTrash, AcceptsOnlyPlacesInsideATrashFolder)
+{
+    const QString original = home.file(QStringLiteral("x"), 1);
+    ASSERT_TRUE(FreedesktopTrash::prepareHomeTrash());
+    EXPECT_TRUE(FreedesktopTrash::isTrashLocation(trashFolder() + QStringLiteral("/files/x"), original));
+    EXPECT_FALSE(FreedesktopTrash::isTrashLocation(QStringLiteral("files/x"), original));
+    EXPECT_FALSE(FreedesktopTrash::isTrashLocation(QDir::currentPath() + QStringLiteral("/files/x"), original));
+    EXPECT_FALSE(FreedesktopTrash::isTrashLocation(trashFolder() + QStringLiteral("/info/x"), original));
+    EXPECT_FALSE(FreedesktopTrash::isTrashLocation(trashFolder() + QStringLiteral("/files/sub/x"), original));
+}
+
+}  // namespace

@@ -1,0 +1,118 @@
+#include "actions/DiskSpace.h"
+#include "actions/FinderTrash.h"
+#include "actions/FreedesktopTrash.h"
+#include "actions/SystemAccess.h"
+#include "actions/ToolStandIn.h"
+#include "support/TempTree.h"
+
+#include <QDir>
+#include <QFile>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+namespace {
+
+ProcessRunner::Output failed(const QString& standardError, bool timedOut = false)
+{
+    return {1, QString(), standardError, timedOut};
+}
+
+TEST(SystemAccess, MapsFinderEmptyTrashErrors)
+{
+    const struct {
+        ProcessRunner::Output output;
+        const char* sentence;
+    } rows[] = {
+        {failed(QString(), true), "Finder is still emptying the Trash; it finishes on its own."},
+        {failed(QStringLiteral("0:77: execution error: Not authorized to send Apple events to Finder. (-1743)\n")),
+         "macOS didn't allow Dustlark to control Finder. Allow it in System Settings › Privacy & Security › Automation."},
+        {failed(QStringLiteral("0:77: execution error: Finder got an error: AppleEvent timed out. (-1712)")),
+         "Finder is still emptying the Trash; it finishes on its own."},
+        {failed(QStringLiteral("0:77: execution error: Finder got an error: User canceled. (-128)")),
+         "Emptying the Trash was stopped in Finder. What was already removed is gone."},
+        {failed(QStringLiteral("0:77: execution error: Finder got an error: The operation can’t be completed because the item “report.pdf” is in use. (-8003)\n")),
+         "Finder couldn't empty the whole Trash: The operation can’t be completed because the item “report.pdf” is in use. Quit the app that uses it and empty the Trash again."},
+        {failed(QStringLiteral("0:77: execution error: Finder got an error: Some items couldn’t be deleted. (-8086)")),
+         "Finder couldn't empty the whole Trash: Some items couldn’t be deleted. Empty the Trash again or use Finder."},
+        {failed(QStringLiteral("osascript: no such component\n")), "osascript: no such component"},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(SystemAccess::trashFailure(row.output), QString::fromUtf8(row.sentence)) << row.sentence;
+}
+
+TEST(SystemAccess, MapsFinderTrashErrorsOfAnAppRemoval)
+{
+    EXPECT_EQ(FinderTrash::failureReason(failed(QStringLiteral("0:120: execution error: Finder got an error: User canceled. (-128)\n"))),
+              QStringLiteral("The administrator password wasn't entered."));
+    EXPECT_EQ(FinderTrash::failureReason(failed(QStringLiteral("0:120: execution error: Finder got an error: The item “Tool.app” is locked. (-10004)\n"))),
+              QStringLiteral("Finder couldn't move it to the Trash: The item “Tool.app” is locked."));
+}
+
+TEST(SystemAccess, AsksFinderWithThePathAsAnArgumentNeverInTheScript)
+{
+    const ToolStandIn osascript(QStringLiteral("osascript-standin"), QStringLiteral("osascript"));
+    const QString path = QStringLiteral("/Applications/Odd \"name\" end tell.app");
+    EXPECT_EQ(FinderTrash::moveToTrash(path, osascript.path()), std::nullopt);
+    const QStringList arguments = osascript.calls();
+    ASSERT_FALSE(arguments.isEmpty());
+    EXPECT_EQ(arguments.last(), path);
+    EXPECT_TRUE(arguments.contains(QStringLiteral("tell application \"Finder\" to delete (POSIX file (item 1 of argv) as alias)")));
+    for (qsizetype i = 0; i + 1 < arguments.size(); ++i)
+        EXPECT_FALSE(arguments[i].contains(QStringLiteral("Odd"))) << qPrintable(arguments[i]);
+
+    osascript.answerEveryCall({}, 1, QStringLiteral("0:120: execution error: Finder got an error: User canceled. (-128)\n"));
+    EXPECT_EQ(FinderTrash::moveToTrash(path, osascript.path()), QStringLiteral("The administrator password wasn't entered."));
+}
+
+TEST(SystemAccess, EmptiesTheFreedesktopTrashIncludingReadOnlyTrees)
+{
+    QDir(FreedesktopTrash::homeTrash()).removeRecursively();
+    TempTree home;
+    const QString file = home.file(QStringLiteral("a.txt"), 10);
+    const QString module = home.dir(QStringLiteral("mod@v1"));
+    home.file(QStringLiteral("mod@v1/go.sum"), 10);
+    const QString linkTarget = home.file(QStringLiteral("keep/important.txt"), 10);
+    const QString link = home.symlink(QStringLiteral("shortcut"), home.path(QStringLiteral("keep")));
+    ASSERT_TRUE(QFile::moveToTrash(file));
+    ASSERT_TRUE(QFile::moveToTrash(link));
+    ASSERT_TRUE(QFile::moveToTrash(module));
+    const QString trash = FreedesktopTrash::homeTrash();
+    ::chmod(QFile::encodeName(trash + QStringLiteral("/files/mod@v1")).constData(), 0555);
+    home.file(QStringLiteral("orphan"), 1);
+    QFile::copy(home.path(QStringLiteral("orphan")), trash + QStringLiteral("/info/ghost.trashinfo"));
+    QDir().mkpath(trash + QStringLiteral("/expunged/123"));
+    ASSERT_EQ(QDir(trash + QStringLiteral("/files")).count(), 5u);  // with . and ..
+
+    EXPECT_EQ(FreedesktopTrash::empty(), std::nullopt);
+    EXPECT_TRUE(QDir(trash + QStringLiteral("/files")).isEmpty());
+    EXPECT_TRUE(QDir(trash + QStringLiteral("/info")).isEmpty());
+    EXPECT_FALSE(QFileInfo::exists(trash + QStringLiteral("/expunged/123")));
+    EXPECT_TRUE(QFileInfo::exists(linkTarget)) << "a link in the Trash is removed, never followed";
+    EXPECT_EQ(SystemAccess::emptyTrash(), std::nullopt) << "an empty Trash empties without complaint";
+}
+
+TEST(SystemAccess, AnswersForTheSystemItRunsOn)
+{
+    TempTree home;
+    EXPECT_TRUE(SystemAccess::hasFullDiskAccess(home.root()));  // Linux has no such permission
+    EXPECT_FALSE(SystemAccess::openFullDiskAccessSettings());
+    EXPECT_TRUE(SystemAccess::canOpenForReading(home.file(QStringLiteral("TCC.db"), 1)));
+    EXPECT_FALSE(SystemAccess::canOpenForReading(home.path(QStringLiteral("missing.db"))));
+
+    const QString file = home.file(QStringLiteral("Downloads/a.zip"), 1);
+    EXPECT_EQ(SystemAccess::revealCommand(file).last(), home.path(QStringLiteral("Downloads")));
+    EXPECT_EQ(SystemAccess::revealCommand(home.path(QStringLiteral("Downloads/gone.zip"))).last(), home.path(QStringLiteral("Downloads")));
+}
+
+TEST(DiskSpace, ReadsTheVolumeOfTheHomeFolder)
+{
+    TempTree home;
+    const std::optional<DiskSpace> space = DiskSpace::current(home.root());
+    ASSERT_TRUE(space.has_value());
+    EXPECT_GT(space->total, 0);
+    EXPECT_GE(space->available, 0);
+    EXPECT_LE(space->available, space->total);
+    EXPECT_FALSE(DiskSpace::current(home.path(QStringLiteral("no/such/folder"))).has_value());
+}
+
+}  // namespace
