@@ -1,8 +1,339 @@
 #include "scan/KnownLocations.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 namespace KnownLocations {
+
+namespace {
+
+using Naming = Location::Naming;
+
+Location fixedRow(QStringList paths, QString title, std::optional<QString> detail = std::nullopt)
+{
+    return Location{std::move(paths), Naming::fixed(std::move(title)), false, std::move(detail), {}};
+}
+
+Location namedRow(QString path, Naming naming, std::optional<QString> detail = std::nullopt)
+{
+    return Location{{std::move(path)}, std::move(naming), false, std::move(detail), {}};
+}
+
+Location perChildRow(QString path, Naming naming, std::optional<QString> detail = std::nullopt)
+{
+    return Location{{std::move(path)}, std::move(naming), true, std::move(detail), {}};
+}
+
+Location browserRow(const char* path, const char* productName)
+{
+    // Product names are the same in every language.
+    return fixedRow({QString::fromUtf8(path)}, QString::fromUtf8(productName));
+}
+
+}  // namespace
+
+QList<Location> xcode()
+{
+    return {
+        perChildRow(QStringLiteral("Library/Developer/Xcode/DerivedData"), Naming::derivedData()),
+        perChildRow(QStringLiteral("Library/Developer/Xcode/*DeviceSupport"), Naming::parentAndName()),
+        fixedRow({QStringLiteral("Library/Caches/com.apple.dt.Xcode")},
+                 //: Row title in the Xcode list: Xcode's own cache folder
+                 QCoreApplication::translate("KnownLocations", "Xcode cache")),
+        fixedRow({QStringLiteral("Library/Developer/Xcode/UserData/Previews")},
+                 //: Row title in the Xcode list: data of SwiftUI previews
+                 QCoreApplication::translate("KnownLocations", "SwiftUI previews")),
+        fixedRow({QStringLiteral("Library/Developer/CoreSimulator/Caches")},
+                 //: Row title in the Xcode list: caches of the iOS simulator
+                 QCoreApplication::translate("KnownLocations", "Simulator caches")),
+        fixedRow({QStringLiteral("Library/Developer/XCTestDevices")},
+                 //: Row title in the Xcode list: simulator copies made for running tests
+                 QCoreApplication::translate("KnownLocations", "Test simulator clones")),
+        fixedRow({QStringLiteral("Library/Developer/DVTDownloads")},
+                 //: Row title in the Xcode list: files Xcode downloaded
+                 QCoreApplication::translate("KnownLocations", "Xcode downloads")),
+        perChildRow(QStringLiteral("Library/Developer/Xcode/Archives/*"), Naming::archive()),
+        fixedRow({QStringLiteral("Library/Developer/Xcode/iOS Device Logs")},
+                 //: Row title in the Xcode list: logs copied from connected iPhones and iPads
+                 QCoreApplication::translate("KnownLocations", "Device logs")),
+    };
+}
+
+QList<Location> android()
+{
+    return {
+        fixedRow({QStringLiteral(".gradle/caches")},
+                 //: Row title in the Android list
+                 QCoreApplication::translate("KnownLocations", "Gradle caches")),
+        perChildRow(QStringLiteral(".gradle/wrapper/dists"),
+                    //: Prefix of a row title in the Android list; a Gradle version such as gradle-8.5-bin follows
+                    Naming::name(QCoreApplication::translate("KnownLocations", "Gradle wrapper · "))),
+        fixedRow({QStringLiteral(".gradle/daemon")},
+                 //: Row title in the Android list
+                 QCoreApplication::translate("KnownLocations", "Gradle daemon logs")),
+        fixedRow({QStringLiteral(".android/cache")},
+                 //: Row title in the Android list
+                 QCoreApplication::translate("KnownLocations", "Android cache")),
+        fixedRow({QStringLiteral(".android/build-cache")},
+                 //: Row title in the Android list
+                 QCoreApplication::translate("KnownLocations", "Android build cache")),
+        namedRow(QStringLiteral("Library/Caches/Google/AndroidStudio*"),
+                 //: Prefix of a row title in the Android list; a folder name such as AndroidStudio2024.1 follows
+                 Naming::name(QCoreApplication::translate("KnownLocations", "Android Studio cache · "))),
+        namedRow(QStringLiteral("Library/Android/sdk/system-images/*/*/*"), Naming::systemImage(),
+                 //: Detail line of an Android system image row
+                 QCoreApplication::translate("KnownLocations", "Android SDK system image")),
+        perChildRow(QStringLiteral("Library/Android/sdk/ndk"),
+                    //: Prefix of a row title in the Android list; an NDK version number follows
+                    Naming::name(QCoreApplication::translate("KnownLocations", "NDK ")),
+                    //: Detail line of an Android NDK row
+                    QCoreApplication::translate("KnownLocations", "Android NDK version; projects that pin it download it again")),
+        perChildRow(QStringLiteral("Library/Android/sdk/build-tools"),
+                    //: Prefix of a row title in the Android list; a version number follows
+                    Naming::name(QCoreApplication::translate("KnownLocations", "Build tools ")),
+                    //: Detail line of an Android build tools row
+                    QCoreApplication::translate("KnownLocations", "Android SDK build tools version")),
+        perChildRow(QStringLiteral("Library/Android/sdk/platforms"),
+                    //: Prefix of a row title in the Android list; a platform name such as android-34 follows
+                    Naming::name(QCoreApplication::translate("KnownLocations", "SDK platform ")),
+                    //: Detail line of an Android SDK platform row
+                    QCoreApplication::translate("KnownLocations", "Android SDK platform")),
+        perChildRow(QStringLiteral(".gradle/jdks"),
+                    //: Prefix of a row title in the Android list; a Java version folder follows
+                    Naming::name(QCoreApplication::translate("KnownLocations", "Gradle JDK · ")),
+                    //: Detail line of a row of Java that Gradle downloaded
+                    QCoreApplication::translate("KnownLocations", "Java downloaded by Gradle toolchains")),
+    };
+}
+
+QList<Location> packageCaches()
+{
+    return {
+        fixedRow({QStringLiteral(".npm/_cacache")},
+                 //: Row title in the package caches list
+                 QCoreApplication::translate("KnownLocations", "npm cache")),
+        fixedRow({QStringLiteral("Library/Caches/Yarn")},
+                 //: Row title in the package caches list
+                 QCoreApplication::translate("KnownLocations", "Yarn cache")),
+        fixedRow({QStringLiteral(".yarn/berry/cache")},
+                 //: Row title in the package caches list
+                 QCoreApplication::translate("KnownLocations", "Yarn Berry cache")),
+        fixedRow({QStringLiteral("Library/pnpm/store")},
+                 //: Row title in the package caches list
+                 QCoreApplication::translate("KnownLocations", "pnpm store"),
+                 //: Detail line of the pnpm store row
+                 QCoreApplication::translate("KnownLocations", "Projects link their packages from here")),
+        fixedRow({QStringLiteral(".bun/install/cache")},
+                 //: Row title in the package caches list
+                 QCoreApplication::translate("KnownLocations", "Bun cache")),
+        fixedRow({QStringLiteral("Library/Caches/Homebrew")},
+                 //: Row title in the package caches list: packages Homebrew downloaded
+                 QCoreApplication::translate("KnownLocations", "Homebrew downloads")),
+        fixedRow({QStringLiteral("Library/Caches/pip")},
+                 //: Row title in the package caches list
+                 QCoreApplication::translate("KnownLocations", "pip cache")),
+        fixedRow({QStringLiteral(".cache/uv")},
+                 //: Row title in the package caches list
+                 QCoreApplication::translate("KnownLocations", "uv cache")),
+        fixedRow({QStringLiteral("Library/Caches/CocoaPods")},
+                 //: Row title in the package caches list
+                 QCoreApplication::translate("KnownLocations", "CocoaPods cache")),
+        fixedRow({QStringLiteral("Library/Caches/org.swift.swiftpm")},
+                 //: Row title in the package caches list
+                 QCoreApplication::translate("KnownLocations", "Swift Package Manager cache")),
+        fixedRow({QStringLiteral("Library/Caches/org.carthage.CarthageKit")},
+                 //: Row title in the package caches list
+                 QCoreApplication::translate("KnownLocations", "Carthage cache")),
+        fixedRow({QStringLiteral("Library/Caches/go-build")},
+                 //: Row title in the package caches list
+                 QCoreApplication::translate("KnownLocations", "Go build cache")),
+        fixedRow({QStringLiteral(".cargo/registry/cache")},
+                 //: Row title in the package caches list: crates Cargo downloaded
+                 QCoreApplication::translate("KnownLocations", "Cargo downloads")),
+        fixedRow({QStringLiteral(".cargo/registry/index")},
+                 //: Row title in the package caches list
+                 QCoreApplication::translate("KnownLocations", "Cargo registry index")),
+        fixedRow({QStringLiteral(".cargo/git/db"), QStringLiteral(".cargo/git/checkouts")},
+                 //: Row title in the package caches list: dependencies Cargo fetched from git
+                 QCoreApplication::translate("KnownLocations", "Cargo git dependencies")),
+        fixedRow({QStringLiteral("go/pkg/mod")},
+                 //: Row title in the package caches list
+                 QCoreApplication::translate("KnownLocations", "Go modules"),
+                 //: Detail line of the Go modules row
+                 QCoreApplication::translate("KnownLocations", "Projects download them again on the next build")),
+        fixedRow({QStringLiteral(".pub-cache/hosted")},
+                 //: Row title in the package caches list
+                 QCoreApplication::translate("KnownLocations", "Dart and Flutter packages"),
+                 //: Detail line of the Dart and Flutter packages row; the command stays as it is
+                 QCoreApplication::translate("KnownLocations", "`flutter pub get` downloads them again")),
+        fixedRow({QStringLiteral(".nuget/packages")},
+                 //: Row title in the package caches list
+                 QCoreApplication::translate("KnownLocations", "NuGet packages")),
+        fixedRow({QStringLiteral(".local/share/NuGet/http-cache")},
+                 //: Row title in the package caches list
+                 QCoreApplication::translate("KnownLocations", "NuGet HTTP cache")),
+        fixedRow({QStringLiteral("Library/Caches/pypoetry")},
+                 //: Row title in the package caches list
+                 QCoreApplication::translate("KnownLocations", "Poetry cache"),
+                 //: Detail line of the Poetry cache row; the command stays as it is
+                 QCoreApplication::translate("KnownLocations", "Includes Poetry's virtual environments; `poetry install` creates them again")),
+        fixedRow({QStringLiteral("Library/Caches/node-gyp")},
+                 //: Row title in the package caches list: C headers node-gyp downloaded
+                 QCoreApplication::translate("KnownLocations", "node-gyp headers")),
+        fixedRow({QStringLiteral("Library/Caches/electron")},
+                 //: Row title in the package caches list
+                 QCoreApplication::translate("KnownLocations", "Electron downloads")),
+        fixedRow({QStringLiteral("Library/Caches/electron-builder")},
+                 //: Row title in the package caches list
+                 QCoreApplication::translate("KnownLocations", "electron-builder cache")),
+        fixedRow({QStringLiteral("Library/Caches/deno")},
+                 //: Row title in the package caches list
+                 QCoreApplication::translate("KnownLocations", "Deno cache")),
+        fixedRow({QStringLiteral("Library/Caches/typescript")},
+                 //: Row title in the package caches list
+                 QCoreApplication::translate("KnownLocations", "TypeScript cache")),
+        fixedRow({QStringLiteral("Library/Caches/composer")},
+                 //: Row title in the package caches list
+                 QCoreApplication::translate("KnownLocations", "Composer cache")),
+        fixedRow({QStringLiteral(".cache/prisma")},
+                 //: Row title in the package caches list: database engines Prisma downloaded
+                 QCoreApplication::translate("KnownLocations", "Prisma engines")),
+        fixedRow({QStringLiteral("Library/Caches/ms-playwright")},
+                 //: Row title in the package caches list: browsers Playwright downloaded for tests
+                 QCoreApplication::translate("KnownLocations", "Playwright browsers"),
+                 //: Detail line of the Playwright browsers row; the command stays as it is
+                 QCoreApplication::translate("KnownLocations", "Tests need `npx playwright install` afterwards")),
+        fixedRow({QStringLiteral(".cache/puppeteer")},
+                 //: Row title in the package caches list: browsers Puppeteer downloaded
+                 QCoreApplication::translate("KnownLocations", "Puppeteer browsers")),
+        fixedRow({QStringLiteral(".m2/repository")},
+                 //: Row title in the package caches list
+                 QCoreApplication::translate("KnownLocations", "Maven repository"),
+                 //: Detail line of the Maven repository row
+                 QCoreApplication::translate("KnownLocations", "May hold artifacts you installed locally")),
+    };
+}
+
+QList<Location> aiModels()
+{
+    return {
+        fixedRow({QStringLiteral(".ollama/models")},
+                 //: Row title in the AI models list
+                 QCoreApplication::translate("KnownLocations", "Ollama models"),
+                 //: Detail line of the Ollama models row; the command stays as it is
+                 QCoreApplication::translate("KnownLocations", "All models pulled with Ollama; `ollama pull` downloads them again")),
+        perChildRow(QStringLiteral(".lmstudio/models/*"), Naming::parentAndName()),
+        perChildRow(QStringLiteral(".cache/lm-studio/models/*"), Naming::parentAndName()),
+        perChildRow(QStringLiteral(".cache/huggingface/hub"), Naming::huggingFace()),
+    };
+}
+
+QList<Location> devices()
+{
+    return {
+        perChildRow(QStringLiteral("Library/iTunes/iPhone Software Updates"), Naming::name(),
+                    //: Detail line of a downloaded iPhone software update
+                    QCoreApplication::translate("KnownLocations", "Downloaded iPhone update; Finder downloads it again when needed")),
+        perChildRow(QStringLiteral("Library/iTunes/iPad Software Updates"), Naming::name(),
+                    //: Detail line of a downloaded iPad software update
+                    QCoreApplication::translate("KnownLocations", "Downloaded iPad update; Finder downloads it again when needed")),
+    };
+}
+
+Location editorCaches(const QString& appFolder, const QString& title)
+{
+    static const char* const cacheFolders[] = {"Cache", "CachedData", "CachedExtensionVSIXs", "Code Cache", "GPUCache"};
+    QStringList paths;
+    for (const char* folder : cacheFolders)
+        paths.append(QStringLiteral("Library/Application Support/%1/%2").arg(appFolder, QString::fromUtf8(folder)));
+    return fixedRow(paths, title);
+}
+
+QList<Location> editors()
+{
+    return {
+        //: Row title in the editors list
+        editorCaches(QStringLiteral("Code"), QCoreApplication::translate("KnownLocations", "VS Code caches")),
+        //: Row title in the editors list
+        editorCaches(QStringLiteral("Cursor"), QCoreApplication::translate("KnownLocations", "Cursor caches")),
+        //: Row title in the editors list
+        editorCaches(QStringLiteral("Windsurf"), QCoreApplication::translate("KnownLocations", "Windsurf caches")),
+        namedRow(QStringLiteral("Library/Caches/JetBrains/*"),
+                 //: Prefix of a row title in the editors list; an IDE folder such as IntelliJIdea2024.1 follows
+                 Naming::name(QCoreApplication::translate("KnownLocations", "JetBrains cache · "))),
+        fixedRow({QStringLiteral("Library/Caches/Zed")},
+                 //: Row title in the editors list
+                 QCoreApplication::translate("KnownLocations", "Zed cache")),
+    };
+}
+
+QList<Location> browsers()
+{
+    return {
+        browserRow("Library/Caches/com.apple.Safari", "Safari"),
+        browserRow("Library/Caches/Google/Chrome", "Google Chrome"),
+        browserRow("Library/Caches/Google/Chrome Canary", "Chrome Canary"),
+        browserRow("Library/Caches/Chromium", "Chromium"),
+        browserRow("Library/Caches/Microsoft Edge", "Microsoft Edge"),
+        browserRow("Library/Caches/BraveSoftware/Brave-Browser", "Brave"),
+        browserRow("Library/Caches/Arc", "Arc"),
+        browserRow("Library/Caches/company.thebrowser.Browser", "Arc"),
+        browserRow("Library/Caches/Firefox", "Firefox"),
+        browserRow("Library/Caches/com.operasoftware.Opera", "Opera"),
+        browserRow("Library/Caches/Vivaldi", "Vivaldi"),
+        browserRow("Library/Caches/Yandex/YandexBrowser", "Yandex Browser"),
+    };
+}
+
+QList<Location> logs()
+{
+    Location crashReports = fixedRow(
+        {QStringLiteral("Library/Logs/DiagnosticReports"), QStringLiteral("Library/Logs/CrashReporter")},
+        //: Row title in the logs list: reports macOS wrote when apps crashed or hung
+        QCoreApplication::translate("KnownLocations", "Crash reports"),
+        //: Detail line of the crash reports row
+        QCoreApplication::translate("KnownLocations", "Reports of apps that crashed or hung; needed only to report a problem"));
+    Location appLogs = perChildRow(QStringLiteral("Library/Logs"), Naming::appName(),
+        //: Detail line of an app's log folder in the logs list
+        QCoreApplication::translate("KnownLocations", "Diagnostic logs; the app starts new ones when it needs them"));
+    // The crash reports have their own row; the simulators' logs belong with Xcode's data.
+    appLogs.skippedChildren = {QStringLiteral("DiagnosticReports"), QStringLiteral("CrashReporter"),
+                               QStringLiteral("CoreSimulator")};
+    return {
+        crashReports,
+        appLogs,
+        fixedRow({QStringLiteral("Library/Application Support/Code/logs")},
+                 //: Row title in the logs list
+                 QCoreApplication::translate("KnownLocations", "VS Code logs")),
+        fixedRow({QStringLiteral("Library/Application Support/Cursor/logs")},
+                 //: Row title in the logs list
+                 QCoreApplication::translate("KnownLocations", "Cursor logs")),
+        fixedRow({QStringLiteral("Library/Application Support/Windsurf/logs")},
+                 //: Row title in the logs list
+                 QCoreApplication::translate("KnownLocations", "Windsurf logs")),
+        fixedRow({QStringLiteral(".npm/_logs")},
+                 //: Row title in the logs list: logs npm writes when a command fails
+                 QCoreApplication::translate("KnownLocations", "npm debug logs")),
+    };
+}
+
+const QSet<QString>& claimedCacheFolders()
+{
+    static const QSet<QString> claimed = [] {
+        const QString prefix = QStringLiteral("Library/Caches/");
+        QSet<QString> folders;
+        for (const QList<Location>& group : {xcode(), android(), packageCaches(), editors(), browsers()}) {
+            for (const Location& location : group) {
+                for (const QString& pattern : location.paths) {
+                    if (pattern.startsWith(prefix))
+                        folders.insert(pattern.mid(prefix.size()).section(QLatin1Char('/'), 0, 0));
+                }
+            }
+        }
+        return folders;
+    }();
+    return claimed;
+}
 
 bool isInSyncedHomeFolder(const QString& path, const QString& home)
 {

@@ -1,9 +1,32 @@
 #pragma once
 
+#include "scan/Location.h"
+
+#include <QList>
+#include <QSet>
 #include <QString>
 
 // The fixed places below the home folder where tools and apps keep data, grouped by category.
+// Each group is built on every call, so titles and details follow the current translation.
+// Thread-safe: the functions hold no state but the claimed-folder set, built once.
 namespace KnownLocations {
+
+QList<Location> xcode();
+QList<Location> android();
+QList<Location> packageCaches();
+QList<Location> aiModels();
+QList<Location> devices();
+QList<Location> editors();
+QList<Location> browsers();
+QList<Location> logs();
+
+// One editor's caches: the cache subfolders of its folder in "Library/Application Support",
+// as one row with the given (localised) title.
+Location editorCaches(const QString& appFolder, const QString& title);
+
+// The folder names directly inside "Library/Caches/" that the Xcode, Android, package-cache,
+// editor and browser groups own, so the generic app-cache scan does not list them again.
+const QSet<QString>& claimedCacheFolders();
 
 // True when `path` lies in a cloud-synced folder directly in the home folder (Dropbox,
 // OneDrive, Google Drive, ...), which scans leave alone.

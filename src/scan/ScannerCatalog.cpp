@@ -1,10 +1,23 @@
 #include "scan/ScannerCatalog.h"
 
+#include "scan/KnownLocations.h"
+#include "scan/LocationScanner.h"
+#include "scan/ProjectScanner.h"
+
 namespace ScannerCatalog {
 
 const std::vector<std::shared_ptr<const Scanner>>& all()
 {
     static const std::vector<std::shared_ptr<const Scanner>> scanners = {
+        std::make_shared<ProjectScanner>(),
+        // XcodeScanner, SimulatorScanner, AndroidScanner
+        std::make_shared<LocationScanner>(CategoryID::packageCaches, KnownLocations::packageCaches()),
+        // EditorsScanner, DockerScanner
+        std::make_shared<LocationScanner>(CategoryID::aiModels, KnownLocations::aiModels()),
+        // AgentsScanner, AppsScanner, LeftoversScanner, AppCachesScanner
+        std::make_shared<LocationScanner>(CategoryID::logs, KnownLocations::logs()),
+        // BrowserCachesScanner, InstallersScanner, OldDownloadsScanner, TemporaryScanner,
+        // DevicesScanner, TrashScanner
     };
     return scanners;
 }

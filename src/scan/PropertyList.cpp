@@ -1,0 +1,51 @@
+#include "scan/PropertyList.h"
+
+#include <QFile>
+#include <plist/plist.h>
+
+namespace {
+
+// Info.plist files are a few kilobytes; anything far larger is not what we are looking for.
+constexpr qint64 largestReadableSize = 16 * 1024 * 1024;
+
+}  // namespace
+
+std::optional<PropertyList> PropertyList::read(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.size() > largestReadableSize)
+        return std::nullopt;
+    const QByteArray data = file.readAll();
+    if (data.isEmpty())
+        return std::nullopt;
+    plist_t root = nullptr;
+    plist_from_memory(data.constData(), static_cast<uint32_t>(data.size()), &root);
+    if (!root)
+        return std::nullopt;
+    return PropertyList(std::shared_ptr<void>(root, [](void* node) { plist_free(static_cast<plist_t>(node)); }));
+}
+
+std::optional<QString> PropertyList::string(const QStringList& keyPath) const
+{
+    plist_t node = m_root.get();
+    for (const QString& key : keyPath) {
+        if (plist_get_node_type(node) != PLIST_DICT)
+            return std::nullopt;
+        node = plist_dict_get_item(node, key.toUtf8().constData());
+        if (!node)
+            return std::nullopt;
+    }
+    if (plist_get_node_type(node) != PLIST_STRING)
+        return std::nullopt;
+    uint64_t length = 0;
+    const char* value = plist_get_string_ptr(node, &length);
+    if (!value)
+        return std::nullopt;
+    return QString::fromUtf8(value, static_cast<qsizetype>(length));
+}
+
+std::optional<QString> PropertyList::string(const QString& path, const QString& key)
+{
+    const auto list = read(path);
+    return list ? list->string(key) : std::nullopt;
+}

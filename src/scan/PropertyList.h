@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <memory>
+#include <optional>
+
+// A property list (XML or binary) read from a file, for looking up values by key. A plain
+// value: copies share the parsed tree, which is never modified, so reading from several
+// threads is safe.
+class PropertyList {
+public:
+    // Absent when the file cannot be read, is larger than a property list can sensibly be,
+    // or is not a property list.
+    [[nodiscard]] static std::optional<PropertyList> read(const QString& path);
+
+    // The text under `keyPath` (nested dictionary keys, outermost first); absent when a key
+    // is missing or the value is not a string.
+    [[nodiscard]] std::optional<QString> string(const QStringList& keyPath) const;
+    [[nodiscard]] std::optional<QString> string(const QString& key) const { return string(QStringList{key}); }
+
+    // Reads the file and one top-level string in one step.
+    [[nodiscard]] static std::optional<QString> string(const QString& path, const QString& key);
+
+private:
+    explicit PropertyList(std::shared_ptr<void> root) : m_root(std::move(root)) {}
+
+    std::shared_ptr<void> m_root;  // a plist_t, freed with plist_free
+};

@@ -1,0 +1,179 @@
+#include "model/CategoryID.h"
+#include "scan/LocationScanner.h"
+#include "support/TempTree.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QStandardPaths>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+struct CliRun {
+    int exitCode = -1;
+    QByteArray standardOutput;
+    QByteArray standardError;
+};
+
+CliRun runProgram(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    if (!process.waitForFinished(60'000)) {
+        process.kill();
+        process.waitForFinished();
+    }
+    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+            process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+CliRun runCli(const QStringList& arguments)
+{
+    return runProgram(QStringLiteral(DUSTLARK_CLI), arguments);
+}
+
+QJsonArray categoriesOf(const CliRun& run)
+{
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(run.standardOutput, &error);
+    EXPECT_EQ(error.error, QJsonParseError::NoError) << qPrintable(error.errorString());
+    return document.object().value(QStringLiteral("categories")).toArray();
+}
+
+QJsonObject categoryNamed(const QJsonArray& categories, const char* raw)
+{
+    for (const QJsonValue& category : categories) {
+        if (category[QStringLiteral("id")].toString() == QLatin1String(raw))
+            return category.toObject();
+    }
+    return {};
+}
+
+// The fixture home folder of every test: a temporary tree whose "home" the tool scans.
+class ReportCliTest : public ::testing::Test {
+protected:
+    ReportCliTest() : home(tree.dir(QStringLiteral("home"))) {}
+
+    QString file(const QString& relative, qint64 size) const { return tree.file(QStringLiteral("home/") + relative, size); }
+
+    QJsonObject scanCategory(const char* raw) const
+    {
+        const CliRun run = runCli({QStringLiteral("scan"), QStringLiteral("--home"), home, QStringLiteral("--category"),
+                                   QString::fromUtf8(raw), QStringLiteral("--json")});
+        EXPECT_EQ(run.exitCode, 0) << run.standardError.constData();
+        return categoryNamed(categoriesOf(run), raw);
+    }
+
+    TempTree tree;
+    QString home;
+};
+
+}  // namespace
+
+TEST_F(ReportCliTest, ListsAnNpmCacheAsSafeAndSkipsSmallCaches)
+{
+    file(QStringLiteral(".npm/_cacache/content-v2/sha512/aa/blob"), 2'000'000);
+    file(QStringLiteral("Library/Caches/Yarn/v6/npm-left-pad/blob"), 900'000);
+
+    const QJsonObject caches = scanCategory("packageCaches");
+    EXPECT_EQ(caches[QStringLiteral("state")].toString(), QStringLiteral("done"));
+    const QJsonArray items = caches[QStringLiteral("items")].toArray();
+    ASSERT_EQ(items.size(), 1);
+    const QJsonObject npm = items.first().toObject();
+    EXPECT_EQ(npm[QStringLiteral("title")].toString(), QStringLiteral("npm cache"));
+    EXPECT_EQ(npm[QStringLiteral("safety")].toString(), QStringLiteral("safe"));
+    EXPECT_EQ(npm[QStringLiteral("id")].toString(), home + QStringLiteral("/.npm/_cacache"));
+    EXPECT_EQ(npm[QStringLiteral("paths")].toArray(), QJsonArray{home + QStringLiteral("/.npm/_cacache")});
+    EXPECT_EQ(npm[QStringLiteral("removal")].toString(), QStringLiteral("trash"));
+    EXPECT_GE(npm[QStringLiteral("size")].toDouble(), 2'000'000);
+    EXPECT_FALSE(npm[QStringLiteral("date")].isNull());
+    EXPECT_TRUE(caches[QStringLiteral("notes")].toArray().isEmpty());
+}
+
+TEST_F(ReportCliTest, TitlesHuggingFaceModelsByOwnerAndName)
+{
+    file(QStringLiteral(".cache/huggingface/hub/models--org--model-name/blobs/weights"), 1'500'000);
+    file(QStringLiteral(".cache/huggingface/hub/.locks/models--org--model-name/x.lock"), 1'500'000);
+    const QJsonArray items = scanCategory("aiModels")[QStringLiteral("items")].toArray();
+    ASSERT_EQ(items.size(), 1);
+    EXPECT_EQ(items.first()[QStringLiteral("title")].toString(), QStringLiteral("org/model-name"));
+    EXPECT_EQ(items.first()[QStringLiteral("safety")].toString(), QStringLiteral("askAI"));
+}
+
+TEST_F(ReportCliTest, PrintsEveryCategoryInOrderAsValidJson)
+{
+    const CliRun run = runCli({QStringLiteral("scan"), QStringLiteral("--home"), home, QStringLiteral("--category"),
+                               QStringLiteral("logs"), QStringLiteral("--json")});
+    ASSERT_EQ(run.exitCode, 0) << run.standardError.constData();
+    const QJsonArray categories = categoriesOf(run);
+    ASSERT_EQ(categories.size(), 22);
+    for (int i = 0; i < 22; ++i)
+        EXPECT_EQ(categories[i][QStringLiteral("id")].toString(), Categories::rawValue(Categories::allCases()[i]));
+    EXPECT_EQ(categoryNamed(categories, "logs")[QStringLiteral("state")].toString(), QStringLiteral("done"));
+    EXPECT_EQ(categoryNamed(categories, "packageCaches")[QStringLiteral("state")].toString(), QStringLiteral("idle"));
+}
+
+TEST(ReportCli, BadArgumentsExitWithStatusTwoAndOneLine)
+{
+    const QList<QStringList> badCommands = {
+        {},
+        {QStringLiteral("clean")},
+        {QStringLiteral("scan"), QStringLiteral("--bogus")},
+        {QStringLiteral("scan"), QStringLiteral("--category"), QStringLiteral("PackageCaches")},
+        {QStringLiteral("scan"), QStringLiteral("--home")},
+    };
+    for (const QStringList& arguments : badCommands) {
+        const CliRun run = runCli(arguments);
+        EXPECT_EQ(run.exitCode, 2) << qPrintable(arguments.join(' '));
+        EXPECT_TRUE(run.standardOutput.isEmpty());
+        EXPECT_EQ(run.standardError.trimmed().count('\n'), 0) << run.standardError.constData();
+        EXPECT_FALSE(run.standardError.trimmed().isEmpty());
+    }
+}
+
+// Folders the tool may not read are reported, and the readable rest is still listed. Root
+// reads everything, so as root the tool runs as an unprivileged user.
+TEST_F(ReportCliTest, UnreadableFoldersGiveTheFullDiskAccessNote)
+{
+    const bool asRoot = ::geteuid() == 0;
+    const QString setpriv = QStandardPaths::findExecutable(QStringLiteral("setpriv"));
+    if (asRoot && setpriv.isEmpty())
+        GTEST_SKIP() << "running as root without setpriv to drop privileges";
+    file(QStringLiteral("Library/Logs/Readable/a.log"), 2'000'000);
+    file(QStringLiteral("Library/Logs/Locked/a.log"), 2'000'000);
+    file(QStringLiteral(".cache/huggingface/hub/models--a--b/blob"), 2'000'000);
+    for (const QString& folder : {tree.root(), home, home + "/Library", home + "/Library/Logs", home + "/.cache",
+                                  home + "/.cache/huggingface", home + "/Library/Logs/Readable"})
+        ::chmod(QFile::encodeName(folder).constData(), 0755);
+    QFile::setPermissions(home + QStringLiteral("/Library/Logs/Readable/a.log"), QFileDevice::ReadOwner | QFileDevice::ReadOther);
+    for (const char* locked : {"/Library/Logs/Locked", "/.cache/huggingface/hub"})
+        ::chmod(QFile::encodeName(home + QLatin1String(locked)).constData(), 0);
+
+    QStringList arguments = {QStringLiteral("scan"), QStringLiteral("--home"), home, QStringLiteral("--category"),
+                             QStringLiteral("logs"), QStringLiteral("--category"), QStringLiteral("aiModels"),
+                             QStringLiteral("--json")};
+    QString program = QStringLiteral(DUSTLARK_CLI);
+    if (asRoot) {
+        arguments = QStringList{QStringLiteral("--reuid=65534"), QStringLiteral("--regid=65534"),
+                                QStringLiteral("--clear-groups"), program} + arguments;
+        program = setpriv;
+    }
+    const CliRun run = runProgram(program, arguments);
+    for (const char* locked : {"/Library/Logs/Locked", "/.cache/huggingface/hub"})
+        ::chmod(QFile::encodeName(home + QLatin1String(locked)).constData(), 0755);
+    ASSERT_EQ(run.exitCode, 0) << run.standardError.constData();
+
+    const QJsonArray categories = categoriesOf(run);
+    const QJsonObject logs = categoryNamed(categories, "logs");
+    EXPECT_EQ(logs[QStringLiteral("notes")].toArray(), QJsonArray{LocationScanner::unreadableNote()});
+    const QJsonArray rows = logs[QStringLiteral("items")].toArray();
+    ASSERT_EQ(rows.size(), 1);
+    EXPECT_EQ(rows.first()[QStringLiteral("title")].toString(), QStringLiteral("Readable"));
+    EXPECT_EQ(categoryNamed(categories, "aiModels")[QStringLiteral("notes")].toArray(),
+              QJsonArray{LocationScanner::unreadableNote()});
+}
