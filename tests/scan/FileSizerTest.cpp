@@ -133,28 +133,21 @@ TEST(FileSizer, UnreadableSubfolderLeavesMeasurementCompleteButUnreadableTopDoes
     EXPECT_EQ(*results, "1 complete 1|1 incomplete 0");
 }
 
-TEST(FileSizer, PublishesEveryEntryToProgress)
+TEST(FileSizer, PublishesEveryEntryAndStopsAtTheNextBatchOnceCancelled)
 {
     TempTree tree;
     for (int i = 0; i < 5000; ++i)
         tree.file(QStringLiteral("top/d%1/f%2").arg(i % 10).arg(i));
     ScanProgress progress;
-    const FileSizer::Measurement m = FileSizer::measure(tree.path("top"), &progress);
-    EXPECT_EQ(m.files, 5000);
+    EXPECT_EQ(FileSizer::measure(tree.path("top"), &progress).files, 5000);
     EXPECT_EQ(progress.snapshot().entries, 5000 + 10 + 1);
-}
 
-TEST(FileSizer, CancellationStopsAtTheNextBatchAndMarksIncomplete)
-{
-    TempTree tree;
-    for (int i = 0; i < 5000; ++i)
-        tree.file(QStringLiteral("top/f%1").arg(i));
-    ScanProgress progress;
+    progress.reset();
     CancellationToken cancellation;
     cancellation.cancel();
-    const FileSizer::Measurement m = FileSizer::measure(tree.path("top"), &progress, &cancellation);
-    EXPECT_FALSE(m.complete);
-    EXPECT_EQ(m.unreadable, 1);
-    EXPECT_LT(m.files, 5000);
+    const FileSizer::Measurement stopped = FileSizer::measure(tree.path("top"), &progress, &cancellation);
+    EXPECT_FALSE(stopped.complete);
+    EXPECT_EQ(stopped.unreadable, 1);
+    EXPECT_LT(stopped.files, 5000);
     EXPECT_EQ(progress.snapshot().entries, 4096);
 }
