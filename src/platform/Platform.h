@@ -82,3 +82,17 @@ enum class Desktop { finder, freedesktop };
 Desktop desktop();
 
 }  // namespace Platform
+
+namespace Platform {
+
+// Where git is installed, in the order to try: Apple's command line tools, Xcode, Homebrew on
+// Apple silicon and on Intel; Linux adds the distribution's own.
+QStringList gitCandidates();
+
+// When the file was last opened, where the system keeps that: Spotlight's last-used date on
+// macOS (it asks mdls, so call it on a worker thread); on Linux the access time, but only when
+// it is newer than the modification time (otherwise it may only say the file was written).
+// Absent when unknown.
+std::optional<QDateTime> lastOpened(const QString& path);
+
+}  // namespace Platform

@@ -298,3 +298,30 @@ Desktop desktop()
 }
 
 }  // namespace Platform
+
+namespace Platform {
+
+QStringList gitCandidates()
+{
+    return {
+        QStringLiteral("/Library/Developer/CommandLineTools/usr/bin/git"),
+        QStringLiteral("/Applications/Xcode.app/Contents/Developer/usr/bin/git"),
+        QStringLiteral("/opt/homebrew/bin/git"),
+        QStringLiteral("/usr/local/bin/git"),
+        QStringLiteral("/usr/bin/git"),
+    };
+}
+
+std::optional<QDateTime> lastOpened(const QString& path)
+{
+    struct stat info {};
+    if (::lstat(QFile::encodeName(path).constData(), &info) != 0)
+        return std::nullopt;
+    const qint64 accessed = qint64(info.st_atim.tv_sec) * 1000 + info.st_atim.tv_nsec / 1'000'000;
+    const qint64 modified = qint64(info.st_mtim.tv_sec) * 1000 + info.st_mtim.tv_nsec / 1'000'000;
+    if (accessed <= modified)
+        return std::nullopt;
+    return QDateTime::fromMSecsSinceEpoch(accessed, QTimeZone::utc());
+}
+
+}  // namespace Platform

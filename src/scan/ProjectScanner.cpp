@@ -1,11 +1,23 @@
 #include "scan/ProjectScanner.h"
 
 #include "model/PathRules.h"
+#include "scan/Concurrency.h"
+#include "scan/DuplicateFinder.h"
+#include "scan/GitCommand.h"
+#include "scan/Walk.h"
+#include "scan/WorktreeFinder.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <algorithm>
+#include <vector>
 
 namespace {
+
+// Project infos and rows mostly wait on the disk; a few at once keep it busy without
+// crowding the other scanners that run beside this one.
+constexpr int projectsAtOnce = 4;
+constexpr int rowsAtOnce = 4;
 
 QString expandedTilde(const QString& path, const QString& home)
 {
@@ -22,7 +34,86 @@ bool liesInAny(const QString& path, const QStringList& folders)
                        [&](const QString& folder) { return PathRules::isAtOrBelow(path, folder); });
 }
 
+QHash<QString, ProjectInfo> projectInfos(const QList<Artifact>& artifacts, const ScanContext& context)
+{
+    std::vector<QString> projects;
+    for (const Artifact& artifact : artifacts) {
+        if (std::find(projects.begin(), projects.end(), artifact.project) == projects.end())
+            projects.push_back(artifact.project);
+    }
+    const auto infos = Concurrency::map(projects, projectsAtOnce, context.cancellation, [&](const QString& project) {
+        return ProjectInfo::of(project, context.home, &context.cancellation);
+    });
+    QHash<QString, ProjectInfo> byPath;
+    for (const ProjectInfo& info : infos)
+        byPath.insert(info.path, info);
+    return byPath;
+}
+
+// Biggest first, so what frees the most space is at the top; ties by path for a stable order.
+void sortBySize(QList<CleanupItem>& items)
+{
+    std::sort(items.begin(), items.end(), [](const CleanupItem& a, const CleanupItem& b) {
+        return a.size != b.size ? a.size > b.size : a.id < b.id;
+    });
+}
+
+template <typename Item, typename MakeRow>
+QList<CleanupItem> rows(const QList<Item>& found, const ScanContext& context, MakeRow makeRow)
+{
+    const std::vector<Item> items(found.begin(), found.end());
+    QList<CleanupItem> made;
+    for (const std::optional<CleanupItem>& row : Concurrency::map(items, rowsAtOnce, context.cancellation, makeRow)) {
+        if (row)
+            made.append(*row);
+    }
+    sortBySize(made);
+    return made;
+}
+
+ScanOutput projectRows(const Walk& walk, const std::optional<QString>& git, const ScanContext& context)
+{
+    const QHash<QString, ProjectInfo> infos = projectInfos(walk.artifacts(), context);
+    ScanOutput output;
+    output.items = rows(walk.artifacts(), context, [&](const Artifact& artifact) {
+        const auto info = infos.constFind(artifact.project);
+        return ProjectScanner::buildFolderRow(artifact, info == infos.cend() ? nullptr : &*info, git, context);
+    });
+    return output;
+}
+
+ScanOutput largeFileRows(const Walk& walk, const ScanContext& context)
+{
+    ScanOutput output;
+    output.items = rows(walk.largeFiles(), context,
+                        [&](const LargeFile& file) { return ProjectScanner::largeFileRow(file, context); });
+    return output;
+}
+
 }  // namespace
+
+QList<CategoryID> ProjectScanner::categories() const
+{
+    return {CategoryID::projects, CategoryID::worktrees, CategoryID::largeFiles, CategoryID::duplicates};
+}
+
+ScanOutputs ProjectScanner::scan(const ScanContext& context) const
+{
+    Walk walk(context);
+    for (const QString& root : distinctRoots(context.roots, context.home))
+        walk.run(root);
+    const std::optional<QString> git = GitCommand::locate(m_gitCandidates);
+    ScanOutputs outputs;
+    outputs[CategoryID::projects] = projectRows(walk, git, context);
+    outputs[CategoryID::largeFiles] = largeFileRows(walk, context);
+    if (walk.unreadable() > 0) {
+        outputs[CategoryID::projects].notes.append(unreadableNote(walk.unreadable()));
+        outputs[CategoryID::largeFiles].notes.append(unreadableNote(walk.unreadable()));
+    }
+    outputs[CategoryID::duplicates].items = DuplicateFinder::items(walk.duplicateCandidates(), context);
+    outputs[CategoryID::worktrees] = WorktreeFinder::items(walk.mainRepositories(), context, m_gitCandidates);
+    return outputs;
+}
 
 QStringList ProjectScanner::distinctRoots(const QStringList& roots, const QString& home)
 {
@@ -37,4 +128,17 @@ QStringList ProjectScanner::distinctRoots(const QStringList& roots, const QStrin
     }
     kept.removeIf([](const QString& root) { return !QFileInfo(root).isDir(); });
     return kept;
+}
+
+std::optional<QDateTime> ProjectScanner::lastOpened(const QString& path)
+{
+    return Platform::lastOpened(path);
+}
+
+QString ProjectScanner::unreadableNote(qint64 folders)
+{
+    //: Note above Project Builds and Large Files; %n is the number of folders that couldn't be read
+    return QCoreApplication::translate("ProjectScanner",
+        "%n folders couldn't be read. Allow access when macOS asks, or give Dustlark Full Disk Access.",
+        nullptr, int(std::min<qint64>(folders, INT_MAX)));
 }

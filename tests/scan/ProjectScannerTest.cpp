@@ -1,8 +1,14 @@
 #include "scan/ProjectScanner.h"
 
+#include "format/RelativeDate.h"
+#include "scan/ProjectScannerGit.h"
 #include "support/TempTree.h"
 
+#include <QFile>
+#include <QTimeZone>
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 TEST(ProjectScannerRoots, ExpandsCleansSortsAndDropsNestedAndMissingFolders)
 {
@@ -34,4 +40,173 @@ TEST(ProjectScannerRoots, TildeAloneIsTheHomeFolderAndSwallowsEverythingInIt)
     const QString home = tree.dir("home");
     tree.dir("home/Projects");
     EXPECT_EQ(ProjectScanner::distinctRoots({"~/Projects", "~"}, home), QStringList({home}));
+}
+
+namespace {
+
+constexpr qint64 jan2020 = 1'577'836'800;
+constexpr qint64 day = 86'400;
+
+// A fixture home folder scanned whole, with git found where the system keeps it.
+class ProjectScannerScan : public ::testing::Test {
+protected:
+    ProjectScannerScan() : home(tree.dir("home"))
+    {
+        context.home = home;
+        context.roots = {home};
+    }
+
+    ScanOutputs scan(const QStringList& gitCandidates = Platform::gitCandidates()) const
+    {
+        return ProjectScanner(gitCandidates).scan(context);
+    }
+
+    static const CleanupItem* find(const ScanOutput& output, const QString& id)
+    {
+        for (const CleanupItem& item : output.items) {
+            if (item.id == id)
+                return &item;
+        }
+        return nullptr;
+    }
+
+    QString changedFact(const CleanupItem& item) const
+    {
+        return item.date ? "project changed " + RelativeDate::format(*item.date, context.now) : QString();
+    }
+
+    // A git that writes each call's arguments to a log and then runs the real one.
+    QString recordingGit() const
+    {
+        const QString path = tree.file("bin/git", "#!/bin/sh\necho \"$*\" >> '" + QFile::encodeName(tree.path("git.log"))
+                                                      + "'\nexec /usr/bin/git \"$@\"\n");
+        ::chmod(QFile::encodeName(path).constData(), 0755);
+        return path;
+    }
+
+    QStringList gitCalls() const
+    {
+        QFile log(tree.path("git.log"));
+        return log.open(QIODevice::ReadOnly) ? QString::fromUtf8(log.readAll()).split('\n', Qt::SkipEmptyParts)
+                                             : QStringList();
+    }
+
+    TempTree tree;
+    QString home;
+    ScanContext context;
+};
+
+}  // namespace
+
+TEST_F(ProjectScannerScan, CommittedBuildFolderAsksAIAndAnUntrackedOneStaysSafe)
+{
+    tree.file("home/code/app/android/build.gradle");
+    tree.file("home/code/app/android/build/a.txt", 10);
+    tree.file("home/code/app/android/build/b.txt", 10);
+    ProjectScannerGit::initRepository(tree.path("home/code/app"));
+    tree.file("home/code/app/android/build/c.o", 5000);  // output beside the committed files
+    tree.file("home/code/lib/build.gradle");
+    tree.file("home/code/lib/build/out.o", 5000);
+    context.roots = {home, "~/code"};  // nested scan folders are walked once
+
+    const ScanOutput projects = scan()[CategoryID::projects];
+    ASSERT_EQ(projects.items.size(), 2);
+
+    const CleanupItem* app = find(projects, tree.path("home/code/app/android/build"));
+    ASSERT_NE(app, nullptr);
+    EXPECT_EQ(app->title, "app/android");
+    EXPECT_EQ(app->badge, "build");
+    ASSERT_TRUE(app->date.has_value()) << "git and the working copy date the project";
+    EXPECT_EQ(app->detail, changedFact(*app) + " · 2 files in it are tracked by git");
+    EXPECT_EQ(app->safety(home), Safety::askAI);
+    EXPECT_EQ(app->projectPath, tree.path("home/code/app/android"));
+    EXPECT_EQ(app->removal.paths(), QStringList{app->id});
+
+    const CleanupItem* lib = find(projects, tree.path("home/code/lib/build"));
+    ASSERT_NE(lib, nullptr);
+    EXPECT_EQ(lib->detail, changedFact(*lib));
+    EXPECT_EQ(lib->safetyLevel, std::nullopt);
+    EXPECT_EQ(lib->safety(home), Safety::safe);
+}
+
+TEST_F(ProjectScannerScan, OnlyABuildFolderEverRunsGit)
+{
+    tree.file("home/code/web/package.json");
+    tree.file("home/code/web/node_modules/left-pad/index.js", 100);
+    tree.file("home/code/web/.venv/pyvenv.cfg", 20);
+    tree.file("home/code/droid/build.gradle");
+    tree.file("home/code/droid/build/out.bin", 100);
+    ProjectScannerGit::initRepository(tree.path("home/code"));  // everything is even committed
+
+    const ScanOutput projects = scan({recordingGit()})[CategoryID::projects];
+    EXPECT_EQ(projects.items.size(), 3);
+    const QStringList calls = gitCalls();
+    ASSERT_EQ(calls.size(), 1) << qPrintable(calls.join('\n'));
+    EXPECT_TRUE(calls[0].endsWith("-C " + tree.path("home/code/droid") + " ls-files -z -- build")) << qPrintable(calls[0]);
+    EXPECT_TRUE(calls[0].startsWith("-c core.fsmonitor=false -c core.hooksPath=/dev/null ")) << qPrintable(calls[0]);
+
+    const CleanupItem* modules = find(projects, tree.path("home/code/web/node_modules"));
+    ASSERT_NE(modules, nullptr);
+    EXPECT_EQ(modules->safety(home), Safety::safe);
+    EXPECT_FALSE(modules->detail.contains("tracked"));
+}
+
+TEST_F(ProjectScannerScan, FoldersWithoutFilesGiveNoRowAndUndatedProjectsNoChangeFact)
+{
+    tree.file("home/code/web/package.json");
+    tree.dir("home/code/web/node_modules/.bin");
+    tree.file("home/code/py/.venv/pyvenv.cfg", 20);
+    tree.file("home/code/py/a/b/c/too-deep.py");  // below the third level: not looked at
+
+    const ScanOutput projects = scan()[CategoryID::projects];
+    ASSERT_EQ(projects.items.size(), 1);
+    const CleanupItem& venv = projects.items.first();
+    EXPECT_EQ(venv.id, tree.path("home/code/py/.venv"));
+    EXPECT_EQ(venv.title, "py");
+    EXPECT_EQ(venv.date, std::nullopt);
+    EXPECT_EQ(venv.detail, "");
+}
+
+TEST_F(ProjectScannerScan, LargeFilesSayWhenOpenedOnlyIfReadAfterWriting)
+{
+    const QString opened = tree.sparseFile("home/media/opened.mov", 200'000'000);
+    const QString written = tree.sparseFile("home/media/written.mov", 200'000'001);
+    tree.setTimes("home/media/written.mov", jan2020);
+    const struct timespec times[2] = {{jan2020 + 30 * day, 0}, {jan2020, 0}};  // read a month after writing
+    ::utimensat(AT_FDCWD, QFile::encodeName(opened).constData(), times, 0);
+
+    const ScanOutput large = scan()[CategoryID::largeFiles];
+    ASSERT_EQ(large.items.size(), 2);
+    const CleanupItem* openedRow = find(large, opened);
+    ASSERT_NE(openedRow, nullptr);
+    EXPECT_EQ(openedRow->title, "~/media/opened.mov");
+    EXPECT_EQ(openedRow->date, QDateTime::fromSecsSinceEpoch(jan2020 + 30 * day, QTimeZone::utc()));
+    EXPECT_EQ(openedRow->detail, "opened " + RelativeDate::format(*openedRow->date, context.now));
+    EXPECT_EQ(openedRow->safety(home), Safety::risky);
+    const FileTarget target = openedRow->removal.as<Removal::Trash>()->targets.value(0);
+    EXPECT_EQ(target.content, (FileTarget::ContentStamp{200'000'000, jan2020 * 1'000'000'000}));
+
+    const CleanupItem* writtenRow = find(large, written);
+    ASSERT_NE(writtenRow, nullptr);
+    EXPECT_EQ(writtenRow->date, std::nullopt);
+    EXPECT_EQ(writtenRow->detail, "");
+}
+
+TEST_F(ProjectScannerScan, UnreadableFoldersAreNotedOnProjectsAndLargeFiles)
+{
+    tree.file("home/open/x");
+    tree.file("home/locked/y");
+    ::chmod(QFile::encodeName(tree.path("home/locked")).constData(), 0);
+    const auto notes = tree.runUnprivileged([&] {
+        const ScanOutputs outputs = scan();
+        return (outputs.at(CategoryID::projects).notes + outputs.at(CategoryID::largeFiles).notes
+                + outputs.at(CategoryID::duplicates).notes + outputs.at(CategoryID::worktrees).notes)
+            .join('|')
+            .toUtf8();
+    });
+    ::chmod(QFile::encodeName(tree.path("home/locked")).constData(), 0755);
+    if (!notes)
+        GTEST_SKIP() << "running as root, and a child as 'nobody' could not be started to honour folder modes";
+    const QByteArray note = "1 folders couldn't be read. Allow access when macOS asks, or give Dustlark Full Disk Access.";
+    EXPECT_EQ(*notes, note + '|' + note);
 }

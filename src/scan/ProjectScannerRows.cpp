@@ -1,0 +1,124 @@
+#include "scan/ProjectScanner.h"
+
+#include "format/RelativeDate.h"
+#include "model/PathRules.h"
+#include "scan/FileSizer.h"
+#include "scan/GitCommand.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <chrono>
+#include <sys/stat.h>
+
+// Turning the walk's build folders and large files into rows.
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto trackedFilesTimeLimit = 30s;
+
+QString nameOf(const QString& path)
+{
+    return path.section(QLatin1Char('/'), -1);
+}
+
+QString shownPath(const QString& path, const QString& home)
+{
+    if (home.isEmpty() || !PathRules::isAtOrBelow(path, home))
+        return path;
+    return QLatin1Char('~') + path.mid(home.size());
+}
+
+// A committed "build" folder may hold sources rather than output, so only that name is
+// worth a git run; the other build-folder names are never committed on purpose.
+int trackedCount(const Artifact& artifact, const std::optional<QString>& git, const CancellationToken* cancellation)
+{
+    if (artifact.name != QLatin1String("build") || !git)
+        return 0;
+    return ProjectScanner::trackedFiles(artifact, *git, cancellation);
+}
+
+QString buildFolderDetail(const ProjectInfo* project, int tracked, const QDateTime& now)
+{
+    QStringList facts;
+    if (project && project->lastActivity)
+        //: Fact in a Project Builds row's detail line; %1 is a relative date like '3 months ago'
+        facts << QCoreApplication::translate("ProjectScanner", "project changed %1")
+                     .arg(RelativeDate::format(*project->lastActivity, now));
+    if (tracked > 0)
+        //: Fact in a Project Builds row's detail line; %n is how many files in the folder git tracks
+        facts << QCoreApplication::translate("ProjectScanner", "%n files in it are tracked by git", nullptr, tracked);
+    return facts.join(QStringLiteral(" · "));
+}
+
+std::optional<FileTarget::ContentStamp> contentStamp(const QString& path)
+{
+    struct stat info {};
+    if (::lstat(QFile::encodeName(path).constData(), &info) != 0 || !S_ISREG(info.st_mode))
+        return std::nullopt;
+    return FileTarget::ContentStamp{info.st_size, Platform::modificationNanoseconds(info)};
+}
+
+}  // namespace
+
+std::optional<CleanupItem> ProjectScanner::buildFolderRow(const Artifact& artifact, const ProjectInfo* project,
+                                                          const std::optional<QString>& git,
+                                                          const ScanContext& context)
+{
+    const FileSizer::Measurement size = FileSizer::measure(artifact.path, context.progress.get(), &context.cancellation);
+    // A folder without a single file frees next to nothing; counting files rather than bytes
+    // keeps that true where even an empty folder takes a block (ext4, unlike APFS).
+    if (!size.complete || size.bytes < 1 || size.files == 0)
+        return std::nullopt;
+    const std::optional<FileTarget> target = FileTarget::make(artifact.path);
+    if (!target)
+        return std::nullopt;
+    const int tracked = trackedCount(artifact, git, &context.cancellation);
+    CleanupItem item;
+    item.id = artifact.path;
+    item.category = CategoryID::projects;
+    item.title = project ? project->title : nameOf(artifact.project);
+    item.badge = artifact.name;
+    item.detail = buildFolderDetail(project, tracked, context.now);
+    item.size = size.bytes;
+    item.removal = Removal::trash({*target});
+    item.date = project ? project->lastActivity : std::nullopt;
+    item.projectPath = artifact.project;
+    if (tracked > 0)
+        item.safetyLevel = Safety::askAI;
+    return item;
+}
+
+std::optional<CleanupItem> ProjectScanner::largeFileRow(const LargeFile& file, const ScanContext& context)
+{
+    std::optional<FileTarget> target = FileTarget::watching(file.path, {});
+    const std::optional<FileTarget::ContentStamp> stamp = contentStamp(file.path);
+    if (!target || !stamp)
+        return std::nullopt;
+    target->content = stamp;  // a file rewritten since the scan is not the one the person chose
+    CleanupItem item;
+    item.id = file.path;
+    item.category = CategoryID::largeFiles;
+    item.title = shownPath(file.path, context.home);
+    item.size = file.size;
+    item.removal = Removal::trash({*target});
+    item.date = lastOpened(file.path);
+    if (item.date)
+        //: Fact in a Large Files row's detail line; %1 is a relative date like '3 months ago'
+        item.detail = QCoreApplication::translate("ProjectScanner", "opened %1").arg(RelativeDate::format(*item.date, context.now));
+    return item;
+}
+
+int ProjectScanner::trackedFiles(const Artifact& artifact, const QString& git, const CancellationToken* cancellation)
+{
+    // The folder is named relative to its project, where git runs, so a project reached through
+    // a symbolic link (macOS's /var, /tmp) still matches git's own idea of the working tree.
+    const std::optional<QString> names = GitCommand::succeeded(GitCommand::run(
+        git, artifact.project,
+        {QStringLiteral("ls-files"), QStringLiteral("-z"), QStringLiteral("--"), nameOf(artifact.path)},
+        trackedFilesTimeLimit, cancellation));
+    if (!names)
+        return 0;
+    return int(names->split(QLatin1Char('\0'), Qt::SkipEmptyParts).size());
+}
