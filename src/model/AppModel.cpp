@@ -3,7 +3,11 @@
 #include "model/SettingsStore.h"
 #include "model/SharedScanFolders.h"
 #include "model/StatsStore.h"
+#include "actions/DiskSpace.h"
+#include "actions/Remover.h"
+#include "actions/SystemAccess.h"
 #include "platform/Platform.h"
+#include "scan/FileSizer.h"
 #include "scan/ScannerCatalog.h"
 
 #include <QCoreApplication>
@@ -16,11 +20,22 @@ AppModel::Services AppModel::defaultServices()
     services.scanners = [] { return ScannerCatalog::all(); };
     services.readSystemState = [](const QString& home) {
         SystemState state;
-        state.freeBytes = Platform::availableCapacity(home);
-        state.totalBytes = Platform::totalCapacity(home);
+        if (const auto disk = DiskSpace::current(home)) {
+            state.freeBytes = disk->available;
+            state.totalBytes = disk->total;
+        }
+        state.fullDiskAccess = SystemAccess::hasFullDiskAccess(home);
         return state;
     };
     services.now = [] { return QDateTime::currentDateTimeUtc(); };
+    services.removeItem = [](const CleanupItem& item) { return Remover::remove(item); };
+    services.emptyTrash = [] { return SystemAccess::emptyTrash(); };
+    services.measureTrash = [](const QString& home) -> std::optional<qint64> {
+        const FileSizer::Measurement measurement = FileSizer::measure(Platform::trashFolder(home));
+        if (!measurement.complete)
+            return std::nullopt;
+        return measurement.bytes;
+    };
     return services;
 }
 

@@ -71,14 +71,14 @@ bool AppModel::removeOne(CleanupSession* session, const CleanupItem& item, const
     QMetaObject::invokeMethod(this, [session, title = item.title] { session->setCurrent(title); }, Qt::QueuedConnection);
     const CleanupSession::Outcome outcome = wouldLoseLastCopy(item, copies)
         //: Why a duplicate was not removed: every other copy is gone or being removed
-        ? CleanupSession::Outcome::failure(tr("It's the last copy of this file, so it was kept."))
+        ? CleanupSession::Outcome::failed(tr("It's the last copy of this file, so it was kept."))
         : m_services.removeItem(item);
     QMetaObject::invokeMethod(this, [this, session, item, outcome] {
         session->record(item, outcome);
-        if (outcome.removed())
+        if (outcome.succeeded())
             removeFromResults(item);
     }, Qt::QueuedConnection);
-    return outcome.removed();
+    return outcome.succeeded();
 }
 
 void AppModel::finishCleanup(std::optional<qint64> freeAfter)

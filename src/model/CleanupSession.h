@@ -1,5 +1,6 @@
 #pragma once
 
+#include "actions/RemovalOutcome.h"
 #include "model/CleanupItem.h"
 
 #include <QList>
@@ -19,21 +20,12 @@ public:
     enum class Phase { confirming, running, finished };
 
     struct Failure {
-        QString id = QUuid::createUuid().toString(QUuid::WithoutBraces);
+        QString id;  // a fresh UUID
         QString title;
         QString reason;
     };
 
-    // What happened to one item.
-    struct Outcome {
-        enum class Kind { movedToTrash, removedByTool, failed };
-        Kind kind = Kind::failed;
-        QString reason;  // set when failed: one sentence
-        static Outcome moved() { return {Kind::movedToTrash, {}}; }
-        static Outcome removedByTool() { return {Kind::removedByTool, {}}; }
-        static Outcome failure(const QString& reason) { return {Kind::failed, reason}; }
-        bool removed() const { return kind != Kind::failed; }
-    };
+    using Outcome = RemovalOutcome;
 
     explicit CleanupSession(QList<CleanupItem> items, QObject* parent = nullptr);
 

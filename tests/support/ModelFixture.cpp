@@ -1,6 +1,7 @@
 #include "support/ModelFixture.h"
 
-ModelFixture::ModelFixture(std::vector<std::shared_ptr<const Scanner>> scanners, const QString& home)
+ModelFixture::ModelFixture(std::vector<std::shared_ptr<const Scanner>> scanners, const QString& home,
+                           const std::function<void(AppModel::Services&)>& adjust)
     : m_settings(std::make_unique<QSettings>(m_dir.filePath("prefs.ini"), QSettings::IniFormat)),
       m_settingsStore(std::make_unique<SettingsStore>(m_settings.get(), home)),
       m_statsStore(std::make_unique<StatsStore>(m_settings.get()))
@@ -8,6 +9,8 @@ ModelFixture::ModelFixture(std::vector<std::shared_ptr<const Scanner>> scanners,
     AppModel::Services services = AppModel::defaultServices();
     services.scanners = [scanners] { return scanners; };
     services.readSystemState = [](const QString&) { return AppModel::SystemState{1'000'000'000, 2'000'000'000, true}; };
+    if (adjust)
+        adjust(services);
     m_model = std::make_unique<AppModel>(m_settingsStore.get(), m_statsStore.get(), services);
 }
 

@@ -14,7 +14,8 @@
 class ModelFixture {
 public:
     explicit ModelFixture(std::vector<std::shared_ptr<const Scanner>> scanners = {},
-                          const QString& home = QStringLiteral("/Users/a"));
+                          const QString& home = QStringLiteral("/Users/a"),
+                          const std::function<void(AppModel::Services&)>& adjust = {});
 
     AppModel& model() { return *m_model; }
     SettingsStore& settings() { return *m_settingsStore; }

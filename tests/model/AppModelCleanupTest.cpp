@@ -1,0 +1,214 @@
+#include "actions/Remover.h"
+#include "support/ModelFixture.h"
+#include "support/TempTree.h"
+#include "support/Wait.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <gtest/gtest.h>
+#include <cstdio>
+
+namespace {
+
+QString trashFiles()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/Trash/files";
+}
+
+// A row for a real file or folder of the tree, with its identity taken now, as a scan would.
+CleanupItem realRow(CategoryID category, const TempTree& tree, const QString& relative, qint64 size)
+{
+    const auto target = FileTarget::make(tree.path(relative));
+    EXPECT_TRUE(target.has_value());
+    CleanupItem item = rowAt(category, tree.path(relative), size);
+    item.removal = Removal::trash({*target});
+    return item;
+}
+
+// Removal through the real remover, scoped to the test's home folder.
+void useRealRemover(AppModel::Services& services, const QString& home)
+{
+    services.removeItem = [home](const CleanupItem& item) {
+        RemovalEnvironment environment = RemovalEnvironment::current();
+        environment.home = home;
+        return Remover::remove(item, environment);
+    };
+}
+
+void show(AppModel& model, CategoryID category, QList<CleanupItem> items)
+{
+    ScanOutputs outputs;
+    outputs[category].items = std::move(items);
+    model.apply(outputs, false);
+}
+
+bool finished(AppModel& model)
+{
+    return model.cleanup() && model.cleanup()->phase() == CleanupSession::Phase::finished;
+}
+
+}  // namespace
+
+TEST(AppModelCleanup, AFolderAndAFileInsideItGoOnceToTheTrash)
+{
+    TempTree tree;
+    tree.file("Projects/app/node_modules/left-pad/index.js", 3000);
+    ModelFixture fixture({}, tree.root(), [&](AppModel::Services& s) { useRealRemover(s, tree.root()); });
+    AppModel& model = fixture.model();
+    const CleanupItem folder = realRow(CategoryID::projects, tree, "Projects/app/node_modules", 8000);
+    const CleanupItem file = realRow(CategoryID::largeFiles, tree, "Projects/app/node_modules/left-pad/index.js", 3000);
+    show(model, CategoryID::projects, {folder});
+    show(model, CategoryID::largeFiles, {file});
+    model.setSelected(folder, true);
+    model.setSelected(file, true);
+
+    model.prepareCleanup();
+    ASSERT_TRUE(model.cleanup());
+    ASSERT_EQ(model.cleanup()->items().size(), 1);
+    EXPECT_EQ(model.cleanup()->items().first().id, folder.id);
+
+    model.startCleanup();
+    ASSERT_TRUE(waitUntil([&] { return finished(model); }));
+    const CleanupSession& session = *model.cleanup();
+    EXPECT_EQ(session.processed(), 1);
+    EXPECT_EQ(session.movedToTrash(), 8000);
+    EXPECT_TRUE(session.failures().isEmpty());
+    EXPECT_FALSE(QFileInfo::exists(folder.id));
+    EXPECT_TRUE(QFileInfo(trashFiles() + "/node_modules/left-pad/index.js").isFile());
+    EXPECT_TRUE(QFileInfo::exists(trashFiles() + "/../info/node_modules.trashinfo"));
+    EXPECT_TRUE(model.result(CategoryID::projects).items.isEmpty());
+    EXPECT_TRUE(model.selection().isEmpty() || model.selection() == QSet<QString>{file.id});
+    ASSERT_FALSE(fixture.stats().stats().history.isEmpty());
+    EXPECT_EQ(fixture.stats().stats().history.first().movedToTrash, 8000);
+    EXPECT_EQ(fixture.stats().stats().itemsRemoved, 1);
+
+    model.closeCleanup();
+    EXPECT_FALSE(model.cleanup());
+    ASSERT_TRUE(model.lastRunCleanup());
+    EXPECT_EQ(model.lastRunCleanup()->resultTitle(), "Cleaning finished");
+}
+
+TEST(AppModelCleanup, StopAfterTheFirstItemKeepsTheRestSelectedAndListed)
+{
+    TempTree tree;
+    for (const char* name : {"a.log", "b.log", "c.log"})
+        tree.file(QString("Library/Logs/") + name, 100);
+    AppModel* modelPointer = nullptr;
+    ModelFixture fixture({}, tree.root(), [&](AppModel::Services& s) {
+        useRealRemover(s, tree.root());
+        auto remove = s.removeItem;
+        s.removeItem = [remove, &modelPointer](const CleanupItem& item) {
+            modelPointer->cleanup()->requestStop();  // the person presses Stop during the first item
+            return remove(item);
+        };
+    });
+    AppModel& model = fixture.model();
+    modelPointer = &model;
+    QList<CleanupItem> rows;
+    for (const char* name : {"a.log", "b.log", "c.log"})
+        rows.append(realRow(CategoryID::logs, tree, QString("Library/Logs/") + name, 100));
+    show(model, CategoryID::logs, rows);
+    model.setAll(rows, true);
+
+    model.prepareCleanup();
+    model.startCleanup();
+    ASSERT_TRUE(waitUntil([&] { return finished(model); }));
+
+    EXPECT_TRUE(model.cleanup()->stopped());
+    EXPECT_EQ(model.cleanup()->processed(), 1);
+    EXPECT_EQ(model.cleanup()->resultTitle(), "Cleaning stopped");
+    EXPECT_EQ(model.result(CategoryID::logs).items.size(), 2);
+    EXPECT_EQ(model.selection().size(), 2);
+    EXPECT_TRUE(QFileInfo::exists(tree.path("Library/Logs/b.log")));
+}
+
+TEST(AppModelCleanup, TheSecondOfTheLastTwoCopiesIsRefused)
+{
+    TempTree tree;
+    for (const char* name : {"a.mov", "b.mov", "c.mov"})
+        tree.file(name, 2000);
+    ModelFixture fixture({}, tree.root(), [&](AppModel::Services& s) { useRealRemover(s, tree.root()); });
+    AppModel& model = fixture.model();
+    QList<CleanupItem> copies;
+    for (const char* name : {"a.mov", "b.mov", "c.mov"}) {
+        CleanupItem copy = realRow(CategoryID::duplicates, tree, name, 2000);
+        copy.duplicateGroup = "g";
+        copies.append(copy);
+    }
+    show(model, CategoryID::duplicates, copies);
+    model.setSelected(copies[0], true);
+    model.setSelected(copies[1], true);
+    // Safe-listing the unselected copy leaves the two selected ones as the whole group.
+    model.addToSafeList(copies[2]);
+    ASSERT_EQ(model.result(CategoryID::duplicates).items.size(), 2);
+
+    model.prepareCleanup();
+    model.startCleanup();
+    ASSERT_TRUE(waitUntil([&] { return finished(model); }));
+
+    const CleanupSession& session = *model.cleanup();
+    EXPECT_EQ(session.processed(), 2);
+    EXPECT_EQ(session.movedToTrash(), 2000);
+    ASSERT_EQ(session.failures().size(), 1);
+    EXPECT_EQ(session.failures().first().title, "b.mov");
+    EXPECT_EQ(session.failures().first().reason, "It's the last copy of this file, so it was kept.");
+    EXPECT_TRUE(QFileInfo::exists(tree.path("b.mov")));
+    EXPECT_FALSE(QFileInfo::exists(tree.path("a.mov")));
+}
+
+TEST(AppModelCleanup, ARefusedTargetIsAFailureWithItsReasonAndStaysListed)
+{
+    TempTree tree;
+    tree.file("Downloads/setup.dmg", 500);
+    ModelFixture fixture({}, tree.root(), [&](AppModel::Services& s) { useRealRemover(s, tree.root()); });
+    AppModel& model = fixture.model();
+    const CleanupItem row = realRow(CategoryID::installers, tree, "Downloads/setup.dmg", 500);
+    show(model, CategoryID::installers, {row});
+    model.setSelected(row, true);
+    // Replaced by a new file of the same name after the scan (made first, so its inode differs).
+    tree.file("Downloads/setup.new", 500);
+    ASSERT_TRUE(::rename(QFile::encodeName(tree.path("Downloads/setup.new")).constData(),
+                         QFile::encodeName(row.id).constData()) == 0);
+
+    model.prepareCleanup();
+    model.startCleanup();
+    ASSERT_TRUE(waitUntil([&] { return finished(model); }));
+    ASSERT_EQ(model.cleanup()->failures().size(), 1);
+    EXPECT_EQ(model.cleanup()->failures().first().reason, "It changed since the scan. Scan again.");
+    EXPECT_EQ(model.result(CategoryID::installers).items.size(), 1);
+    EXPECT_TRUE(QFileInfo::exists(row.id));
+    EXPECT_EQ(fixture.stats().stats().cleanups, 0);  // nothing removed, nothing recorded
+}
+
+TEST(AppModelCleanup, QuitWaitsForTheRunningCleanupToStop)
+{
+    TempTree tree;
+    tree.file("Library/Logs/a.log", 100);
+    tree.file("Library/Logs/b.log", 100);
+    std::atomic<bool> release{false};
+    ModelFixture fixture({}, tree.root(), [&](AppModel::Services& s) {
+        s.removeItem = [&release](const CleanupItem&) {
+            while (!release)
+                QThread::msleep(2);
+            return RemovalOutcome::movedToTrash();
+        };
+    });
+    AppModel& model = fixture.model();
+    const QList<CleanupItem> rows = {realRow(CategoryID::logs, tree, "Library/Logs/a.log", 100),
+                                     realRow(CategoryID::logs, tree, "Library/Logs/b.log", 100)};
+    show(model, CategoryID::logs, rows);
+    model.setAll(rows, true);
+    model.prepareCleanup();
+    model.startCleanup();
+    ASSERT_TRUE(model.isChangingFiles());
+    ASSERT_TRUE(waitUntil([&] { return model.cleanup()->current() == "a.log"; }));
+
+    bool quit = false;
+    model.stopForQuit([&] { quit = true; });
+    EXPECT_FALSE(quit);
+    release = true;
+    ASSERT_TRUE(waitUntil([&] { return quit; }));
+    EXPECT_EQ(model.cleanup()->processed(), 1);  // the current item finished, then it stopped
+    EXPECT_FALSE(model.isChangingFiles());
+}
