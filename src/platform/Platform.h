@@ -96,3 +96,11 @@ QStringList gitCandidates();
 std::optional<QDateTime> lastOpened(const QString& path);
 
 }  // namespace Platform
+
+namespace Platform {
+
+// The folder that holds what the person moved to the Trash: "~/.Trash" on macOS, the
+// freedesktop home trash's "files" folder on Linux.
+QString trashFolder(const QString& home);
+
+}  // namespace Platform

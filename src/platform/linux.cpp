@@ -325,3 +325,15 @@ std::optional<QDateTime> lastOpened(const QString& path)
 }
 
 }  // namespace Platform
+
+namespace Platform {
+
+QString trashFolder(const QString& home)
+{
+    // The freedesktop home trash follows XDG_DATA_HOME, whoever's home is being scanned.
+    const QByteArray dataHome = qgetenv("XDG_DATA_HOME");
+    const QString base = dataHome.isEmpty() ? home + QStringLiteral("/.local/share") : QFile::decodeName(dataHome);
+    return base + QStringLiteral("/Trash/files");
+}
+
+}  // namespace Platform

@@ -228,3 +228,12 @@ std::optional<QDateTime> lastOpened(const QString& path)
 }
 
 }  // namespace Platform
+
+namespace Platform {
+
+QString trashFolder(const QString& home)
+{
+    return home + QStringLiteral("/.Trash");
+}
+
+}  // namespace Platform
