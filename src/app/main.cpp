@@ -1,4 +1,7 @@
 #include "model/AppLanguage.h"
+#include "model/AppModel.h"
+#include "model/SettingsStore.h"
+#include "model/StatsStore.h"
 #include "ui/MainWindow.h"
 
 #include <QApplication>
@@ -10,9 +13,16 @@ int main(int argc, char* argv[])
     QApplication::setOrganizationName(QStringLiteral("Dustlark"));
     QApplication::setApplicationName(QStringLiteral("Dustlark"));
 
-    AppLanguage::loadAtLaunch(QSettings());
+    // The native store: NSUserDefaults on macOS, an INI file under ~/.config on Linux.
+    QSettings settings;
+    AppLanguage::loadAtLaunch(settings);
 
-    MainWindow window;
+    SettingsStore settingsStore(&settings);
+    StatsStore statsStore(&settings);
+    AppModel model(&settingsStore, &statsStore);
+    model.refreshSystemState();
+
+    MainWindow window(&model);
     window.show();
     return app.exec();
 }

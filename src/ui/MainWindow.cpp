@@ -1,69 +1,144 @@
 #include "ui/MainWindow.h"
 
+#include "format/ByteCount.h"
+#include "model/AppModel.h"
 #include "ui/CategoryPage.h"
+#include "ui/CleanupSheet.h"
 #include "ui/Sidebar.h"
+#include "ui/Toast.h"
 
+#include <QAction>
 #include <QLabel>
+#include <QMenuBar>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
-MainWindow::MainWindow(QWidget* parent)
-    : QMainWindow(parent), m_sidebar(new Sidebar(this)), m_stack(new QStackedWidget(this)),
-      m_categoryPage(new CategoryPage(this))
+MainWindow::MainWindow(AppModel* model, QWidget* parent)
+    : QMainWindow(parent), m_model(model), m_sidebar(new Sidebar(this)), m_stack(new QStackedWidget(this)),
+      m_categoryPage(new CategoryPage(model, this)), m_toast(nullptr)
 {
     //: Window title (the app's name)
     setWindowTitle(tr("Dustlark"));
-    //: Heading of the overview screen
-    m_overviewPage = makeScreenPage(tr("Overview"),
-        //: The promise on the overview screen
-        tr("A scan only reads. You choose what goes to the Trash."));
-    m_stack->addWidget(m_overviewPage);
+    setUnifiedTitleAndToolBarOnMac(true);
     m_stack->addWidget(m_categoryPage);
-
     auto* splitter = new QSplitter(this);
     splitter->addWidget(m_sidebar);
     splitter->addWidget(m_stack);
     splitter->setStretchFactor(1, 1);
-    splitter->setSizes({240, 760});
+    splitter->setSizes({250, 1030});
     splitter->setChildrenCollapsible(false);
     setCentralWidget(splitter);
+    m_toast = new Toast(this);
+    makeToolbar();
+    makeMenus();
     resize(1280, 800);
 
     using Kind = SidebarDestination::Kind;
     for (Kind kind : {Kind::storage, Kind::largeFolders, Kind::safeList, Kind::about})
         m_sidebar->setScreenAvailable(SidebarDestination::screen(kind), false);
+    setScreenPage(Kind::overview, makeOverviewPlaceholder());
 
-    connect(m_sidebar, &Sidebar::destinationChosen, this, &MainWindow::showDestination);
-    showDestination(SidebarDestination::screen(SidebarDestination::Kind::overview));
+    connect(m_sidebar, &Sidebar::destinationChosen, this, &MainWindow::choose);
+    connect(m_model, &AppModel::resultsChanged, this, &MainWindow::updateSidebarCategory);
+    connect(m_model, &AppModel::cleanupChanged, this, &MainWindow::cleanupDidChange);
+    connect(m_model, &AppModel::toastChanged, m_toast, &Toast::showMessage);
+    for (CategoryID category : Categories::allCases())
+        updateSidebarCategory(category);
+    showCurrentScreen();
 }
 
-void MainWindow::showDestination(const SidebarDestination& destination)
+MainWindow::~MainWindow() = default;
+
+void MainWindow::setScreenPage(SidebarDestination::Kind kind, QWidget* page)
 {
-    m_destination = destination;
-    m_sidebar->select(destination);
-    if (destination.category) {
-        m_categoryPage->showCategory(*destination.category);
-        m_stack->setCurrentWidget(m_categoryPage);
+    if (kind == SidebarDestination::Kind::category || !page)
         return;
+    if (const auto old = m_screens.find(kind); old != m_screens.end()) {
+        m_stack->removeWidget(old->second);
+        old->second->deleteLater();
     }
-    m_stack->setCurrentWidget(m_overviewPage);
+    m_screens[kind] = page;
+    m_stack->addWidget(page);
+    m_sidebar->setScreenAvailable(SidebarDestination::screen(kind), true);
+    if (destination().kind == kind)
+        showCurrentScreen();
 }
 
-QWidget* MainWindow::makeScreenPage(const QString& title, const QString& text)
+void MainWindow::setSettingsPage(QWidget* page)
+{
+    if (m_settingsPage)
+        m_settingsPage->deleteLater();
+    m_settingsPage = page;
+    page->setParent(this, Qt::Window);
+    m_settingsAction->setVisible(true);
+}
+
+void MainWindow::setQuestions(const AIQuestions& questions)
+{
+    m_categoryPage->setQuestions(questions);
+}
+
+QWidget* MainWindow::makeOverviewPlaceholder()
 {
     auto* page = new QWidget(this);
-    auto* heading = new QLabel(title, page);
+    //: Heading of the overview screen
+    auto* heading = new QLabel(tr("Overview"), page);
     QFont font = heading->font();
     font.setPointSizeF(font.pointSizeF() * 1.6);
     font.setBold(true);
     heading->setFont(font);
-    auto* body = new QLabel(text, page);
+    //: The promise on the overview screen
+    auto* body = new QLabel(tr("A scan only reads. You choose what goes to the Trash."), page);
     body->setWordWrap(true);
     auto* layout = new QVBoxLayout(page);
-    layout->setContentsMargins(24, 20, 24, 20);
+    layout->setContentsMargins(24, 18, 24, 18);
     layout->addWidget(heading);
     layout->addWidget(body);
     layout->addStretch(1);
     return page;
+}
+
+void MainWindow::makeMenus()
+{
+    //: Menu of the app's commands
+    QMenu* file = menuBar()->addMenu(tr("File"));
+    file->addAction(m_scanAction);
+    //: Menu entry that opens the settings window
+    m_settingsAction = file->addAction(tr("Settings…"), this, [this] {
+        if (!m_settingsPage)
+            return;
+        m_settingsPage->show();
+        m_settingsPage->raise();
+        m_settingsPage->activateWindow();
+    });
+    m_settingsAction->setMenuRole(QAction::PreferencesRole);
+    m_settingsAction->setShortcut(QKeySequence::Preferences);
+    m_settingsAction->setVisible(false);
+    file->addSeparator();
+    //: Menu entry that quits the app
+    QAction* quit = file->addAction(tr("Quit Dustlark"), this, &QWidget::close);
+    quit->setMenuRole(QAction::QuitRole);
+    quit->setShortcut(QKeySequence::Quit);
+}
+
+void MainWindow::showCurrentScreen()
+{
+    const SidebarDestination& shown = destination();
+    m_sidebar->select(shown);
+    if (shown.category) {
+        m_categoryPage->showCategory(*shown.category);
+        m_stack->setCurrentWidget(m_categoryPage);
+        return;
+    }
+    if (const auto page = m_screens.find(shown.kind); page != m_screens.end())
+        m_stack->setCurrentWidget(page->second);
+}
+
+void MainWindow::updateSidebarCategory(CategoryID category)
+{
+    const CategoryResult result = m_model->result(category);
+    m_sidebar->setCategoryBusy(category, result.state == CategoryResult::State::scanning);
+    const bool hasSize = result.state == CategoryResult::State::done && !result.items.isEmpty();
+    m_sidebar->setCategorySize(category, hasSize ? ByteCount::format(result.totalSize()) : QString());
 }

@@ -1,5 +1,8 @@
 #include "ui/Sidebar.h"
 
+#include "ui/BusyGlyph.h"
+#include "ui/CategoryIcon.h"
+
 #include <QHeaderView>
 
 namespace {
@@ -29,9 +32,11 @@ Sidebar::Sidebar(QWidget* parent) : QTreeWidget(parent)
     setColumnCount(2);
     setHeaderHidden(true);
     setRootIsDecorated(false);
-    setIndentation(8);
+    setIndentation(0);
     setUniformRowHeights(true);
     setFrameShape(QFrame::NoFrame);
+    setIconSize(QSize(16, 16));
+    setFocusPolicy(Qt::StrongFocus);
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(0, QHeaderView::Stretch);
     header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
@@ -45,22 +50,31 @@ Sidebar::Sidebar(QWidget* parent) : QTreeWidget(parent)
     addScreen(nullptr, tr("Large Folders"), SidebarDestination::screen(Kind::largeFolders));
     //: Sidebar entry of the Safe List screen
     addScreen(nullptr, tr("Safe List"), SidebarDestination::screen(Kind::safeList));
+    addGroups();
+    //: Sidebar entry of the About screen
+    addScreen(nullptr, tr("About"), SidebarDestination::screen(Kind::about));
 
+    m_busyTimer.setInterval(BusyGlyph::frameIntervalMs);
+    connect(&m_busyTimer, &QTimer::timeout, this, &Sidebar::advanceBusyFrames);
+    connect(this, &QTreeWidget::itemSelectionChanged, this, &Sidebar::emitChoice);
+}
+
+void Sidebar::addGroups()
+{
     for (CleanerGroup group : CleanerGroups::allCases()) {
         auto* heading = new QTreeWidgetItem(this, {CleanerGroups::title(group)});
         heading->setFlags(Qt::ItemIsEnabled);
         QFont font = heading->font(0);
         font.setBold(true);
+        font.setPointSizeF(font.pointSizeF() * 0.9);
         heading->setFont(0, font);
         heading->setForeground(0, palette().color(QPalette::PlaceholderText));
-        for (CategoryID category : CleanerGroups::categories(group))
-            addScreen(heading, Categories::title(category), SidebarDestination::of(category));
+        for (CategoryID category : CleanerGroups::categories(group)) {
+            QTreeWidgetItem* item = addScreen(heading, Categories::title(category), SidebarDestination::of(category));
+            item->setIcon(0, CategoryIcon::icon(category, style()));
+        }
         heading->setExpanded(true);
     }
-    //: Sidebar entry of the About screen
-    addScreen(nullptr, tr("About"), SidebarDestination::screen(Kind::about));
-
-    connect(this, &QTreeWidget::itemSelectionChanged, this, &Sidebar::emitChoice);
 }
 
 QTreeWidgetItem* Sidebar::addScreen(QTreeWidgetItem* parent, const QString& title,
@@ -69,6 +83,7 @@ QTreeWidgetItem* Sidebar::addScreen(QTreeWidgetItem* parent, const QString& titl
     auto* item = parent ? new QTreeWidgetItem(parent, {title}) : new QTreeWidgetItem(this, {title});
     item->setData(0, destinationRole, encode(destination));
     item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+    item->setForeground(1, palette().color(QPalette::PlaceholderText));
     return item;
 }
 
@@ -100,6 +115,35 @@ void Sidebar::setCategorySize(CategoryID category, const QString& size)
 {
     if (QTreeWidgetItem* item = itemFor(SidebarDestination::of(category)))
         item->setText(1, size);
+}
+
+void Sidebar::setCategoryBusy(CategoryID category, bool busy)
+{
+    if (busy == m_busy.contains(category))
+        return;
+    QTreeWidgetItem* item = itemFor(SidebarDestination::of(category));
+    if (busy) {
+        m_busy.insert(category);
+    } else {
+        m_busy.remove(category);
+        if (item)
+            item->setIcon(1, QIcon());
+    }
+    if (m_busy.isEmpty())
+        m_busyTimer.stop();
+    else if (!m_busyTimer.isActive())
+        m_busyTimer.start();
+    advanceBusyFrames();
+}
+
+void Sidebar::advanceBusyFrames()
+{
+    m_busyStep = (m_busyStep + 1) % BusyGlyph::frameCount;
+    const QIcon frame = BusyGlyph::frame(m_busyStep, palette().color(QPalette::PlaceholderText));
+    for (CategoryID category : m_busy) {
+        if (QTreeWidgetItem* item = itemFor(SidebarDestination::of(category)))
+            item->setIcon(1, frame);
+    }
 }
 
 void Sidebar::emitChoice()

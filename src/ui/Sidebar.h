@@ -2,26 +2,40 @@
 
 #include "model/SidebarDestination.h"
 
+#include <QSet>
+#include <QTimer>
 #include <QTreeWidget>
 
-// The list on the left: the fixed screens, then the two groups with every category in order.
+// The list on the left: the fixed screens, then the two groups with every category in order,
+// each with its icon, its total size once scanned and a busy indicator while it scans.
+// Thirty rows at most, so a tree widget is fine here.
 class Sidebar : public QTreeWidget {
     Q_OBJECT
 
 public:
     explicit Sidebar(QWidget* parent = nullptr);
 
+    // Marks the row of `destination` as current without announcing a choice.
     void select(const SidebarDestination& destination);
     // Screens whose page is not built yet stay visible but cannot be chosen.
     void setScreenAvailable(const SidebarDestination& destination, bool available);
     // Sets the size shown beside a category (empty text hides it).
     void setCategorySize(CategoryID category, const QString& size);
+    void setCategoryBusy(CategoryID category, bool busy);
+    bool isCategoryBusy(CategoryID category) const { return m_busy.contains(category); }
+    QTreeWidgetItem* itemFor(const SidebarDestination& destination) const;
 
 signals:
+    // The person picked a row; the window decides whether it becomes the shown screen.
     void destinationChosen(const SidebarDestination& destination);
 
 private:
     QTreeWidgetItem* addScreen(QTreeWidgetItem* parent, const QString& title, const SidebarDestination& destination);
-    QTreeWidgetItem* itemFor(const SidebarDestination& destination) const;
+    void addGroups();
     void emitChoice();
+    void advanceBusyFrames();
+
+    QSet<CategoryID> m_busy;
+    QTimer m_busyTimer;
+    int m_busyStep = 0;
 };

@@ -1,0 +1,84 @@
+// The actions of a category page on its rows: the row menu, the questions for an AI
+// assistant, revealing a row in the file manager and the Safe List.
+#include "ui/CategoryPage.h"
+
+#include "model/AppModel.h"
+#include "model/SettingsStore.h"
+#include "ui/CategoryListModel.h"
+
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QListView>
+#include <QMenu>
+#include <QUrl>
+
+void CategoryPage::showRowMenu(const QPoint& at)
+{
+    if (QMenu* menu = makeRowMenu(m_list->indexAt(at)))
+        menu->popup(m_list->viewport()->mapToGlobal(at));
+}
+
+QMenu* CategoryPage::makeRowMenu(const QModelIndex& index)
+{
+    const CleanupItem* item = m_listModel->itemAt(index);
+    if (!item)
+        return nullptr;
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    addRowActions(menu, *item);
+    return menu;
+}
+
+void CategoryPage::addRowActions(QMenu* menu, const CleanupItem& item)
+{
+    //: Row menu: never show this row in scans again
+    menu->addAction(tr("Add to Safe List"), this, [this, item] { m_model->addToSafeList(item); });
+    if (item.projectPath && !item.projectPath->isEmpty()) {
+        const QString project = *item.projectPath;
+        //: Row menu: never show anything inside this row's project or repository folder again
+        menu->addAction(tr("Add Project to Safe List"), this, [this, project] { addProjectToSafeList(project); });
+    }
+    menu->addSeparator();
+    //: Row menu: open the folder that holds this row in the file manager
+    QAction* reveal = menu->addAction(tr("Show in Finder"), this, [this, item] { this->reveal(item); });
+    reveal->setEnabled(!item.removal.paths().isEmpty());
+    //: Row menu: copy a description of this row to paste into an AI assistant
+    QAction* ask = menu->addAction(tr("Ask an AI Assistant"), this, [this, item] {
+        AIQuestions::copy(this, m_model, [one = m_questions.one, item] { return one(item); });
+    });
+    ask->setEnabled(bool(m_questions.one));
+}
+
+void CategoryPage::askAbout(const QModelIndex& index)
+{
+    const CleanupItem* item = m_listModel->itemAt(index);
+    if (!item || !m_questions.one)
+        return;
+    AIQuestions::copy(this, m_model, [one = m_questions.one, row = *item] { return one(row); });
+}
+
+void CategoryPage::askAboutShown()
+{
+    if (!m_questions.many || m_listModel->shownItems().isEmpty())
+        return;
+    AIQuestions::copy(this, m_model, [many = m_questions.many, rows = m_listModel->shownItems(), category = m_category] {
+        return many(rows, category);
+    });
+}
+
+void CategoryPage::reveal(const CleanupItem& item)
+{
+    const QStringList paths = item.removal.paths();
+    if (paths.isEmpty())
+        return;
+    // Opening the parent folder is the portable way; it needs no file-system call here.
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(paths.first()).path()));
+}
+
+void CategoryPage::addProjectToSafeList(const QString& project)
+{
+    m_model->settings()->addSafeFolder(project);
+    m_model->removeSafeItemsFromResults();
+    //: Toast after a row was put on the Safe List; %1 is the row's title
+    m_model->showToast(tr("“%1” is on the Safe List.").arg(QFileInfo(project).fileName()));
+}

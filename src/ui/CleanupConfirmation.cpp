@@ -1,0 +1,128 @@
+#include "ui/CleanupConfirmation.h"
+
+#include "format/ByteCount.h"
+#include "model/CleanupSession.h"
+#include "ui/SelectionBar.h"
+#include "ui/SheetText.h"
+
+#include <QDialogButtonBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+
+namespace {
+
+qint64 totalSize(const QList<CleanupItem>& items)
+{
+    qint64 total = 0;
+    for (const CleanupItem& item : items)
+        total += item.size;
+    return total;
+}
+
+QString trashOnlyTitle(const QList<CleanupItem>& items)
+{
+    if (items.size() == 1)
+        //: Title of the cleanup confirmation for one item that goes to the Trash; %1 is its name
+        return CleanupConfirmation::tr("Move “%1” to the Trash?").arg(items.first().title);
+    //: Title of the cleanup confirmation when every item goes to the Trash; %1 is their number
+    return CleanupConfirmation::tr("Move %1 items to the Trash?").arg(items.size());
+}
+
+}  // namespace
+
+CleanupConfirmation::CleanupConfirmation(const CleanupSession* session, const QString& home, QWidget* parent)
+    : QWidget(parent), m_session(session), m_layout(new QVBoxLayout(this)), m_title(new QLabel(this)),
+      m_confirm(new QPushButton(this)), m_cancel(new QPushButton(this))
+{
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setSpacing(12);
+    const QList<CleanupItem> permanent = session->permanentItems();
+    const QList<CleanupItem> trash = session->trashItems();
+    SheetText::makeHeading(m_title);
+    m_title->setText(permanent.isEmpty() ? trashOnlyTitle(trash) : session->permanentTitle());
+    m_layout->addWidget(m_title);
+    if (!permanent.isEmpty()) {
+        auto* warning = new QLabel(CleanupSession::permanentWarning(), this);
+        SheetText::makeBody(warning);
+        m_layout->addWidget(warning);
+    }
+    if (const QString risky = session->riskyLine(home); !risky.isEmpty())
+        addWarning(risky);
+    if (!trash.isEmpty())
+        addPart(CleanupSession::trashHeading(), SelectionBar::describe(totalSize(trash), trash.size()),
+                CleanupSession::trashText());
+    if (!permanent.isEmpty())
+        //: Heading of the part of the cleanup confirmation about items Docker and Xcode remove for good
+        addPart(tr("Removed for good"), SelectionBar::describe(totalSize(permanent), permanent.size()),
+                session->permanentText());
+    m_layout->addStretch(1);
+    addButtons();
+}
+
+void CleanupConfirmation::addWarning(const QString& text)
+{
+    auto* banner = new QFrame(this);
+    banner->setFrameShape(QFrame::StyledPanel);
+    auto* icon = new QLabel(banner);
+    icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(24, 24));
+    icon->setAlignment(Qt::AlignTop);
+    auto* label = new QLabel(text, banner);
+    label->setObjectName(QStringLiteral("riskyLine"));
+    SheetText::makeBody(label);
+    auto* row = new QHBoxLayout(banner);
+    row->setContentsMargins(10, 8, 10, 8);
+    row->setSpacing(10);
+    row->addWidget(icon);
+    row->addWidget(label, 1);
+    m_layout->addWidget(banner);
+}
+
+void CleanupConfirmation::addPart(const QString& heading, const QString& figures, const QString& text)
+{
+    auto* title = new QLabel(heading, this);
+    SheetText::makeSubheading(title);
+    auto* amount = new QLabel(figures, this);
+    amount->setTextFormat(Qt::PlainText);
+    amount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    auto* line = new QHBoxLayout;
+    line->addWidget(title, 1);
+    line->addWidget(amount);
+    auto* body = new QLabel(text, this);
+    SheetText::makeSecondary(body);
+    auto* part = new QVBoxLayout;
+    part->setSpacing(3);
+    part->addLayout(line);
+    part->addWidget(body);
+    m_layout->addLayout(part);
+}
+
+void CleanupConfirmation::addButtons()
+{
+    if (!m_session->permanentItems().isEmpty())
+        //: Confirming button of the cleanup when some items are removed for good
+        m_confirm->setText(tr("Remove for Good and Clean"));
+    else
+        //: Confirming button of the cleanup when every item goes to the Trash
+        m_confirm->setText(tr("Move to Trash"));
+    //: Button that closes the cleanup sheet without removing anything
+    m_cancel->setText(tr("Cancel"));
+    auto* buttons = new QDialogButtonBox(this);
+    buttons->addButton(m_cancel, QDialogButtonBox::RejectRole);
+    buttons->addButton(m_confirm, QDialogButtonBox::AcceptRole);
+    m_confirm->setDefault(true);
+    connect(m_confirm, &QPushButton::clicked, this, &CleanupConfirmation::confirmed);
+    connect(m_cancel, &QPushButton::clicked, this, &CleanupConfirmation::cancelled);
+    m_layout->addWidget(buttons);
+}
+
+QStringList CleanupConfirmation::texts() const
+{
+    QStringList texts;
+    for (const QLabel* label : findChildren<QLabel*>()) {
+        if (!label->text().isEmpty())
+            texts.append(label->text());
+    }
+    return texts;
+}

@@ -1,0 +1,140 @@
+#include "ui/CleanupResults.h"
+
+#include "format/ByteCount.h"
+#include "model/AppModel.h"
+#include "ui/SheetText.h"
+#include "ui/TrashEmptier.h"
+
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QStandardItemModel>
+#include <QTreeView>
+
+namespace {
+
+QString sizeOrDash(std::optional<qint64> bytes)
+{
+    return bytes ? ByteCount::format(*bytes) : QStringLiteral("—");
+}
+
+}  // namespace
+
+CleanupResults::CleanupResults(AppModel* model, CleanupSession* session, QWidget* parent)
+    : QWidget(parent), m_model(model), m_session(session), m_title(new QLabel(this)), m_figures(new QFormLayout),
+      m_failuresHeading(new QLabel(this)), m_failures(new QTreeView(this)), m_trashNote(new QLabel(this)),
+      m_emptyTrash(new QPushButton(this)), m_done(new QPushButton(this)), m_trash(new TrashEmptier(model, this))
+{
+    SheetText::makeHeading(m_title);
+    m_title->setText(session->resultTitle());
+    m_figures->setLabelAlignment(Qt::AlignLeft);
+    m_figures->setHorizontalSpacing(24);
+    m_figures->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    fillFigures();
+    fillFailures();
+    //: Button that closes the results of a cleanup
+    m_done->setText(tr("Done"));
+    m_done->setDefault(true);
+    connect(m_done, &QPushButton::clicked, this, &CleanupResults::done);
+    auto* buttons = new QDialogButtonBox(this);
+    buttons->addButton(m_done, QDialogButtonBox::AcceptRole);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(12);
+    layout->addWidget(m_title);
+    layout->addLayout(m_figures);
+    layout->addWidget(m_failuresHeading);
+    layout->addWidget(m_failures, 1);
+    layout->addLayout(makeTrashNote());
+    if (m_failures->isHidden())
+        layout->addStretch(1);
+    layout->addWidget(buttons);
+    connect(session, &CleanupSession::changed, this, &CleanupResults::refreshTrash);
+    connect(model, &AppModel::trashChanged, this, &CleanupResults::refreshTrash);
+    refreshTrash();
+}
+
+void CleanupResults::fillFigures()
+{
+    //: Results of a cleanup: the size of what went to the Trash
+    m_figures->addRow(tr("Moved to the Trash"), new QLabel(ByteCount::format(m_session->movedToTrash()), this));
+    if (m_session->removedByTools() > 0 || !m_session->permanentItems().isEmpty())
+        //: Results of a cleanup: the size of what Docker and the simulator tool removed for good
+        m_figures->addRow(tr("Removed by Docker and Xcode"), new QLabel(ByteCount::format(m_session->removedByTools()), this));
+    //: Results of a cleanup: free disk space before it ran
+    m_figures->addRow(tr("Free space before"), new QLabel(sizeOrDash(m_session->freeBefore()), this));
+    //: Results of a cleanup: free disk space after it ran
+    m_figures->addRow(tr("Free space after"), new QLabel(sizeOrDash(m_session->freeAfter()), this));
+}
+
+QString CleanupResults::figure(const QString& label) const
+{
+    for (int row = 0; row < m_figures->rowCount(); ++row) {
+        const auto* name = qobject_cast<QLabel*>(m_figures->itemAt(row, QFormLayout::LabelRole)->widget());
+        const auto* value = qobject_cast<QLabel*>(m_figures->itemAt(row, QFormLayout::FieldRole)->widget());
+        if (name && value && name->text() == label)
+            return value->text();
+    }
+    return {};
+}
+
+void CleanupResults::fillFailures()
+{
+    const QList<CleanupSession::Failure>& failures = m_session->failures();
+    m_failuresHeading->setVisible(!failures.isEmpty());
+    m_failures->setVisible(!failures.isEmpty());
+    if (failures.isEmpty())
+        return;
+    SheetText::makeSubheading(m_failuresHeading);
+    if (failures.size() == 1)
+        //: Heading of the failures in the results of a cleanup, for one item
+        m_failuresHeading->setText(tr("1 item couldn't be removed"));
+    else
+        //: Heading of the failures in the results of a cleanup; %1 is their number
+        m_failuresHeading->setText(tr("%1 items couldn't be removed").arg(failures.size()));
+    auto* rows = new QStandardItemModel(0, 2, m_failures);
+    for (const CleanupSession::Failure& failure : failures) {
+        auto* reason = new QStandardItem(failure.reason);
+        reason->setToolTip(failure.reason);
+        rows->appendRow({new QStandardItem(failure.title), reason});
+    }
+    m_failures->setModel(rows);
+    m_failures->setHeaderHidden(true);
+    m_failures->setRootIsDecorated(false);
+    m_failures->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_failures->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    m_failures->header()->setStretchLastSection(true);
+}
+
+QLayout* CleanupResults::makeTrashNote()
+{
+    SheetText::makeSecondary(m_trashNote);
+    //: Button in the results of a cleanup; a confirmation follows
+    m_emptyTrash->setText(tr("Empty Trash…"));
+    connect(m_emptyTrash, &QPushButton::clicked, m_trash, &TrashEmptier::ask);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(12);
+    row->addWidget(m_trashNote, 1);
+    row->addWidget(m_emptyTrash, 0, Qt::AlignVCenter);
+    return row;
+}
+
+void CleanupResults::refreshTrash()
+{
+    if (!m_session)
+        return;
+    const bool wentToTrash = m_session->movedToTrash() > 0;
+    m_trashNote->setVisible(wentToTrash);
+    m_emptyTrash->setVisible(wentToTrash && !m_session->trashEmptied());
+    m_emptyTrash->setEnabled(!m_model->isEmptyingTrash());
+    if (m_session->trashEmptied())
+        //: Results of a cleanup, after the Trash was emptied
+        m_trashNote->setText(tr("The Trash is empty."));
+    else
+        //: Results of a cleanup when files went to the Trash
+        m_trashNote->setText(tr("Files in the Trash still take space. Empty the Trash to get it back, or check them in Finder first."));
+}

@@ -1,0 +1,197 @@
+#include "WindowFixture.h"
+
+#include "format/ByteCount.h"
+#include "support/Wait.h"
+#include "ui/CategoryPage.h"
+#include "ui/CleanupConfirmation.h"
+#include "ui/CleanupProgress.h"
+#include "ui/CleanupResults.h"
+#include "ui/CleanupSheet.h"
+#include "ui/SelectionBar.h"
+
+#include <QAbstractItemModel>
+#include <QCheckBox>
+#include <QDir>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTreeView>
+#include <atomic>
+#include <gtest/gtest.h>
+
+namespace {
+
+CleanupItem dockerVolume()
+{
+    CleanupItem item;
+    item.id = "docker:volume:pgdata";
+    item.category = CategoryID::docker;
+    item.title = "pgdata";
+    item.size = 700'000'000;
+    item.removal = Removal::docker(DockerOperation{DockerOperation::Volume{"pgdata", "2024-01-02"}});
+    return item;
+}
+
+bool waitForPhase(WindowFixture& fixture, CleanupSession::Phase phase)
+{
+    return waitUntil([&] {
+        CleanupSheet* sheet = fixture.window().cleanupSheet();
+        return sheet && sheet->session() && sheet->session()->phase() == phase;
+    });
+}
+
+}  // namespace
+
+TEST(CleanupSheet, ConfirmationNamesRiskyAndPermanentItemsAndCancelKeepsTheSelection)
+{
+    WindowFixture fixture;
+    fixture.home().file("Movies/holiday.iso", 9'000);
+    const CleanupItem risky = fileRow(fixture.home(), CategoryID::largeFiles, "Movies/holiday.iso");
+    const CleanupItem volume = dockerVolume();
+    fixture.start({scannerOf(CategoryID::largeFiles, {risky}), scannerOf(CategoryID::docker, {volume})});
+    ASSERT_TRUE(fixture.scan());
+    fixture.show(CategoryID::largeFiles);
+    fixture.clickCheckbox(risky.id);
+    fixture.model().setSelected(volume, true);
+    fixture.show(CategoryID::docker);
+    // "Clean…" in the switch question opens the sheet and stays on the shown screen.
+    WindowFixture::answer(fixture.question(), "Clean…");
+
+    CleanupSheet* sheet = fixture.window().cleanupSheet();
+    ASSERT_TRUE(sheet && sheet->isVisible());
+    CleanupConfirmation* confirmation = sheet->confirmation();
+    EXPECT_EQ(confirmation->title()->text(), "Remove 1 items for good?");
+    const QStringList texts = confirmation->texts();
+    EXPECT_TRUE(texts.contains("Docker and Xcode remove these items without the Trash. This can't be undone."));
+    // A Docker volume is Risky too; the names follow the category order.
+    EXPECT_TRUE(texts.contains("2 selected items are marked Risky: pgdata, holiday.iso. They may hold data that exists nowhere else."));
+    EXPECT_TRUE(texts.contains("Move to the Trash"));
+    EXPECT_TRUE(texts.contains("You can put them back from the Trash until you empty it."));
+    EXPECT_TRUE(texts.contains("Docker and Xcode remove these themselves. This can't be undone."));
+    EXPECT_EQ(confirmation->confirmButton()->text(), "Remove for Good and Clean");
+
+    confirmation->cancelButton()->click();
+    EXPECT_TRUE(waitUntil([&] { return !fixture.window().cleanupSheet(); }));
+    EXPECT_EQ(fixture.model().cleanup(), nullptr);
+    EXPECT_EQ(fixture.model().selection().size(), 2);
+    EXPECT_EQ(fixture.window().destination(), SidebarDestination::of(CategoryID::largeFiles));
+}
+
+TEST(CleanupSheet, CleanupMovesFilesToTheTrashAndEmptiesIt)
+{
+    WindowFixture fixture;
+    fixture.home().file("app/node_modules/left-pad/index.js", 20'000);
+    fixture.home().file("app/build/out.o", 30'000);
+    CleanupItem modules = fileRow(fixture.home(), CategoryID::projects, "app/node_modules");
+    CleanupItem build = fileRow(fixture.home(), CategoryID::projects, "app/build");
+    modules.size = 20'480;
+    build.size = 32'768;
+    fixture.start({scannerOf(CategoryID::projects, {modules, build})});
+    ASSERT_TRUE(fixture.scan());
+    fixture.show(CategoryID::projects);
+    CategoryPage* page = fixture.window().categoryPage();
+    page->selectAll()->click();
+    page->selectionBar()->cleanButton()->click();
+
+    ASSERT_TRUE(waitForPhase(fixture, CleanupSession::Phase::confirming));
+    CleanupSheet* sheet = fixture.window().cleanupSheet();
+    EXPECT_EQ(sheet->confirmation()->title()->text(), "Move 2 items to the Trash?");
+    sheet->confirmation()->confirmButton()->click();
+    ASSERT_TRUE(waitForPhase(fixture, CleanupSession::Phase::finished));
+
+    CleanupResults* results = sheet->results();
+    ASSERT_TRUE(results);
+    EXPECT_EQ(results->title()->text(), "Cleaning finished");
+    EXPECT_EQ(results->figure("Moved to the Trash"), ByteCount::format(modules.size + build.size));
+    EXPECT_EQ(results->figure("Free space after"), "120.5 GB");
+    EXPECT_TRUE(results->failures()->isHidden());
+    EXPECT_FALSE(QFileInfo::exists(modules.id));
+    EXPECT_FALSE(QFileInfo::exists(build.id));
+    EXPECT_TRUE(QFileInfo::exists(WindowFixture::trashFiles() + "/node_modules/left-pad/index.js"));
+    EXPECT_TRUE(QFileInfo::exists(WindowFixture::trashFiles() + "/build/out.o"));
+    EXPECT_EQ(page->emptyStateText(), "Nothing to clean here.");
+    EXPECT_EQ(results->trashNote()->text(), "Files in the Trash still take space. Empty the Trash to get it back, or check them in Finder first.");
+
+    results->emptyTrashButton()->click();
+    WindowFixture::answer(fixture.question(), "Empty Trash");
+    ASSERT_TRUE(waitUntil([&] { return results->trashNote()->text() == "The Trash is empty."; }));
+    EXPECT_TRUE(results->emptyTrashButton()->isHidden());
+    EXPECT_TRUE(QDir(WindowFixture::trashFiles()).isEmpty());
+
+    results->doneButton()->click();
+    EXPECT_TRUE(waitUntil([&] { return !fixture.window().cleanupSheet(); }));
+    EXPECT_TRUE(fixture.model().lastRunCleanup());
+}
+
+TEST(CleanupSheet, FailuresAreListedWithTheirReasons)
+{
+    WindowFixture fixture;
+    fixture.home().file("Library/Logs/keep.log", 1'000);
+    fixture.home().file("Library/Logs/gone.log", 1'000);
+    const CleanupItem kept = fileRow(fixture.home(), CategoryID::logs, "Library/Logs/keep.log");
+    const CleanupItem gone = fileRow(fixture.home(), CategoryID::logs, "Library/Logs/gone.log");
+    fixture.start({scannerOf(CategoryID::logs, {kept, gone})}, [](AppModel::Services& services) {
+        services.removeItem = [](const CleanupItem& item) {
+            if (item.title == "keep.log")
+                return CleanupSession::Outcome::failed("It changed since the scan. Scan again.");
+            return WindowFixture::moveToTrash(item);
+        };
+    });
+    ASSERT_TRUE(fixture.scan());
+    fixture.model().setAll(fixture.model().visibleItems(CategoryID::logs), true);
+    fixture.model().prepareCleanup();
+    ASSERT_TRUE(waitForPhase(fixture, CleanupSession::Phase::confirming));
+    fixture.window().cleanupSheet()->confirmation()->confirmButton()->click();
+    ASSERT_TRUE(waitForPhase(fixture, CleanupSession::Phase::finished));
+
+    const QAbstractItemModel* failures = fixture.window().cleanupSheet()->results()->failures()->model();
+    ASSERT_EQ(failures->rowCount(), 1);
+    EXPECT_EQ(failures->index(0, 0).data().toString(), "keep.log");
+    EXPECT_EQ(failures->index(0, 1).data().toString(), "It changed since the scan. Scan again.");
+    EXPECT_TRUE(QFileInfo::exists(kept.id));
+    EXPECT_EQ(fixture.model().result(CategoryID::logs).items, QList<CleanupItem>{kept});
+}
+
+TEST(CleanupSheet, QuittingWhileCleaningAsksThenStopsAfterTheCurrentItem)
+{
+    WindowFixture fixture;
+    fixture.home().file("tmp/one", 10);
+    fixture.home().file("tmp/two", 10);
+    const CleanupItem one = fileRow(fixture.home(), CategoryID::temporary, "tmp/one");
+    const CleanupItem two = fileRow(fixture.home(), CategoryID::temporary, "tmp/two");
+    auto entered = std::make_shared<std::atomic<bool>>(false);
+    auto release = std::make_shared<std::atomic<bool>>(false);
+    fixture.start({scannerOf(CategoryID::temporary, {one, two})}, [=](AppModel::Services& services) {
+        services.removeItem = [=](const CleanupItem& item) {
+            *entered = true;
+            while (!*release)
+                QThread::msleep(2);
+            return WindowFixture::moveToTrash(item);
+        };
+    });
+    ASSERT_TRUE(fixture.scan());
+    fixture.model().setAll(fixture.model().visibleItems(CategoryID::temporary), true);
+    fixture.model().prepareCleanup();
+    ASSERT_TRUE(waitForPhase(fixture, CleanupSession::Phase::confirming));
+    fixture.window().cleanupSheet()->confirmation()->confirmButton()->click();
+    ASSERT_TRUE(waitUntil([&] { return entered->load(); }));
+    EXPECT_TRUE(fixture.window().cleanupSheet()->progress()->isVisible());
+
+    fixture.window().close();
+    ASSERT_TRUE(fixture.question());
+    EXPECT_EQ(fixture.question()->text(), "Quit while Dustlark is working?");
+    EXPECT_EQ(fixture.question()->informativeText(), "Dustlark stops after the current item and removes an unfinished copy, then quits.");
+    WindowFixture::answer(fixture.question(), "Keep Working");
+    EXPECT_TRUE(fixture.window().isVisible());
+
+    fixture.window().close();
+    WindowFixture::answer(fixture.question(), "Stop and Quit");
+    EXPECT_TRUE(fixture.window().isVisible()) << "waits for the current item";
+    *release = true;
+    ASSERT_TRUE(waitUntil([&] { return !fixture.window().isVisible(); }));
+    const CleanupSession* session = fixture.model().cleanup();
+    ASSERT_TRUE(session);
+    EXPECT_TRUE(session->stopped());
+    EXPECT_EQ(session->processed(), 1);
+    EXPECT_TRUE(QFileInfo::exists(two.id));
+}
