@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QLocale>
 #include <QRegularExpression>
+#include <QTimeZone>
 #include <algorithm>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -271,7 +272,7 @@ Measured measureCandidate(const LocationScanner::Candidate& candidate, CategoryI
     row.size = measured.bytes;
     row.removal = Removal::trash(measured.targets);
     if (measured.latestChange > 0)
-        row.date = QDateTime::fromSecsSinceEpoch(measured.latestChange, Qt::UTC);
+        row.date = QDateTime::fromSecsSinceEpoch(measured.latestChange, QTimeZone::utc());
     measured.row = row;
     return measured;
 }

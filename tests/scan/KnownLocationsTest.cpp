@@ -105,22 +105,6 @@ TEST(KnownLocationsTest, CrashReportsHaveOneRowAndAreNotAlsoAnAppsLogs)
                                   context.home + QStringLiteral("/Library/Logs/Homebrew")}));
 }
 
-TEST(KnownLocationsTest, EveryPatternIsRelativeAndEveryRowHasATitle)
-{
-    for (const auto& [category, group] : everyGroup()) {
-        for (const Location& location : group) {
-            EXPECT_FALSE(location.paths.isEmpty());
-            for (const QString& pattern : location.paths) {
-                EXPECT_FALSE(pattern.startsWith(QLatin1Char('/')) || pattern.endsWith(QLatin1Char('/'))) << qPrintable(pattern);
-                EXPECT_FALSE(pattern.split(QLatin1Char('/')).contains(QStringLiteral(".."))) << qPrintable(pattern);
-            }
-            if (const auto* fixed = location.naming.as<Naming::Fixed>()) {
-                EXPECT_FALSE(fixed->title.isEmpty()) << qPrintable(location.paths.first());
-            }
-        }
-    }
-}
-
 // With every known place present at once, no folder may be offered by two categories (or
 // twice by one): removing it from one list would silently change the other.
 TEST(KnownLocationsTest, NoPlaceIsClaimedByTwoRows)

@@ -8,7 +8,6 @@
 #include <QLocale>
 #include <QRegularExpression>
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -279,27 +278,6 @@ TEST_F(LocationScannerTest, SafetyOfRowsFollowsTheirCategory)
     const QList<CleanupItem> models = scanned(CategoryID::aiModels, KnownLocations::aiModels());
     ASSERT_EQ(models.size(), 1);
     EXPECT_EQ(models.first().safety(context.home), Safety::askAI);
-}
-
-TEST_F(LocationScannerTest, UnreadableFoldersLeaveANoteAndLoseNothingElse)
-{
-    if (::geteuid() == 0)
-        GTEST_SKIP() << "root reads every folder; ReportCliTest covers this as an unprivileged user";
-    file(QStringLiteral("Library/Logs/Readable/a.log"), 2'000'000);
-    file(QStringLiteral("Library/Logs/Locked/a.log"), 2'000'000);
-    file(QStringLiteral(".cache/huggingface/hub/models--a--b/blob"), 10);
-    ::chmod(QFile::encodeName(home(QStringLiteral("Library/Logs/Locked"))).constData(), 0);
-    ::chmod(QFile::encodeName(home(QStringLiteral(".cache/huggingface/hub"))).constData(), 0);
-
-    const ScanOutput logs = LocationScanner(CategoryID::logs, KnownLocations::logs()).scan(context).at(CategoryID::logs);
-    const ScanOutput models = LocationScanner(CategoryID::aiModels, KnownLocations::aiModels()).scan(context).at(CategoryID::aiModels);
-    ::chmod(QFile::encodeName(home(QStringLiteral("Library/Logs/Locked"))).constData(), 0755);
-    ::chmod(QFile::encodeName(home(QStringLiteral(".cache/huggingface/hub"))).constData(), 0755);
-
-    EXPECT_EQ(logs.notes, QStringList{LocationScanner::unreadableNote()});
-    ASSERT_EQ(logs.items.size(), 1);
-    EXPECT_EQ(logs.items.first().title, QStringLiteral("Readable"));
-    EXPECT_EQ(models.notes, QStringList{LocationScanner::unreadableNote()});
 }
 
 TEST_F(LocationScannerTest, AStoppedScanOffersNothingHalfMeasured)
