@@ -28,7 +28,7 @@ measure() {
     sys=$(awk -F': ' '/System time/ {print $2}' "$LOG/time")
     cpu=$(awk -F': ' '/Percent of CPU/ {print $2}' "$LOG/time")
     printf '%-16s wall %6.2f s  user %6.2f s  sys %5.2f s  cpu %s\n' "$label" "$wall" "$user" "$sys" "$cpu"
-    grep '^dustlark ' "$LOG/out" || true
+    grep -E '^dustlark |not unique|duplicate files' "$LOG/out" || true
 }
 
 echo "== machine"
@@ -38,10 +38,10 @@ echo "== SHA-256 floor (1 MiB blocks)"
 openssl speed -evp sha256 -bytes 1048576 -seconds 3 2>/dev/null | tail -1
 openssl speed -evp sha256 -bytes 1048576 -seconds 3 -multi 2 2>/dev/null | tail -1
 
-for round in 1 2; do
-    echo "== round $round"
+for round in $(seq 1 "${ROUNDS:-2}"); do
+    echo "== round $round (load average $(cut -d' ' -f1-3 /proc/loadavg))"
     measure dustlark "$BENCH" scan "$DATA"
     measure rdfind rdfind -dryrun true -makeresultsfile false "$DATA"
     measure rdfind-sha256 rdfind -dryrun true -makeresultsfile false -checksum sha256 "$DATA"
-    measure jdupes jdupes -r -q "$DATA"
+    measure jdupes jdupes -r -q -m "$DATA"
 done
