@@ -118,6 +118,8 @@ bool isIgnored(const FTSENT* entry)
 std::optional<TreeStamp> compute(const QString& path, const CancellationToken* cancellation)
 {
     QByteArray root = QFile::encodeName(path);
+    while (root.size() > 1 && root.endsWith('/'))
+        root.chop(1);  // so relative paths read alike for "a/" and "a"
     char* roots[] = {root.data(), nullptr};
     FTS* tree = ::fts_open(roots, FTS_PHYSICAL | FTS_NOCHDIR | FTS_XDEV, nullptr);
     if (!tree)

@@ -3,6 +3,7 @@
 #include "actions/FreedesktopTrash.h"
 #include "actions/SystemAccess.h"
 #include "actions/ToolStandIn.h"
+#include "platform/Platform.h"
 #include "support/TempTree.h"
 
 #include <QDir>
@@ -66,6 +67,8 @@ TEST(SystemAccess, AsksFinderWithThePathAsAnArgumentNeverInTheScript)
 
 TEST(SystemAccess, EmptiesTheFreedesktopTrashIncludingReadOnlyTrees)
 {
+    if (Platform::desktop() != Platform::Desktop::freedesktop)
+        GTEST_SKIP() << "the freedesktop trash is Linux's";
     QDir(FreedesktopTrash::homeTrash()).removeRecursively();
     TempTree home;
     const QString file = home.file(QStringLiteral("a.txt"), 10);
@@ -91,8 +94,10 @@ TEST(SystemAccess, EmptiesTheFreedesktopTrashIncludingReadOnlyTrees)
     EXPECT_EQ(SystemAccess::emptyTrash(), std::nullopt) << "an empty Trash empties without complaint";
 }
 
-TEST(SystemAccess, AnswersForTheSystemItRunsOn)
+TEST(SystemAccess, AnswersForLinux)
 {
+    if (Platform::desktop() != Platform::Desktop::freedesktop)
+        GTEST_SKIP() << "Linux answers";
     TempTree home;
     EXPECT_TRUE(SystemAccess::hasFullDiskAccess(home.root()));  // Linux has no such permission
     EXPECT_FALSE(SystemAccess::openFullDiskAccessSettings());
