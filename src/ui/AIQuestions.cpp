@@ -1,11 +1,22 @@
 #include "ui/AIQuestions.h"
 
 #include "model/AppModel.h"
+#include "prompt/AIPrompt.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QPointer>
 #include <QThreadPool>
+
+AIQuestions AIQuestions::standard()
+{
+    AIQuestions questions;
+    questions.one = [](const CleanupItem& item) { return AIPrompt::compose(item); };
+    questions.many = [](const QList<CleanupItem>& items, CategoryID category) {
+        return AIPrompt::composeBatch(items, category);
+    };
+    return questions;
+}
 
 void AIQuestions::copy(QObject* context, AppModel* model, std::function<QString()> write)
 {

@@ -11,11 +11,14 @@ class AppModel;
 class QObject;
 
 // Writes the questions a person pastes into an AI assistant. Both functions may read the disk
-// (a folder's largest contents), so they run on a worker thread; unset functions mean the app
-// was built without the question writer, and the actions that need them are disabled.
+// (a folder's largest contents), so they run on a worker thread; an unset function disables
+// the actions that need it.
 struct AIQuestions {
     std::function<QString(const CleanupItem&)> one;
     std::function<QString(const QList<CleanupItem>&, CategoryID)> many;
+
+    // The app's own writer, AIPrompt.
+    static AIQuestions standard();
 
     // Writes the question on a worker thread, puts it on the clipboard and says so in a toast.
     // Nothing happens once `context` is gone.

@@ -14,7 +14,6 @@
 
 namespace {
 
-constexpr int sidePadding = 12;
 constexpr int verticalPadding = 8;
 constexpr int lineGap = 3;
 constexpr int gap = 12;
@@ -196,10 +195,15 @@ void CategoryItemDelegate::paintCheckbox(QPainter* painter, const QStyleOptionVi
     box.state |= index.data(Qt::CheckStateRole).value<Qt::CheckState>() == Qt::Checked ? QStyle::State_On
                                                                                         : QStyle::State_Off;
     const bool checked = box.state & QStyle::State_On;
-    if (kind != CategoryListModel::Checkbox::usable && !checked)
+    const bool unusable = kind != CategoryListModel::Checkbox::usable && !checked;
+    if (unusable) {
         box.state &= ~QStyle::State_Enabled;
+        // Some styles draw a disabled box almost like an enabled one; fade it so it reads as off.
+        painter->setOpacity(0.45);
+    }
     const QStyle* style = option.widget ? option.widget->style() : QApplication::style();
     style->drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &box, painter, option.widget);
+    painter->setOpacity(1.0);
 }
 
 void CategoryItemDelegate::paintTitle(QPainter* painter, const QStyleOptionViewItem& option,

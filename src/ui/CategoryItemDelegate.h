@@ -21,6 +21,9 @@ public:
         QRect safety;
     };
 
+    // Space left and right of a row's contents.
+    static constexpr int sidePadding = 12;
+
     // `home` decides a row's safety label (temporary items inside it are the person's own).
     CategoryItemDelegate(const CategoryListModel* model, QString home, QObject* parent = nullptr);
 

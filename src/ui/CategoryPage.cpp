@@ -15,6 +15,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QStackedWidget>
 #include <QStyle>
 #include <QToolButton>
@@ -39,6 +40,11 @@ QWidget* makeBanner(const QString& text, QWidget* parent)
     layout->addWidget(icon);
     layout->addWidget(label, 1);
     return banner;
+}
+
+int sidePadding()
+{
+    return CategoryItemDelegate::sidePadding + 1;  // the list's frame
 }
 
 bool refreshesWithTheWalk(CategoryID category)
@@ -131,6 +137,8 @@ QLayout* CategoryPage::makeControls()
 
     auto* controls = new QHBoxLayout;
     controls->setSpacing(8);
+    // Puts the select-all box over the rows' checkboxes.
+    controls->setContentsMargins(sidePadding(), 0, 0, 0);
     controls->addWidget(m_selectAll);
     controls->addStretch(1);
     controls->addWidget(m_emptyTrash);
@@ -161,6 +169,13 @@ void CategoryPage::makeList()
     m_list->setContextMenuPolicy(Qt::CustomContextMenu);
     m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     connect(m_list, &QListView::customContextMenuRequested, this, &CategoryPage::showRowMenu);
+    // Rows leave the list one by one during a cleanup; the list should stay where it was.
+    connect(m_listModel, &QAbstractItemModel::modelAboutToBeReset, this,
+            [this] { m_scrollBeforeReload = m_list->verticalScrollBar()->value(); });
+    connect(m_listModel, &QAbstractItemModel::modelReset, this, [this] {
+        m_list->doItemsLayout();
+        m_list->verticalScrollBar()->setValue(m_scrollBeforeReload);
+    });
     connect(m_delegate, &CategoryItemDelegate::askAIClicked, this, &CategoryPage::askAbout);
 
     m_emptyState->setAlignment(Qt::AlignCenter);
@@ -205,7 +220,8 @@ void CategoryPage::showCategory(CategoryID category)
         m_search->clear();
     }
     m_listModel->show(category, m_search->text());
-    m_list->scrollToTop();
+    if (changed)
+        m_list->scrollToTop();
     refresh();
 }
 

@@ -92,4 +92,5 @@ private:
     CategoryItemDelegate* m_delegate;
     SelectionBar* m_selectionBar;
     TrashEmptier* m_trash;
+    int m_scrollBeforeReload = 0;
 };

@@ -6,6 +6,7 @@
 #include "ui/SheetText.h"
 
 #include <QDialogButtonBox>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -30,6 +31,33 @@ QString trashOnlyTitle(const QList<CleanupItem>& items)
     return CleanupConfirmation::tr("Move %1 items to the Trash?").arg(items.size());
 }
 
+// One line per category: its title and what of it is selected, in sidebar order.
+QGridLayout* makeBreakdown(const QList<CleanupItem>& items, QWidget* parent)
+{
+    auto* grid = new QGridLayout;
+    grid->setContentsMargins(14, 4, 0, 0);
+    grid->setHorizontalSpacing(16);
+    grid->setVerticalSpacing(2);
+    int row = 0;
+    for (CategoryID category : Categories::allCases()) {
+        QList<CleanupItem> ofCategory;
+        for (const CleanupItem& item : items) {
+            if (item.category == category)
+                ofCategory.append(item);
+        }
+        if (ofCategory.isEmpty())
+            continue;
+        auto* name = new QLabel(Categories::title(category), parent);
+        auto* amount = new QLabel(SelectionBar::describe(totalSize(ofCategory), ofCategory.size()), parent);
+        amount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        grid->addWidget(name, row, 0);
+        grid->addWidget(amount, row, 1);
+        ++row;
+    }
+    grid->setColumnStretch(0, 1);
+    return grid;
+}
+
 }  // namespace
 
 CleanupConfirmation::CleanupConfirmation(const CleanupSession* session, const QString& home, QWidget* parent)
@@ -51,12 +79,10 @@ CleanupConfirmation::CleanupConfirmation(const CleanupSession* session, const QS
     if (const QString risky = session->riskyLine(home); !risky.isEmpty())
         addWarning(risky);
     if (!trash.isEmpty())
-        addPart(CleanupSession::trashHeading(), SelectionBar::describe(totalSize(trash), trash.size()),
-                CleanupSession::trashText());
+        addPart(CleanupSession::trashHeading(), trash, CleanupSession::trashText());
     if (!permanent.isEmpty())
         //: Heading of the part of the cleanup confirmation about items Docker and Xcode remove for good
-        addPart(tr("Removed for good"), SelectionBar::describe(totalSize(permanent), permanent.size()),
-                session->permanentText());
+        addPart(tr("Removed for good"), permanent, session->permanentText());
     m_layout->addStretch(1);
     addButtons();
 }
@@ -79,11 +105,11 @@ void CleanupConfirmation::addWarning(const QString& text)
     m_layout->addWidget(banner);
 }
 
-void CleanupConfirmation::addPart(const QString& heading, const QString& figures, const QString& text)
+void CleanupConfirmation::addPart(const QString& heading, const QList<CleanupItem>& items, const QString& text)
 {
     auto* title = new QLabel(heading, this);
     SheetText::makeSubheading(title);
-    auto* amount = new QLabel(figures, this);
+    auto* amount = new QLabel(SelectionBar::describe(totalSize(items), items.size()), this);
     amount->setTextFormat(Qt::PlainText);
     amount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     auto* line = new QHBoxLayout;
@@ -95,6 +121,7 @@ void CleanupConfirmation::addPart(const QString& heading, const QString& figures
     part->setSpacing(3);
     part->addLayout(line);
     part->addWidget(body);
+    part->addLayout(makeBreakdown(items, this));
     m_layout->addLayout(part);
 }
 

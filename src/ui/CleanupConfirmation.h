@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/CleanupItem.h"
+
 #include <QWidget>
 
 class CleanupSession;
@@ -28,7 +30,8 @@ signals:
 
 private:
     void addWarning(const QString& text);
-    void addPart(const QString& heading, const QString& figures, const QString& text);
+    // A part of the sheet: its heading and total, what it means, and its items by category.
+    void addPart(const QString& heading, const QList<CleanupItem>& items, const QString& text);
     void addButtons();
 
     const CleanupSession* m_session;

@@ -115,6 +115,7 @@ QLayout* CleanupResults::makeTrashNote()
     SheetText::makeSecondary(m_trashNote);
     //: Button in the results of a cleanup; a confirmation follows
     m_emptyTrash->setText(tr("Empty Trash…"));
+    m_emptyTrash->setAutoDefault(false);
     connect(m_emptyTrash, &QPushButton::clicked, m_trash, &TrashEmptier::ask);
     auto* row = new QHBoxLayout;
     row->setSpacing(12);

@@ -26,7 +26,7 @@ MainWindow::MainWindow(AppModel* model, QWidget* parent)
     splitter->addWidget(m_sidebar);
     splitter->addWidget(m_stack);
     splitter->setStretchFactor(1, 1);
-    splitter->setSizes({250, 1030});
+    splitter->setSizes({280, 1000});
     splitter->setChildrenCollapsible(false);
     setCentralWidget(splitter);
     m_toast = new Toast(this);
@@ -45,6 +45,7 @@ MainWindow::MainWindow(AppModel* model, QWidget* parent)
     connect(m_model, &AppModel::toastChanged, m_toast, &Toast::showMessage);
     for (CategoryID category : Categories::allCases())
         updateSidebarCategory(category);
+    setQuestions(AIQuestions::standard());
     showCurrentScreen();
 }
 

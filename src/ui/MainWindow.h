@@ -35,6 +35,7 @@ public:
     void setScreenPage(SidebarDestination::Kind kind, QWidget* page);
     // A settings page opens in its own window from the "Settings…" menu entry.
     void setSettingsPage(QWidget* page);
+    // Replaces the writer of AI questions (AIQuestions::standard() by default).
     void setQuestions(const AIQuestions& questions);
 
     // What choosing a sidebar entry does: nothing for the shown screen, a question while

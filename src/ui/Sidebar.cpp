@@ -32,9 +32,11 @@ Sidebar::Sidebar(QWidget* parent) : QTreeWidget(parent)
     setColumnCount(2);
     setHeaderHidden(true);
     setRootIsDecorated(false);
-    setIndentation(0);
-    setUniformRowHeights(true);
+    setIndentation(14);
     setFrameShape(QFrame::NoFrame);
+    // The margins around the rows take the list's colour, not the window's.
+    setBackgroundRole(QPalette::Base);
+    setAutoFillBackground(true);
     setIconSize(QSize(16, 16));
     setFocusPolicy(Qt::StrongFocus);
     header()->setStretchLastSection(false);
@@ -69,6 +71,8 @@ void Sidebar::addGroups()
         font.setPointSizeF(font.pointSizeF() * 0.9);
         heading->setFont(0, font);
         heading->setForeground(0, palette().color(QPalette::PlaceholderText));
+        heading->setSizeHint(0, QSize(0, headingHeight()));
+        heading->setTextAlignment(0, Qt::AlignLeft | Qt::AlignBottom);
         for (CategoryID category : CleanerGroups::categories(group)) {
             QTreeWidgetItem* item = addScreen(heading, Categories::title(category), SidebarDestination::of(category));
             item->setIcon(0, CategoryIcon::icon(category, style()));
@@ -82,9 +86,20 @@ QTreeWidgetItem* Sidebar::addScreen(QTreeWidgetItem* parent, const QString& titl
 {
     auto* item = parent ? new QTreeWidgetItem(parent, {title}) : new QTreeWidgetItem(this, {title});
     item->setData(0, destinationRole, encode(destination));
+    item->setSizeHint(0, QSize(0, rowHeight()));
     item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
     item->setForeground(1, palette().color(QPalette::PlaceholderText));
     return item;
+}
+
+int Sidebar::rowHeight() const
+{
+    return fontMetrics().height() + 10;
+}
+
+int Sidebar::headingHeight() const
+{
+    return fontMetrics().height() + 16;
 }
 
 QTreeWidgetItem* Sidebar::itemFor(const SidebarDestination& destination) const
@@ -95,6 +110,13 @@ QTreeWidgetItem* Sidebar::itemFor(const SidebarDestination& destination) const
             return *it;
     }
     return nullptr;
+}
+
+void Sidebar::updateGeometries()
+{
+    QTreeWidget::updateGeometries();
+    // A little air around the list, as a source list has; the tree resets the margins here.
+    setViewportMargins(8, 6, 6, 6);
 }
 
 void Sidebar::select(const SidebarDestination& destination)

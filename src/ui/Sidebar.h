@@ -25,6 +25,9 @@ public:
     bool isCategoryBusy(CategoryID category) const { return m_busy.contains(category); }
     QTreeWidgetItem* itemFor(const SidebarDestination& destination) const;
 
+protected:
+    void updateGeometries() override;
+
 signals:
     // The person picked a row; the window decides whether it becomes the shown screen.
     void destinationChosen(const SidebarDestination& destination);
@@ -32,6 +35,8 @@ signals:
 private:
     QTreeWidgetItem* addScreen(QTreeWidgetItem* parent, const QString& title, const SidebarDestination& destination);
     void addGroups();
+    int rowHeight() const;
+    int headingHeight() const;
     void emitChoice();
     void advanceBusyFrames();
 

@@ -195,15 +195,7 @@ TEST(CategoryPage, AskAIQuestionsGoToTheClipboard)
     ASSERT_TRUE(fixture.scan());
     fixture.show(CategoryID::aiModels);
     CategoryPage* page = fixture.window().categoryPage();
-    EXPECT_FALSE(page->askAboutShownButton()->isEnabled()) << "no question writer set yet";
-
-    AIQuestions questions;
-    questions.one = [](const CleanupItem& item) { return "about " + item.title; };
-    questions.many = [](const QList<CleanupItem>& items, CategoryID category) {
-        return QStringLiteral("%1 rows of %2").arg(items.size()).arg(Categories::rawValue(category));
-    };
-    fixture.window().setQuestions(questions);
-
+    QGuiApplication::clipboard()->clear();
     QListView* list = page->list();
     const QModelIndex index = fixture.rowOf(model.id);
     QStyleOptionViewItem option;
@@ -211,11 +203,18 @@ TEST(CategoryPage, AskAIQuestionsGoToTheClipboard)
     option.rect = list->visualRect(index);
     option.widget = list;
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, page->delegate()->geometry(option, index).safety.center());
-    EXPECT_TRUE(waitUntil([] { return QGuiApplication::clipboard()->text() == "about sha256-1"; }));
+    EXPECT_TRUE(waitUntil([] {
+        const QString question = QGuiApplication::clipboard()->text();
+        return question.startsWith("I'm cleaning up my Mac with Dustlark and want to know") && question.contains("sha256-1");
+    }));
     EXPECT_FALSE(fixture.model().isSelected(model.id)) << "clicking the label doesn't tick the row";
 
+    QGuiApplication::clipboard()->clear();
     page->askAboutShownButton()->click();
-    EXPECT_TRUE(waitUntil([] { return QGuiApplication::clipboard()->text() == "1 rows of aiModels"; }));
+    EXPECT_TRUE(waitUntil([] {
+        return QGuiApplication::clipboard()->text().startsWith("I'm cleaning up my Mac with Dustlark. For each item below");
+    }));
+    EXPECT_EQ(fixture.window().toast()->text(), "Question copied. Paste it into your AI assistant.");
 }
 
 TEST(CategoryPage, WorktreesAreGroupedByRepository)

@@ -30,7 +30,7 @@ const Project projects[] = {
     {"target", "ledger-rs", "Cargo", 5'120'000'000, 200},
     {"node_modules", "admin-dashboard", "npm", 712'000'000, 65},
     {".build", "swift-markdown-kit", "SwiftPM", 298'000'000, 14},
-    {"dist", "landing-page", "Vite", 48'300'000, 2},
+    {"dist", "landing-page", "Vite", 48'300'000, 0},
     {".gradle", "tracker-android", "Gradle", 402'000'000, 41},
     {"node_modules", "blog-2019", "npm", 534'000'000, 730},
     {".next", "shop-web", "Next.js", 187'000'000, 3},
@@ -49,11 +49,11 @@ CleanupItem projectRow(const QString& home, const Project& project, const QDateT
         row.detail = "~/Projects/" + QString(project.project) + " · rebuilt by " + project.badge;
         row.size = project.size;
         row.projectPath = folder;
-        row.date = now.addDays(-project.daysAgo);
+        row.date = project.daysAgo == 0 ? now.addSecs(-3 * 3600) : now.addDays(-project.daysAgo);
         row.removal = Removal::trash({});
         return row;
     }();
-    if (project.daysAgo < 3)
+    if (project.daysAgo == 0)
         item.lockedReason = "Changed in the last day; a build may be running.";
     return item;
 }
