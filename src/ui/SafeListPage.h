@@ -1,0 +1,39 @@
+#pragma once
+
+#include "model/SafeItemInfo.h"
+#include "ui/FolderListEditor.h"
+
+#include <QWidget>
+
+class AppModel;
+class QLabel;
+class QVBoxLayout;
+
+// The Safe List screen: the rows and folders the person never wants offered, each with a way
+// off the list, and a way to add a whole folder. Follows the settings store's signals; GUI
+// thread only.
+class SafeListPage : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit SafeListPage(AppModel* model, QWidget* parent = nullptr);
+
+    // Replaces the folder picker behind "Add Folder…" (tests inject a path).
+    void setFolderPicker(FolderListEditor::FolderPicker picker);
+    FolderListEditor* folderEditor() const { return m_folders; }
+    // The ids of the rows shown, in display order (newest first).
+    [[nodiscard]] QStringList shownItemIds() const { return m_shownIds; }
+
+private:
+    QWidget* makeItemRow(const QString& id, const SafeItemInfo* info);
+    void refreshItems();
+    void refreshFolders();
+    void clearItemRows();
+    void addFolder(const QString& path);
+
+    AppModel* m_model;
+    QVBoxLayout* m_itemRows;
+    QLabel* m_itemsEmpty;
+    FolderListEditor* m_folders;
+    QStringList m_shownIds;
+};

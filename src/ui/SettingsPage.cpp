@@ -1,0 +1,118 @@
+#include "ui/SettingsPage.h"
+
+#include "model/SettingsStore.h"
+#include "ui/PageLabels.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSettings>
+#include <QVBoxLayout>
+#include <algorithm>
+
+SettingsPage::SettingsPage(SettingsStore* settings, QSettings* preferences, QList<AppLanguage::Option> languages,
+                           QWidget* parent)
+    : QWidget(parent), m_settings(settings), m_preferences(preferences), m_scanFolders(new FolderListEditor(this)),
+      m_languagePicker(new QComboBox(this)), m_relaunchNote(PageLabels::note({}, this)),
+      m_relaunchButton(new QPushButton(this))
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(24, 20, 24, 20);
+    layout->setSpacing(10);
+    //: Heading of the settings
+    layout->addWidget(PageLabels::title(tr("Settings"), this));
+    //: Heading of the scan folders in the settings
+    layout->addWidget(PageLabels::heading(tr("Scan Folders"), this));
+    //: Explanation of the scan folders in the settings
+    layout->addWidget(PageLabels::note(tr("Dustlark looks for project builds, Git worktrees, large files and "
+                                          "duplicates in these folders."), this));
+    layout->addWidget(m_scanFolders);
+    layout->addSpacing(12);
+    layout->addWidget(makeLanguageSection());
+    layout->addStretch(1);
+
+    fillLanguagePicker(std::move(languages));
+    connect(m_settings, &SettingsStore::scanRootsChanged, this, &SettingsPage::refreshScanFolders);
+    connect(m_scanFolders, &FolderListEditor::addRequested, m_settings, &SettingsStore::addRoot);
+    connect(m_scanFolders, &FolderListEditor::removeRequested, m_settings, &SettingsStore::removeRoot);
+    connect(m_languagePicker, &QComboBox::activated, this, [this](int index) {
+        chooseLanguage(m_languagePicker->itemData(index).toString());
+    });
+    connect(m_relaunchButton, &QPushButton::clicked, this, &SettingsPage::relaunchNow);
+    refreshScanFolders();
+    refreshRelaunch();
+}
+
+void SettingsPage::setFolderPicker(FolderListEditor::FolderPicker picker)
+{
+    m_scanFolders->setFolderPicker(std::move(picker));
+}
+
+void SettingsPage::chooseLanguage(const QString& code)
+{
+    AppLanguage::choose(*m_preferences, code);
+    m_languagePicker->setCurrentIndex(std::max(0, m_languagePicker->findData(code)));
+    refreshRelaunch();
+}
+
+QWidget* SettingsPage::makeLanguageSection()
+{
+    auto* section = new QWidget(this);
+    //: Label of the interface language picker in the settings
+    auto* label = new QLabel(tr("Language:"), section);
+    label->setBuddy(m_languagePicker);
+    //: Button that restarts the app so a newly chosen language takes effect
+    m_relaunchButton->setText(tr("Relaunch"));
+    auto* pickerRow = new QHBoxLayout;
+    pickerRow->addWidget(label);
+    pickerRow->addWidget(m_languagePicker);
+    pickerRow->addStretch(1);
+    auto* relaunchRow = new QHBoxLayout;
+    relaunchRow->addWidget(m_relaunchNote, 1);
+    relaunchRow->addWidget(m_relaunchButton);
+
+    auto* layout = new QVBoxLayout(section);
+    layout->setContentsMargins(0, 0, 0, 0);
+    //: Heading of the interface language in the settings
+    layout->addWidget(PageLabels::heading(tr("Interface Language"), section));
+    layout->addLayout(pickerRow);
+    layout->addLayout(relaunchRow);
+    return section;
+}
+
+// The stored choice stays selectable even without its translation, so the picker never
+// shows a choice the person didn't make.
+void SettingsPage::fillLanguagePicker(QList<AppLanguage::Option> languages)
+{
+    const QString chosen = AppLanguage::chosen(*m_preferences);
+    const bool offered = std::any_of(languages.begin(), languages.end(),
+                                     [&chosen](const AppLanguage::Option& option) { return option.code == chosen; });
+    if (!offered)
+        languages.append({chosen, chosen});
+    for (const AppLanguage::Option& option : languages)
+        m_languagePicker->addItem(option.title, option.code);
+    m_languagePicker->setCurrentIndex(std::max(0, m_languagePicker->findData(chosen)));
+}
+
+void SettingsPage::refreshScanFolders()
+{
+    m_scanFolders->setFolders(m_settings->scanRoots());
+}
+
+void SettingsPage::refreshRelaunch()
+{
+    const bool pending = AppLanguage::chosen(*m_preferences) != AppLanguage::launchChoice();
+    //: Shown after choosing another interface language
+    m_relaunchNote->setText(tr("The new language is used after Dustlark relaunches."));
+    m_relaunchNote->setVisible(pending);
+    m_relaunchButton->setVisible(pending);
+}
+
+void SettingsPage::relaunchNow()
+{
+    if (m_relaunch && m_relaunch())
+        return;
+    //: Shown when the app could not start itself again
+    m_relaunchNote->setText(tr("Dustlark couldn't relaunch. Quit it and open it again."));
+}

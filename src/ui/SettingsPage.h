@@ -1,0 +1,50 @@
+#pragma once
+
+#include "model/AppLanguage.h"
+#include "ui/FolderListEditor.h"
+
+#include <QWidget>
+#include <functional>
+
+class QComboBox;
+class QLabel;
+class QPushButton;
+class QSettings;
+class SettingsStore;
+
+// The settings: the scan folders (never empty: the store falls back to the home folder) and
+// the interface language, which takes effect after a relaunch. GUI thread only.
+class SettingsPage : public QWidget {
+    Q_OBJECT
+
+public:
+    // `preferences` is where the language choice is kept; `languages` what the picker offers.
+    SettingsPage(SettingsStore* settings, QSettings* preferences,
+                 QList<AppLanguage::Option> languages = AppLanguage::offered(), QWidget* parent = nullptr);
+
+    void setFolderPicker(FolderListEditor::FolderPicker picker);
+    // What the Relaunch button runs; false when the app could not start again.
+    void setRelaunch(std::function<bool()> relaunch) { m_relaunch = std::move(relaunch); }
+
+    FolderListEditor* scanFolders() const { return m_scanFolders; }
+    QComboBox* languagePicker() const { return m_languagePicker; }
+    QPushButton* relaunchButton() const { return m_relaunchButton; }
+
+    // Stores the language with this code ("" follows the system).
+    void chooseLanguage(const QString& code);
+
+private:
+    QWidget* makeLanguageSection();
+    void fillLanguagePicker(QList<AppLanguage::Option> languages);
+    void refreshScanFolders();
+    void refreshRelaunch();
+    void relaunchNow();
+
+    SettingsStore* m_settings;
+    QSettings* m_preferences;
+    FolderListEditor* m_scanFolders;
+    QComboBox* m_languagePicker;
+    QLabel* m_relaunchNote;
+    QPushButton* m_relaunchButton;
+    std::function<bool()> m_relaunch = AppLanguage::relaunch;
+};

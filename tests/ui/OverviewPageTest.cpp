@@ -1,0 +1,139 @@
+#include "format/ByteCount.h"
+#include "support/ModelFixture.h"
+#include "support/Wait.h"
+#include "ui/OverviewPage.h"
+
+#include <QDir>
+#include <QLabel>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTreeWidget>
+#include <gtest/gtest.h>
+
+namespace {
+
+// The texts of the page's labels a person could see now.
+QStringList visibleTexts(const QWidget& page)
+{
+    QStringList texts;
+    for (const QLabel* label : page.findChildren<QLabel*>()) {
+        if (label->isVisibleTo(&page))
+            texts.append(label->text());
+    }
+    return texts;
+}
+
+QStringList rowTexts(const QTreeWidgetItem* row)
+{
+    return {row->text(0), row->text(1), row->text(2)};
+}
+
+ScanOutput found(QList<CleanupItem> items)
+{
+    ScanOutput output;
+    output.items = std::move(items);
+    return output;
+}
+
+}  // namespace
+
+TEST(OverviewPage, HistoryShowsItsPlaceholderUntilTheFirstCleanupThenNewestFirst)
+{
+    ModelFixture fixture;
+    OverviewPage page(&fixture.model());
+    EXPECT_TRUE(visibleTexts(page).contains("Your first cleanup will show up here."));
+    EXPECT_TRUE(visibleTexts(page).contains("A scan only reads. You choose what goes to the Trash."));
+    EXPECT_FALSE(page.history()->isVisibleTo(&page));
+
+    fixture.stats().recordCleanup(3'000'000, 500'000, 4);
+    fixture.stats().recordCleanup(1'000, 0, 1);
+
+    EXPECT_FALSE(visibleTexts(page).contains("Your first cleanup will show up here."));
+    ASSERT_TRUE(page.history()->isVisibleTo(&page));
+    ASSERT_EQ(page.history()->topLevelItemCount(), 2);
+    EXPECT_EQ(rowTexts(page.history()->topLevelItem(0)), QStringList({"just now", "1 KB", "1 item"}));
+    EXPECT_EQ(rowTexts(page.history()->topLevelItem(1)), QStringList({"just now", "3.5 MB", "4 items"}));
+    const QStringList texts = visibleTexts(page);
+    EXPECT_TRUE(texts.contains(ByteCount::format(3'501'000))) << "total cleaned";
+    EXPECT_TRUE(texts.contains("2")) << "cleanups";
+    EXPECT_TRUE(texts.contains("5")) << "items removed";
+}
+
+TEST(OverviewPage, GroupsShowWhatTheirScannedCategoriesFound)
+{
+    ModelFixture fixture;
+    OverviewPage page(&fixture.model());
+    EXPECT_EQ(visibleTexts(page).count("Not scanned yet"), 2);
+    EXPECT_TRUE(visibleTexts(page).contains("No full scan yet."));
+
+    fixture.model().apply({{CategoryID::projects, found({rowAt(CategoryID::projects, "/Users/a/p/build", 2'000'000)})},
+                           {CategoryID::docker, found({rowAt(CategoryID::docker, "/Users/a/d", 500'000)})},
+                           {CategoryID::logs, found({rowAt(CategoryID::logs, "/Users/a/l", 7'000'000)})}},
+                          false);
+
+    const QStringList texts = visibleTexts(page);
+    EXPECT_TRUE(texts.contains("2.5 MB")) << texts.join(" | ").toStdString();
+    EXPECT_TRUE(texts.contains("7 MB")) << texts.join(" | ").toStdString();
+    EXPECT_EQ(texts.count("Found to review"), 2);
+}
+
+TEST(OverviewPage, FullDiskAccessBannerAppearsOnlyWithoutAccessAndItsButtonAsksTheWindow)
+{
+    ModelFixture fixture;
+    AppModel::Services services = AppModel::defaultServices();
+    services.readSystemState = [](const QString&) { return AppModel::SystemState{1, 2, false}; };
+    AppModel model(&fixture.settings(), &fixture.stats(), services);
+    OverviewPage page(&model);
+    int opened = 0;
+    page.setOpenFullDiskAccess([&opened] { ++opened; });
+    QPushButton* button = nullptr;
+    for (QPushButton* candidate : page.findChildren<QPushButton*>()) {
+        if (candidate->text() == "Open Privacy Settings…")
+            button = candidate;
+    }
+    ASSERT_TRUE(button);
+    EXPECT_FALSE(button->isVisibleTo(&page)) << "access is assumed until the system says otherwise";
+
+    model.refreshSystemState();
+    ASSERT_TRUE(waitUntil([&] { return button->isVisibleTo(&page); }));
+    button->click();
+    EXPECT_EQ(opened, 1);
+}
+
+// Not a check: DUSTLARK_SCREENSHOTS=<folder> saves a picture of a lived-in overview for the docs.
+TEST(OverviewPage, Screenshot)
+{
+    const QString folder = qEnvironmentVariable("DUSTLARK_SCREENSHOTS");
+    if (folder.isEmpty())
+        GTEST_SKIP() << "set DUSTLARK_SCREENSHOTS to a folder to save a screenshot";
+    QTemporaryDir dir;
+    QSettings preferences(dir.filePath("prefs.ini"), QSettings::IniFormat);
+    QDateTime now = QDateTime::currentDateTime().addDays(-40);
+    SettingsStore settings(&preferences, "/Users/a");
+    StatsStore stats(&preferences, [&now] { return now; });
+    AppModel model(&settings, &stats);
+    struct Past {
+        int daysAgo;
+        qint64 bytes;
+        int items;
+    };
+    for (const Past& past : {Past{26, 12'400'000'000, 41}, Past{9, 860'000'000, 3}, Past{0, 4'200'000'000, 12}}) {
+        now = QDateTime::currentDateTime().addDays(-past.daysAgo);
+        stats.recordCleanup(past.bytes, past.bytes / 10, past.items);
+    }
+    model.apply({{CategoryID::projects, found({rowAt(CategoryID::projects, "/Users/a/p/node_modules", 3'800'000'000)})},
+                 {CategoryID::docker, found({rowAt(CategoryID::docker, "/Users/a/d", 2'100'000'000)})},
+                 {CategoryID::browserCaches, found({rowAt(CategoryID::browserCaches, "/Users/a/c", 940'000'000)})}},
+                false);
+    std::map<CategoryID, CategoryResult> results;
+    for (CategoryID category : Categories::allCases())
+        results[category] = model.result(category);
+    now = QDateTime::currentDateTime().addSecs(-3 * 3600);
+    stats.recordScan(now.addSecs(-95), results);
+    OverviewPage page(&model);
+    page.resize(1000, 720);
+    page.show();
+    QCoreApplication::processEvents();  // lets the layouts settle before the picture
+    ASSERT_TRUE(QDir().mkpath(folder));
+    EXPECT_TRUE(page.grab().save(QDir(folder).filePath("overview.png")));
+}

@@ -1,0 +1,143 @@
+#include "support/ModelFixture.h"
+#include "support/Wait.h"
+#include "ui/SafeListPage.h"
+
+#include <QDir>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+QList<QPushButton*> buttonsTitled(const QWidget& page, const QString& text)
+{
+    QList<QPushButton*> found;
+    for (QPushButton* button : page.findChildren<QPushButton*>()) {
+        if (button->text() == text)
+            found.append(button);
+    }
+    return found;
+}
+
+bool showsLabel(const QWidget& page, const QString& text)
+{
+    for (const QLabel* label : page.findChildren<QLabel*>()) {
+        if (label->text() == text && label->isVisibleTo(&page))
+            return true;
+    }
+    return false;
+}
+
+ScanOutput found(QList<CleanupItem> items)
+{
+    ScanOutput output;
+    output.items = std::move(items);
+    return output;
+}
+
+}  // namespace
+
+TEST(SafeListPage, RemovingAnItemTakesItOffTheListAndScansItsCategoryAgain)
+{
+    const CleanupItem kept = rowAt(CategoryID::projects, "/Users/a/p/build", 2'000'000);
+    const CleanupItem other = rowAt(CategoryID::logs, "/Users/a/Library/Logs/x", 1'000);
+    auto scanner = std::make_shared<FakeScanner>(QList{CategoryID::projects}, ScanOutputs{{CategoryID::projects, found({kept})}});
+    ModelFixture fixture({scanner});
+    fixture.model().apply({{CategoryID::projects, found({kept})}}, false);
+    SafeListPage page(&fixture.model());
+    EXPECT_TRUE(showsLabel(page, "No items are on the list."));
+
+    fixture.model().addToSafeList(kept);
+    fixture.model().addToSafeList(other);
+    EXPECT_EQ(page.shownItemIds(), QStringList({other.id, kept.id})) << "newest first";
+    EXPECT_TRUE(showsLabel(page, "build"));
+    EXPECT_TRUE(showsLabel(page, "Project Builds"));
+    EXPECT_TRUE(fixture.model().result(CategoryID::projects).items.isEmpty());
+
+    const QList<QPushButton*> removeButtons = buttonsTitled(page, "Remove from List");
+    ASSERT_EQ(removeButtons.size(), 2);
+    removeButtons.last()->click();  // the row of `kept`
+
+    EXPECT_EQ(page.shownItemIds(), QStringList({other.id}));
+    EXPECT_FALSE(showsLabel(page, "build"));
+    EXPECT_EQ(fixture.settings().safeItems(), QStringList({other.id}));
+    ASSERT_TRUE(waitUntil([&] { return fixture.model().result(CategoryID::projects).items.size() == 1; }))
+        << "the category was scanned again";
+    EXPECT_EQ(scanner->runs(), 1);
+}
+
+TEST(SafeListPage, AFolderAddedThroughThePickerIsListedAndHidesWhatItHolds)
+{
+    ModelFixture fixture;
+    fixture.model().apply({{CategoryID::largeFiles, found({rowAt(CategoryID::largeFiles, "/Users/a/Movies/raw/take1.mov"),
+                                                      rowAt(CategoryID::largeFiles, "/Users/a/Movies/rawcut.mov")})}},
+                          false);
+    SafeListPage page(&fixture.model());
+    EXPECT_TRUE(showsLabel(page, "No folders are on the list."));
+    QString answer = "/Users/a/Movies/raw/";
+    page.setFolderPicker([&answer](QWidget*) { return answer; });
+
+    page.folderEditor()->addFolder();
+    answer.clear();  // the person cancels the second time
+    page.folderEditor()->addFolder();
+
+    EXPECT_EQ(page.folderEditor()->folders(), QStringList({"/Users/a/Movies/raw"}));
+    EXPECT_EQ(fixture.settings().safeFolders(), QStringList({"/Users/a/Movies/raw"}));
+    EXPECT_FALSE(showsLabel(page, "No folders are on the list."));
+    const QList<CleanupItem> left = fixture.model().result(CategoryID::largeFiles).items;
+    ASSERT_EQ(left.size(), 1);
+    EXPECT_EQ(left.first().id, "/Users/a/Movies/rawcut.mov") << "a sibling with a longer name is not inside";
+
+    page.folderEditor()->list()->setCurrentRow(0);
+    buttonsTitled(page, "Remove").first()->click();
+    EXPECT_TRUE(fixture.settings().safeFolders().isEmpty());
+    EXPECT_TRUE(page.folderEditor()->folders().isEmpty());
+}
+
+TEST(SafeListPage, AnItemWhoseStoredDetailsAreLostStillShowsByItsId)
+{
+    QTemporaryDir dir;
+    QSettings preferences(dir.filePath("prefs.ini"), QSettings::IniFormat);
+    preferences.setValue("ignoredItems", QStringList({"docker:buildcache", "/Users/a/p/dist"}));
+    SettingsStore settings(&preferences, "/Users/a");
+    StatsStore stats(&preferences);
+    AppModel model(&settings, &stats);
+    SafeListPage page(&model);
+    EXPECT_EQ(page.shownItemIds(), QStringList({"/Users/a/p/dist", "docker:buildcache"}));
+    EXPECT_TRUE(showsLabel(page, "docker:buildcache"));
+
+    buttonsTitled(page, "Remove from List").first()->click();
+    EXPECT_EQ(settings.safeItems(), QStringList({"docker:buildcache"}));
+}
+
+// Not a check: DUSTLARK_SCREENSHOTS=<folder> saves a picture of a filled Safe List for the docs.
+TEST(SafeListPage, Screenshot)
+{
+    const QString folder = qEnvironmentVariable("DUSTLARK_SCREENSHOTS");
+    if (folder.isEmpty())
+        GTEST_SKIP() << "set DUSTLARK_SCREENSHOTS to a folder to save a screenshot";
+    ModelFixture fixture;
+    QDateTime added = QDateTime::currentDateTime();
+    fixture.settings().setClock([&added] { return added; });
+    CleanupItem build = rowAt(CategoryID::projects, "/Users/a/code/shop/node_modules", 1'240'000'000);
+    build.detail = "shop · npm · changed 3 weeks ago";
+    CleanupItem model = rowAt(CategoryID::aiModels, "/Users/a/.ollama/models/llama3", 4'700'000'000);
+    model.title = "llama3:8b";
+    model.detail = "Ollama · used 2 months ago";
+    CleanupItem logs = rowAt(CategoryID::logs, "/Users/a/Library/Logs/Xcode", 86'000'000);
+    logs.detail = "Xcode · 412 files";
+    for (const CleanupItem& item : {build, model, logs}) {
+        added = added.addDays(-9);
+        fixture.settings().addSafeItem(item);
+    }
+    fixture.settings().addSafeFolder("/Users/a/Clients/Archive");
+    fixture.settings().addSafeFolder("/Users/a/Movies/Raw Footage");
+    SafeListPage page(&fixture.model());
+    page.resize(1000, 720);
+    page.show();
+    QCoreApplication::processEvents();  // lets the layouts settle before the picture
+    ASSERT_TRUE(QDir().mkpath(folder));
+    EXPECT_TRUE(page.grab().save(QDir(folder).filePath("safe-list.png")));
+}

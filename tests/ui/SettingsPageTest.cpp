@@ -1,0 +1,93 @@
+#include "model/SettingsStore.h"
+#include "ui/SettingsPage.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+struct SettingsFixture {
+    QTemporaryDir dir;
+    QSettings preferences{dir.filePath("prefs.ini"), QSettings::IniFormat};
+    SettingsStore settings{&preferences, "/Users/a"};
+    QList<AppLanguage::Option> languages{{"", "System Language"}, {"de", "Deutsch"}, {"en", "English"}};
+};
+
+QPushButton* buttonTitled(const QWidget& page, const QString& text)
+{
+    for (QPushButton* button : page.findChildren<QPushButton*>()) {
+        if (button->text() == text)
+            return button;
+    }
+    return nullptr;
+}
+
+bool showsLabel(const QWidget& page, const QString& text)
+{
+    for (const QLabel* label : page.findChildren<QLabel*>()) {
+        if (label->text() == text && label->isVisibleTo(&page))
+            return true;
+    }
+    return false;
+}
+
+}  // namespace
+
+TEST(SettingsPage, ScanFoldersAreAddedThroughThePickerAndTheLastOneRemovedLeavesHome)
+{
+    SettingsFixture fixture;
+    SettingsPage page(&fixture.settings, &fixture.preferences, fixture.languages);
+    page.setFolderPicker([](QWidget*) { return QStringLiteral("/Volumes/Work/code"); });
+    EXPECT_EQ(page.scanFolders()->folders(), QStringList({"/Users/a"}));
+
+    page.scanFolders()->addFolder();
+    EXPECT_EQ(fixture.settings.scanRoots(), QStringList({"/Users/a", "/Volumes/Work/code"}));
+    EXPECT_EQ(page.scanFolders()->folders(), fixture.settings.scanRoots());
+
+    QPushButton* remove = buttonTitled(page, "Remove");
+    ASSERT_TRUE(remove);
+    EXPECT_FALSE(remove->isEnabled()) << "nothing is selected";
+    for (const QString& folder : QStringList{"/Users/a", "/Volumes/Work/code"}) {
+        page.scanFolders()->list()->setCurrentRow(int(page.scanFolders()->folders().indexOf(folder)));
+        remove->click();
+    }
+    EXPECT_EQ(fixture.settings.scanRoots(), QStringList({"/Users/a"}));
+    EXPECT_EQ(page.scanFolders()->folders(), QStringList({"/Users/a"}));
+}
+
+TEST(SettingsPage, ChoosingALanguageStoresItAndOffersARelaunch)
+{
+    SettingsFixture fixture;
+    SettingsPage page(&fixture.settings, &fixture.preferences, fixture.languages);
+    int relaunches = 0;
+    bool relaunchWorks = false;
+    page.setRelaunch([&] { ++relaunches; return relaunchWorks; });
+    EXPECT_EQ(page.languagePicker()->currentText(), "System Language");
+    EXPECT_FALSE(page.relaunchButton()->isVisibleTo(&page)) << "the language in force is the chosen one";
+
+    page.languagePicker()->setCurrentIndex(1);
+    emit page.languagePicker()->activated(1);
+    EXPECT_EQ(AppLanguage::chosen(fixture.preferences), "de");
+    ASSERT_TRUE(page.relaunchButton()->isVisibleTo(&page));
+
+    page.relaunchButton()->click();
+    EXPECT_EQ(relaunches, 1);
+    EXPECT_TRUE(showsLabel(page, "Dustlark couldn't relaunch. Quit it and open it again."));
+
+    page.chooseLanguage("");
+    EXPECT_FALSE(fixture.preferences.contains("AppleLanguages"));
+    EXPECT_FALSE(page.relaunchButton()->isVisibleTo(&page));
+}
+
+TEST(SettingsPage, AStoredLanguageWithoutTranslationStaysSelected)
+{
+    SettingsFixture fixture;
+    AppLanguage::choose(fixture.preferences, "fr");
+    SettingsPage page(&fixture.settings, &fixture.preferences, fixture.languages);
+    EXPECT_EQ(page.languagePicker()->currentData().toString(), "fr");
+    EXPECT_EQ(page.languagePicker()->count(), 4);
+}
