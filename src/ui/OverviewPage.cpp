@@ -79,11 +79,7 @@ OverviewPage::OverviewPage(AppModel* model, QWidget* parent)
     //: The promise on the overview screen
     layout->addWidget(PageLabels::body(tr("A scan only reads. You choose what goes to the Trash."), this));
     layout->addWidget(makeAccessBanner());
-    auto* groups = new QHBoxLayout;
-    groups->setSpacing(12);
-    for (CleanerGroup group : CleanerGroups::allCases())
-        groups->addWidget(makeGroupCard(group));
-    layout->addLayout(groups);
+    layout->addWidget(makeGroups());
     layout->addSpacing(8);
     //: Heading of the statistics on the overview screen
     layout->addWidget(PageLabels::heading(tr("Statistics"), this));
@@ -92,21 +88,7 @@ OverviewPage::OverviewPage(AppModel* model, QWidget* parent)
     layout->addSpacing(8);
     //: Heading of the list of past cleanups on the overview screen
     layout->addWidget(PageLabels::heading(tr("Cleanup History"), this));
-
-    //: Shown instead of the cleanup history while there is none
-    m_historyEmpty->setText(tr("Your first cleanup will show up here."));
-    m_historyEmpty->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    m_history->setRootIsDecorated(false);
-    m_history->setUniformRowHeights(true);
-    m_history->setAlternatingRowColors(true);
-    m_history->setSelectionMode(QAbstractItemView::NoSelection);
-    m_history->setFocusPolicy(Qt::NoFocus);
-    m_history->setHeaderLabels(historyHeadings());
-    m_history->header()->setSectionResizeMode(dateColumn, QHeaderView::Stretch);
-    m_history->header()->setStretchLastSection(false);
-    m_historyStack->addWidget(m_history);
-    m_historyStack->addWidget(m_historyEmpty);
-    layout->addWidget(m_historyStack);
+    layout->addWidget(makeHistory());
     layout->addStretch(1);
 
     connect(m_model, &AppModel::resultsChanged, this, &OverviewPage::refreshGroups);
@@ -122,6 +104,35 @@ void OverviewPage::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
     refreshStats();  // relative dates ("5 minutes ago") age while the page is hidden
+}
+
+QWidget* OverviewPage::makeGroups()
+{
+    auto* groups = new QWidget(this);
+    auto* layout = new QHBoxLayout(groups);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(12);
+    for (CleanerGroup group : CleanerGroups::allCases())
+        layout->addWidget(makeGroupCard(group));
+    return groups;
+}
+
+QWidget* OverviewPage::makeHistory()
+{
+    //: Shown instead of the cleanup history while there is none
+    m_historyEmpty->setText(tr("Your first cleanup will show up here."));
+    m_historyEmpty->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_history->setRootIsDecorated(false);
+    m_history->setUniformRowHeights(true);
+    m_history->setAlternatingRowColors(true);
+    m_history->setSelectionMode(QAbstractItemView::NoSelection);
+    m_history->setFocusPolicy(Qt::NoFocus);
+    m_history->setHeaderLabels(historyHeadings());
+    m_history->header()->setSectionResizeMode(dateColumn, QHeaderView::Stretch);
+    m_history->header()->setStretchLastSection(false);
+    m_historyStack->addWidget(m_history);
+    m_historyStack->addWidget(m_historyEmpty);
+    return m_historyStack;
 }
 
 QFrame* OverviewPage::makeAccessBanner()

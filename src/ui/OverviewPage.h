@@ -36,7 +36,9 @@ private:
     };
 
     QFrame* makeAccessBanner();
+    QWidget* makeGroups();
     QWidget* makeGroupCard(CleanerGroup group);
+    QWidget* makeHistory();
     QWidget* makeTotals();
     QWidget* makeFigure(QLabel* value, const QString& caption);
     void refreshGroups();

@@ -68,42 +68,8 @@ void dispose(QWidget* widget)
 SafeListPage::SafeListPage(AppModel* model, QWidget* parent)
     : QWidget(parent), m_model(model), m_itemRows(new QVBoxLayout), m_folders(new FolderListEditor)
 {
-    auto* content = new QWidget;
-    auto* layout = new QVBoxLayout(content);
-    layout->setContentsMargins(24, 20, 24, 20);
-    layout->setSpacing(10);
-    //: Heading of the Safe List screen
-    layout->addWidget(PageLabels::title(tr("Safe List"), content));
-    //: Explanation at the top of the Safe List screen
-    layout->addWidget(PageLabels::body(tr("Items and folders here never appear in scans and can't be cleaned by mistake. "
-                                          "Add an item or its whole project from the ••• menu of any row."), content));
-    layout->addSpacing(8);
-    //: Heading of the single items on the Safe List
-    layout->addWidget(PageLabels::heading(tr("Items"), content));
-    auto* itemsBox = new QFrame(content);
-    itemsBox->setFrameShape(QFrame::StyledPanel);
-    m_itemRows->setContentsMargins(0, 0, 0, 0);
-    m_itemRows->setSpacing(0);
-    itemsBox->setLayout(m_itemRows);
-    layout->addWidget(itemsBox);
-    //: Shown instead of the Safe List's items while there are none
-    m_itemsEmpty = PageLabels::note(tr("No items are on the list."), content);
-    layout->addWidget(m_itemsEmpty);
-    //: Note under the Safe List's items
-    layout->addWidget(PageLabels::note(tr("Taking an item off the list scans its category again, so it shows up right away."), content));
-    layout->addSpacing(8);
-    //: Heading of the folders on the Safe List
-    layout->addWidget(PageLabels::heading(tr("Folders — nothing inside is shown"), content));
-    m_folders->setParent(content);
-    //: Shown instead of the Safe List's folders while there are none
-    m_folders->setEmptyText(tr("No folders are on the list."));
-    layout->addWidget(m_folders);
-    //: Note under the Safe List's folders
-    layout->addWidget(PageLabels::note(tr("A folder taken off the list shows up again in the next scan."), content));
-    layout->addStretch(1);
-
     auto* scroll = new QScrollArea(this);
-    scroll->setWidget(content);
+    scroll->setWidget(makeContent());
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
     auto* outer = new QVBoxLayout(this);
@@ -117,6 +83,54 @@ SafeListPage::SafeListPage(AppModel* model, QWidget* parent)
     connect(m_folders, &FolderListEditor::removeRequested, settings, &SettingsStore::removeSafeFolder);
     refreshItems();
     refreshFolders();
+}
+
+QWidget* SafeListPage::makeContent()
+{
+    auto* content = new QWidget;
+    auto* layout = new QVBoxLayout(content);
+    layout->setContentsMargins(24, 20, 24, 20);
+    layout->setSpacing(10);
+    //: Heading of the Safe List screen
+    layout->addWidget(PageLabels::title(tr("Safe List"), content));
+    //: Explanation at the top of the Safe List screen
+    layout->addWidget(PageLabels::body(tr("Items and folders here never appear in scans and can't be cleaned by mistake. "
+                                          "Add an item or its whole project from the ••• menu of any row."), content));
+    layout->addSpacing(8);
+    addItemsSection(layout, content);
+    layout->addSpacing(8);
+    addFoldersSection(layout, content);
+    layout->addStretch(1);
+    return content;
+}
+
+void SafeListPage::addItemsSection(QVBoxLayout* layout, QWidget* content)
+{
+    //: Heading of the single items on the Safe List
+    layout->addWidget(PageLabels::heading(tr("Items"), content));
+    auto* itemsBox = new QFrame(content);
+    itemsBox->setFrameShape(QFrame::StyledPanel);
+    m_itemRows->setContentsMargins(0, 0, 0, 0);
+    m_itemRows->setSpacing(0);
+    itemsBox->setLayout(m_itemRows);
+    layout->addWidget(itemsBox);
+    //: Shown instead of the Safe List's items while there are none
+    m_itemsEmpty = PageLabels::note(tr("No items are on the list."), content);
+    layout->addWidget(m_itemsEmpty);
+    //: Note under the Safe List's items
+    layout->addWidget(PageLabels::note(tr("Taking an item off the list scans its category again, so it shows up right away."), content));
+}
+
+void SafeListPage::addFoldersSection(QVBoxLayout* layout, QWidget* content)
+{
+    //: Heading of the folders on the Safe List
+    layout->addWidget(PageLabels::heading(tr("Folders — nothing inside is shown"), content));
+    m_folders->setParent(content);
+    //: Shown instead of the Safe List's folders while there are none
+    m_folders->setEmptyText(tr("No folders are on the list."));
+    layout->addWidget(m_folders);
+    //: Note under the Safe List's folders
+    layout->addWidget(PageLabels::note(tr("A folder taken off the list shows up again in the next scan."), content));
 }
 
 void SafeListPage::setFolderPicker(FolderListEditor::FolderPicker picker)

@@ -25,6 +25,9 @@ public:
     [[nodiscard]] QStringList shownItemIds() const { return m_shownIds; }
 
 private:
+    QWidget* makeContent();
+    void addItemsSection(QVBoxLayout* layout, QWidget* content);
+    void addFoldersSection(QVBoxLayout* layout, QWidget* content);
     QWidget* makeItemRow(const QString& id, const SafeItemInfo* info);
     void refreshItems();
     void refreshFolders();
@@ -33,7 +36,7 @@ private:
 
     AppModel* m_model;
     QVBoxLayout* m_itemRows;
-    QLabel* m_itemsEmpty;
+    QLabel* m_itemsEmpty = nullptr;
     FolderListEditor* m_folders;
     QStringList m_shownIds;
 };
