@@ -3,6 +3,7 @@
 #include "model/SettingsStore.h"
 #include "model/StatsStore.h"
 #include "ui/MainWindow.h"
+#include "ui/SettingsPage.h"
 
 #include <QApplication>
 #include <QSettings>
@@ -23,6 +24,7 @@ int main(int argc, char* argv[])
     model.refreshSystemState();
 
     MainWindow window(&model);
+    window.setSettingsPage(new SettingsPage(&settingsStore, &settings));
     window.show();
     return app.exec();
 }

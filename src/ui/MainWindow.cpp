@@ -1,9 +1,12 @@
 #include "ui/MainWindow.h"
 
+#include "actions/SystemAccess.h"
 #include "format/ByteCount.h"
 #include "model/AppModel.h"
 #include "ui/CategoryPage.h"
 #include "ui/CleanupSheet.h"
+#include "ui/OverviewPage.h"
+#include "ui/SafeListPage.h"
 #include "ui/Sidebar.h"
 #include "ui/Toast.h"
 
@@ -37,7 +40,10 @@ MainWindow::MainWindow(AppModel* model, QWidget* parent)
     using Kind = SidebarDestination::Kind;
     for (Kind kind : {Kind::storage, Kind::largeFolders, Kind::safeList, Kind::about})
         m_sidebar->setScreenAvailable(SidebarDestination::screen(kind), false);
-    setScreenPage(Kind::overview, makeOverviewPlaceholder());
+    auto* overview = new OverviewPage(m_model, this);
+    overview->setOpenFullDiskAccess([] { SystemAccess::openFullDiskAccessSettings(); });
+    setScreenPage(Kind::overview, overview);
+    setScreenPage(Kind::safeList, new SafeListPage(m_model, this));
 
     connect(m_sidebar, &Sidebar::destinationChosen, this, &MainWindow::choose);
     connect(m_model, &AppModel::resultsChanged, this, &MainWindow::updateSidebarCategory);
@@ -78,26 +84,6 @@ void MainWindow::setSettingsPage(QWidget* page)
 void MainWindow::setQuestions(const AIQuestions& questions)
 {
     m_categoryPage->setQuestions(questions);
-}
-
-QWidget* MainWindow::makeOverviewPlaceholder()
-{
-    auto* page = new QWidget(this);
-    //: Heading of the overview screen
-    auto* heading = new QLabel(tr("Overview"), page);
-    QFont font = heading->font();
-    font.setPointSizeF(font.pointSizeF() * 1.6);
-    font.setBold(true);
-    heading->setFont(font);
-    //: The promise on the overview screen
-    auto* body = new QLabel(tr("A scan only reads. You choose what goes to the Trash."), page);
-    body->setWordWrap(true);
-    auto* layout = new QVBoxLayout(page);
-    layout->setContentsMargins(24, 18, 24, 18);
-    layout->addWidget(heading);
-    layout->addWidget(body);
-    layout->addStretch(1);
-    return page;
 }
 
 void MainWindow::makeMenus()

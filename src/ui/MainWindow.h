@@ -57,7 +57,6 @@ protected:
 
 private:
     // MainWindow.cpp: the screens
-    QWidget* makeOverviewPlaceholder();
     void makeMenus();
     void showCurrentScreen();
     void updateSidebarCategory(CategoryID category);
