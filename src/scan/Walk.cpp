@@ -65,17 +65,6 @@ bool isInstaller(std::string_view name)
     return WalkNames::contains(WalkNames::installerExtensions, lowercasedExtension(name));
 }
 
-// Linux names the nanosecond modification time st_mtim, Apple st_mtimespec; whichever the
-// system's struct stat has is used.
-template <typename Stat>
-qint64 modifiedNanoseconds(const Stat& info)
-{
-    if constexpr (requires { info.st_mtim; })
-        return static_cast<qint64>(info.st_mtim.tv_sec) * 1'000'000'000 + info.st_mtim.tv_nsec;
-    else
-        return static_cast<qint64>(info.st_mtimespec.tv_sec) * 1'000'000'000 + info.st_mtimespec.tv_nsec;
-}
-
 DuplicateFinder::File duplicateCandidate(const QString& path, const struct stat& info)
 {
     DuplicateFinder::File file;
@@ -84,7 +73,7 @@ DuplicateFinder::File duplicateCandidate(const QString& path, const struct stat&
     file.allocated = static_cast<qint64>(info.st_blocks) * 512;
     file.device = static_cast<qint32>(info.st_dev);
     file.inode = static_cast<quint64>(info.st_ino);
-    file.stamp = {info.st_size, modifiedNanoseconds(info)};
+    file.stamp = {info.st_size, Platform::modificationNanoseconds(info)};
     return file;
 }
 
