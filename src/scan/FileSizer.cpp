@@ -81,9 +81,9 @@ bool Measuring::traverse(FTS* tree)
             ::fts_set(tree, entry, FTS_SKIP);  // a mount point: its blocks belong to another volume
             continue;
         }
-        visit(entry);
         if (!countEntry())
             return false;
+        visit(entry);
     }
 }
 

@@ -140,11 +140,11 @@ void Walk::Pass::run()
     while (FTSENT* entry = ::fts_read(tree)) {
         if (entry->fts_info == FTS_DP)
             continue;
-        const Action action = handle(entry);
+        const Action action = countEntry() ? handle(entry) : Action::Stop;
+        if (action == Action::Stop)
+            break;
         if (action == Action::Skip)
             ::fts_set(tree, entry, FTS_SKIP);
-        if (action == Action::Stop || !countEntry())
-            break;
     }
     ::fts_close(tree);
     if (m_walk.m_context.progress && m_entries % progressBatch != 0)
