@@ -153,12 +153,11 @@ void Walk::Pass::run()
 
 Walk::Action Walk::Pass::handle(const FTSENT* entry)
 {
+    if (entry->fts_level == FTS_ROOTLEVEL)
+        m_device = entry->fts_statp->st_dev;  // the volume the walk stays on
     switch (entry->fts_info) {
     case FTS_D:
-        if (entry->fts_level > FTS_ROOTLEVEL)
-            return visitDirectory(entry);
-        m_device = entry->fts_statp->st_dev;
-        return Action::Continue;
+        return entry->fts_level > FTS_ROOTLEVEL ? visitDirectory(entry) : Action::Continue;
     case FTS_DNR:
     case FTS_ERR:
         ++m_walk.m_unreadable;

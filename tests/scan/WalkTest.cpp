@@ -32,6 +32,8 @@ TEST_F(WalkFiles, SizeThresholdsAndInstallerExtensions)
     EXPECT_EQ(candidates(walk), QStringList({"scan/Fotos – 2024/Ünïcødé 📷.mov", "scan/a.dmg", "scan/almost-large",
                                              "scan/b.PKG", "scan/c.Mpkg", "scan/d.xIp", "scan/exactly-minimum"}));
     EXPECT_EQ(largeFiles(walk), QStringList({"scan/Fotos – 2024/Ünïcødé 📷.mov"}));
+    EXPECT_EQ(candidates(walked({"scan/exactly-minimum"})), QStringList({"scan/exactly-minimum"}))
+        << "a file given as the root is looked at too";
 }
 
 TEST_F(WalkFiles, CandidatesCarryIdentitySizesAndNanosecondTime)
