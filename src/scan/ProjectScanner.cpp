@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <algorithm>
+#include <climits>
 #include <vector>
 
 namespace {
@@ -137,8 +138,9 @@ std::optional<QDateTime> ProjectScanner::lastOpened(const QString& path)
 
 QString ProjectScanner::unreadableNote(qint64 folders)
 {
+    const int count = folders > INT_MAX ? INT_MAX : int(folders);
     //: Note above Project Builds and Large Files; %n is the number of folders that couldn't be read
     return QCoreApplication::translate("ProjectScanner",
         "%n folders couldn't be read. Allow access when macOS asks, or give Dustlark Full Disk Access.",
-        nullptr, int(std::min<qint64>(folders, INT_MAX)));
+        nullptr, count);
 }
