@@ -76,19 +76,6 @@ protected:
 
 }  // namespace
 
-TEST_F(WorktreeFinderTest, ReadsBranchesDetachedHeadsAndLocksFromGitsMetadata)
-{
-    const QString feature = addWorktree("home/code/feature");
-    const QString loose = addWorktree("home/code/loose", true);
-    run(repository, {"worktree", "lock", feature});
-
-    const QList<WorktreeFinder::Worktree> found = WorktreeFinder::worktrees(repository);
-    EXPECT_EQ(found, (QList<WorktreeFinder::Worktree>{
-                         {repository, feature, metadataOf(feature), QString("feature"), true},
-                         {repository, loose, metadataOf(loose), std::nullopt, false},
-                     }));
-}
-
 TEST_F(WorktreeFinderTest, RowsTellWhatWorkExistsNowhereElse)
 {
     const QString feature = addWorktree("home/code/feature");
