@@ -102,7 +102,8 @@ std::unique_ptr<ScanTask> AppModel::makeTask(std::vector<std::shared_ptr<const S
 
 void AppModel::startScan()
 {
-    if (isBusyScanning())
+    // A scan replaces every list, so it waits until no cleanup sheet is open.
+    if (isBusyScanning() || m_cleanup)
         return;
     const QUuid id = QUuid::createUuid();
     RunningScan scan{makeTask(m_services.scanners(), id), 0, m_services.now()};
@@ -132,7 +133,7 @@ void AppModel::stopScan()
 
 void AppModel::rescan(CategoryID category)
 {
-    if (m_isScanning || isCategoryScanning(category))
+    if (m_isScanning || isCategoryScanning(category) || isChangingFiles())
         return;
     std::vector<std::shared_ptr<const Scanner>> chosen;
     for (const auto& scanner : m_services.scanners()) {

@@ -89,9 +89,10 @@ void AppModel::finishCleanup(std::optional<qint64> freeAfter)
     m_stats->recordCleanup(session->movedToTrash(), session->removedByTools(), session->removedCount());
     refreshSystemState();
     refreshTrash();
+    session->setPhase(CleanupSession::Phase::finished);
+    // Images whose containers went show their new state; rescans wait until the run has ended.
     if (session->removedContainers())
         rescan(CategoryID::docker);
-    session->setPhase(CleanupSession::Phase::finished);
     emit cleanupChanged();
     if (m_quitCompletion)
         std::exchange(m_quitCompletion, {})();

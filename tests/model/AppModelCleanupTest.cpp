@@ -212,3 +212,22 @@ TEST(AppModelCleanup, QuitWaitsForTheRunningCleanupToStop)
     EXPECT_EQ(model.cleanup()->processed(), 1);  // the current item finished, then it stopped
     EXPECT_FALSE(model.isChangingFiles());
 }
+
+TEST(AppModelCleanup, NoScanStartsWhileASessionIsOpen)
+{
+    auto scanner = std::make_shared<FakeScanner>(QList{CategoryID::logs}, ScanOutputs{});
+    ModelFixture fixture({scanner});
+    AppModel& model = fixture.model();
+    const CleanupItem row = rowAt(CategoryID::logs, "/Users/a/Library/Logs/a.log");
+    show(model, CategoryID::logs, {row});
+    model.setSelected(row, true);
+    model.prepareCleanup();
+    model.startScan();
+    EXPECT_FALSE(model.isScanning());
+    model.closeCleanup();  // Cancel on the confirmation discards the session
+    EXPECT_FALSE(model.cleanup());
+    model.startScan();
+    EXPECT_TRUE(model.isScanning());
+    ASSERT_TRUE(waitUntil([&] { return !model.isBusyScanning(); }));
+    EXPECT_EQ(scanner->runs(), 1);
+}
