@@ -18,18 +18,8 @@ rm -rf "$DATA"
 "$BENCH" generate "$DATA"
 find "$DATA" -type f -exec cat {} + >/dev/null  # warm the page cache
 
-# Runs a command under /usr/bin/time -v; prints "label wall user sys cpu%".
-measure() {
-    local label=$1; shift
-    /usr/bin/time -v "$@" >"$LOG/out" 2>"$LOG/time"
-    local wall user sys cpu
-    wall=$(awk -F': ' '/Elapsed \(wall clock\)/ {n=split($2,t,":"); s=0; for(i=1;i<=n;i++) s=s*60+t[i]; print s}' "$LOG/time")
-    user=$(awk -F': ' '/User time/ {print $2}' "$LOG/time")
-    sys=$(awk -F': ' '/System time/ {print $2}' "$LOG/time")
-    cpu=$(awk -F': ' '/Percent of CPU/ {print $2}' "$LOG/time")
-    printf '%-16s wall %6.2f s  user %6.2f s  sys %5.2f s  cpu %s\n' "$label" "$wall" "$user" "$sys" "$cpu"
-    grep -E '^dustlark |not unique|duplicate files' "$LOG/out" || true
-}
+MEASURE_SHOW='^dustlark |not unique|duplicate files'
+source "$(dirname "$0")/measure.sh"
 
 echo "== machine"
 grep -m1 'model name' /proc/cpuinfo; nproc; uname -r; rdfind -v; jdupes -v | head -1

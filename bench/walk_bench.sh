@@ -15,21 +15,7 @@ cmake -S . -B "$BUILD_DIR" -DDUSTLARK_BENCH=ON >/dev/null
 cmake --build "$BUILD_DIR" --target walk_bench -j 2 >/dev/null
 BENCH="$BUILD_DIR/bin/walk_bench"
 
-# Runs a command under /usr/bin/time -v; prints "label wall user sys peak-memory" and keeps
-# the wall time in $LOG/<label>.wall for the ratios.
-measure() {
-    local label=$1; shift
-    /usr/bin/time -v "$@" >"$LOG/out" 2>"$LOG/time"
-    local wall user sys rss
-    wall=$(awk -F': ' '/Elapsed \(wall clock\)/ {n=split($2,t,":"); s=0; for(i=1;i<=n;i++) s=s*60+t[i]; print s}' "$LOG/time")
-    user=$(awk -F': ' '/User time/ {print $2}' "$LOG/time")
-    sys=$(awk -F': ' '/System time/ {print $2}' "$LOG/time")
-    rss=$(awk -F': ' '/Maximum resident set size/ {print $2}' "$LOG/time")
-    echo "$wall" >"$LOG/$label.wall"
-    awk -v u="$user" -v s="$sys" 'BEGIN {print u + s}' >"$LOG/$label.cpu"
-    printf '%-10s wall %6.2f s  user %5.2f s  sys %5.2f s  peak %7d KiB\n' "$label" "$wall" "$user" "$sys" "$rss"
-    sed 's/^/           /' "$LOG/out"
-}
+source "$(dirname "$0")/measure.sh"
 
 mkdir -p "$(dirname "$DATA")"
 echo "== machine"
