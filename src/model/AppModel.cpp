@@ -209,10 +209,7 @@ void AppModel::apply(const ScanOutputs& outputs, bool stopped)
     for (const auto& [category, output] : outputs) {
         CategoryResult result;
         result.state = CategoryResult::State::done;
-        for (const CleanupItem& item : output.items) {
-            if (!filter.drops(item))
-                result.items.append(item);
-        }
+        result.items = filter.kept(output.items);
         result.notes = output.notes;
         if (stopped)
             //: Banner of a category whose scanner returned early because the scan was stopped

@@ -52,6 +52,16 @@ bool ScanFilter::drops(const CleanupItem& item) const
     return false;
 }
 
+QList<CleanupItem> ScanFilter::kept(const QList<CleanupItem>& items) const
+{
+    QList<CleanupItem> result;
+    for (const CleanupItem& item : items) {
+        if (!drops(item))
+            result.append(item);
+    }
+    return result;
+}
+
 bool ScanFilter::isProtected(const QString& path) const
 {
     for (const QString& protectedPath : m_protectedPaths) {

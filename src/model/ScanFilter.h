@@ -14,6 +14,8 @@ public:
 
     // True when the item must not be shown.
     bool drops(const CleanupItem& item) const;
+    // The items that may be shown, in their order.
+    QList<CleanupItem> kept(const QList<CleanupItem>& items) const;
 
     // The home folder's never-offered iCloud places, relative to the home folder.
     static const QStringList& iCloudLocations();

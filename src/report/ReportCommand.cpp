@@ -1,6 +1,7 @@
 #include "report/ReportCommand.h"
 
 #include "model/SettingsStore.h"
+#include "model/ScanFilter.h"
 #include "report/ScanRunner.h"
 #include "scan/ScannerCatalog.h"
 
@@ -66,8 +67,8 @@ ScanReport::Results scan(const ReportOptions& options, const Protection& protect
         for (const auto& [category, output] : outputs) {
             if (!asked.contains(category))
                 continue;
-            const ScanOutput kept = ScanRunner::filtered(output, filter);
-            results[category] = CategoryResult{CategoryResult::State::done, kept.items, kept.notes, kept.summary};
+            results[category] = CategoryResult{CategoryResult::State::done, filter.kept(output.items),
+                                               output.notes, output.summary};
         }
     });
     return results;

@@ -15,16 +15,4 @@ void runAll(const std::vector<std::shared_ptr<const Scanner>>& scanners, const S
         thread.join();
 }
 
-ScanOutput filtered(const ScanOutput& output, const ScanFilter& filter)
-{
-    ScanOutput kept;
-    kept.notes = output.notes;
-    kept.summary = output.summary;
-    for (const CleanupItem& item : output.items) {
-        if (!filter.drops(item))
-            kept.items.append(item);
-    }
-    return kept;
-}
-
 }  // namespace ScanRunner
