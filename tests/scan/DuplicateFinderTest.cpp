@@ -94,29 +94,27 @@ TEST_F(DuplicateFinderTest, HardLinksToOneFileAreNoDuplicates)
     EXPECT_EQ(outcome.stats.filesRead, 0) << "one stored file has nothing to compare with";
 }
 
-TEST_F(DuplicateFinderTest, FilesOfExactly64KiBAreComparedWholeByTheFirstPass)
+// The first pass reads 64 KiB: files of exactly that size are compared whole by it, and a
+// last byte beyond it is found only by reading the files whole.
+TEST_F(DuplicateFinderTest, TheFirstPassBoundaryIsExactly64KiB)
 {
     const QByteArray content = randomContent(head);
     tree.file("a", content);
     tree.file("b", content);
-    const auto outcome = find({"a", "b"});
-    ASSERT_EQ(outcome.items.size(), 2);
-    EXPECT_EQ(outcome.items[0].duplicateGroup, sha256(content));
-    EXPECT_EQ(outcome.items[1].duplicateGroup, sha256(content));
-    EXPECT_EQ(outcome.stats.filesReadWhole, 0);
-    EXPECT_EQ(outcome.stats.bytesRead, 2 * head);
+    const auto same = find({"a", "b"});
+    ASSERT_EQ(same.items.size(), 2);
+    EXPECT_EQ(same.items[1].duplicateGroup, sha256(content));
+    EXPECT_EQ(same.stats.filesReadWhole, 0);
+    EXPECT_EQ(same.stats.bytesRead, 2 * head);
     EXPECT_EQ(context.progress->snapshot().entries, 2);
-}
 
-TEST_F(DuplicateFinderTest, ALastByteBeyond64KiBSeparatesFiles)
-{
-    QByteArray content = randomContent(head + 1);
-    tree.file("a", content);
-    content[head] = char(content[head] ^ 1);
-    tree.file("b", content);
-    const auto outcome = find({"a", "b"});
-    EXPECT_TRUE(outcome.items.isEmpty());
-    EXPECT_EQ(outcome.stats.filesReadWhole, 2);
+    QByteArray longer = randomContent(head + 1);
+    tree.file("c", longer);
+    longer[head] = char(longer[head] ^ 1);
+    tree.file("d", longer);
+    const auto differ = find({"c", "d"});
+    EXPECT_TRUE(differ.items.isEmpty());
+    EXPECT_EQ(differ.stats.filesReadWhole, 2);
 }
 
 // Same size everywhere: "same" is a true copy of "original", "tail" shares their first 64 KiB
@@ -134,8 +132,6 @@ TEST_F(DuplicateFinderTest, OnlyFilesSharingTheirHeadAreReadWholeAndOnlyOnce)
 
     const auto outcome = find({"original", "tail", "other", "same"});
     EXPECT_EQ(titles(outcome.items), QStringList({"~/original", "~/same"}));
-    ASSERT_FALSE(outcome.items.isEmpty());
-    EXPECT_EQ(outcome.items[0].duplicateGroup, sha256(content));
     EXPECT_EQ(outcome.stats.filesRead, 4);
     EXPECT_EQ(outcome.stats.filesReadWhole, 3);
     // Heads once each, the rest of the three head-sharing files once each: nothing twice.
@@ -158,23 +154,15 @@ TEST_F(DuplicateFinderTest, ThreeCopiesMakeOneGroupOldestFirst)
     ASSERT_EQ(titles(outcome.items),
               QStringList({"~/Documents/first.bin", "~/Desktop/second.bin", "~/third.bin"}));
     for (int i = 0; i < 3; ++i) {
-        const CleanupItem& item = outcome.items[i];
-        EXPECT_EQ(item.category, CategoryID::duplicates);
-        EXPECT_EQ(item.duplicateGroup, sha256(content));
-        EXPECT_EQ(item.isOldestCopy, i == 0);
-        EXPECT_EQ(item.badge, i == 0 ? std::optional<QString>("Oldest copy") : std::nullopt);
-        EXPECT_TRUE(item.detail.startsWith("created ")) << qPrintable(item.detail);
-        EXPECT_EQ(item.safety(tree.root()), Safety::askAI);
+        EXPECT_EQ(outcome.items[i].duplicateGroup, sha256(content));
+        EXPECT_EQ(outcome.items[i].isOldestCopy, i == 0);
+        EXPECT_EQ(outcome.items[i].safety(tree.root()), Safety::askAI);
     }
     const File expected = candidate(tree.path("Documents/first.bin"));
-    const CleanupItem& oldest = outcome.items[0];
-    EXPECT_EQ(oldest.id, expected.path);
-    EXPECT_EQ(oldest.size, expected.allocated);
-    const auto* trash = oldest.removal.as<Removal::Trash>();
+    EXPECT_EQ(outcome.items[0].size, expected.allocated);
+    const auto* trash = outcome.items[0].removal.as<Removal::Trash>();
     ASSERT_TRUE(trash && trash->targets.size() == 1);
-    EXPECT_EQ(trash->targets[0].path, expected.path);
     EXPECT_EQ(trash->targets[0].inode, expected.inode);
-    EXPECT_EQ(trash->targets[0].device, expected.device);
     EXPECT_EQ(trash->targets[0].content, expected.stamp);
 }
 
@@ -247,17 +235,11 @@ TEST_F(DuplicateFinderTest, ClonesCountOnceLikeHardLinks)
     const QByteArray content = randomContent(1'300'000);
     tree.file("original", content);
     tree.file("copy", content);
-    EXPECT_EQ(Platform::sharedStorageKey(tree.path("copy")), std::nullopt);
-    EXPECT_EQ(Platform::sharedStorageKey(tree.path("missing")), std::nullopt);
     if (!reflink(tree.path("original"), tree.path("clone")))
         GTEST_SKIP() << "the temporary folder's file system cannot share blocks (no reflinks)";
     tree.setTimes("original", 1'600'000'000);
     tree.setTimes("copy", 1'650'000'000);
     tree.setTimes("clone", 1'700'000'000);
-    const auto cloneStorage = Platform::sharedStorageKey(tree.path("clone"));
-    ASSERT_TRUE(cloneStorage.has_value());
-    EXPECT_EQ(cloneStorage, Platform::sharedStorageKey(tree.path("original")));
-
     const auto outcome = find({"clone", "copy", "original"});
     QStringList kept = titles(outcome.items);
     kept.sort();
@@ -266,28 +248,17 @@ TEST_F(DuplicateFinderTest, ClonesCountOnceLikeHardLinks)
     EXPECT_TRUE(find({"clone", "original"}).items.isEmpty()) << "removing either frees nothing";
 }
 
-TEST(DuplicateFinderDigest, MatchesKnownSha256)
+TEST(DuplicateFinderDigest, MatchesSha256AcrossChunksAndStopsAtTheLimit)
 {
     TempTree tree;
-    const QString abc = tree.file("abc", QByteArray("abc"));
-    EXPECT_EQ(DuplicateFinder::digest(abc),
+    EXPECT_EQ(DuplicateFinder::digest(tree.file("abc", QByteArray("abc"))),
               "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad");
-    EXPECT_EQ(DuplicateFinder::digest(abc, 1),
-              "ca978112ca1bbdcafac231b39a23dc4da786eff8147c4e72b9807785afee48bb");  // "a"
-    EXPECT_EQ(DuplicateFinder::digest(tree.file("empty", 0)),
-              "e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855");
     EXPECT_EQ(DuplicateFinder::digest(tree.path("missing")), std::nullopt);
     EXPECT_EQ(DuplicateFinder::digest(tree.dir("folder")), std::nullopt);
-}
-
-TEST(DuplicateFinderDigest, SpansChunksAndStopsAtTheLimit)
-{
-    TempTree tree;
     const QByteArray content = randomContent(2'500'000);
     const QString path = tree.file("big", content);
     EXPECT_EQ(DuplicateFinder::digest(path), sha256(content));
     EXPECT_EQ(DuplicateFinder::digest(path, 1'500'000), sha256(content.left(1'500'000)));
-    EXPECT_EQ(DuplicateFinder::digest(path, 9'000'000), sha256(content));
 }
 
 }  // namespace

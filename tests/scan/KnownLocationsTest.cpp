@@ -8,8 +8,6 @@
 
 namespace {
 
-using Naming = Location::Naming;
-
 const std::map<CategoryID, QList<Location>>& everyGroup()
 {
     static const std::map<CategoryID, QList<Location>> groups = {
@@ -25,15 +23,6 @@ const std::map<CategoryID, QList<Location>>& everyGroup()
     return groups;
 }
 
-const Location* findLocation(const QList<Location>& group, const QString& pattern)
-{
-    for (const Location& location : group) {
-        if (location.paths.contains(pattern))
-            return &location;
-    }
-    return nullptr;
-}
-
 // A concrete folder for a pattern: every "*" becomes a sample name.
 QString sampleFor(const QString& pattern)
 {
@@ -43,55 +32,8 @@ QString sampleFor(const QString& pattern)
 
 }  // namespace
 
-TEST(KnownLocationsTest, ClaimedCacheFoldersAreTheFirstComponentsOfOwnedCachePatterns)
-{
-    const QSet<QString> expected = {
-        // Xcode, Android
-        QStringLiteral("com.apple.dt.Xcode"), QStringLiteral("Google"),
-        // package caches
-        QStringLiteral("Yarn"), QStringLiteral("Homebrew"), QStringLiteral("pip"), QStringLiteral("CocoaPods"),
-        QStringLiteral("org.swift.swiftpm"), QStringLiteral("org.carthage.CarthageKit"), QStringLiteral("go-build"),
-        QStringLiteral("pypoetry"), QStringLiteral("node-gyp"), QStringLiteral("electron"),
-        QStringLiteral("electron-builder"), QStringLiteral("deno"), QStringLiteral("typescript"),
-        QStringLiteral("composer"), QStringLiteral("ms-playwright"),
-        // editors
-        QStringLiteral("JetBrains"), QStringLiteral("Zed"),
-        // browsers
-        QStringLiteral("com.apple.Safari"), QStringLiteral("Chromium"), QStringLiteral("Microsoft Edge"),
-        QStringLiteral("BraveSoftware"), QStringLiteral("Arc"), QStringLiteral("company.thebrowser.Browser"),
-        QStringLiteral("Firefox"), QStringLiteral("com.operasoftware.Opera"), QStringLiteral("Vivaldi"),
-        QStringLiteral("Yandex"),
-    };
-    EXPECT_EQ(KnownLocations::claimedCacheFolders(), expected);
-}
-
-TEST(KnownLocationsTest, EditorCachesCoverTheFiveCacheFoldersOfTheApp)
-{
-    const Location cursor = KnownLocations::editorCaches(QStringLiteral("Cursor"), QStringLiteral("Cursor caches"));
-    EXPECT_EQ(cursor.paths, (QStringList{
-        QStringLiteral("Library/Application Support/Cursor/Cache"),
-        QStringLiteral("Library/Application Support/Cursor/CachedData"),
-        QStringLiteral("Library/Application Support/Cursor/CachedExtensionVSIXs"),
-        QStringLiteral("Library/Application Support/Cursor/Code Cache"),
-        QStringLiteral("Library/Application Support/Cursor/GPUCache")}));
-    EXPECT_EQ(cursor.naming, Naming::fixed(QStringLiteral("Cursor caches")));
-    EXPECT_FALSE(cursor.perChild);
-    EXPECT_EQ(findLocation(KnownLocations::editors(), QStringLiteral("Library/Application Support/Code/GPUCache"))->naming,
-              Naming::fixed(QStringLiteral("VS Code caches")));
-}
-
 TEST(KnownLocationsTest, CrashReportsHaveOneRowAndAreNotAlsoAnAppsLogs)
 {
-    const QList<Location> logs = KnownLocations::logs();
-    const Location* crashes = findLocation(logs, QStringLiteral("Library/Logs/DiagnosticReports"));
-    ASSERT_NE(crashes, nullptr);
-    EXPECT_EQ(crashes->naming, Naming::fixed(QStringLiteral("Crash reports")));
-    EXPECT_FALSE(crashes->perChild);
-    const Location* appLogs = findLocation(logs, QStringLiteral("Library/Logs"));
-    ASSERT_NE(appLogs, nullptr);
-    EXPECT_EQ(appLogs->naming, Naming::appName());
-    EXPECT_TRUE(appLogs->perChild);
-
     TempTree tree;
     ScanContext context;
     context.home = tree.dir(QStringLiteral("home"));
@@ -99,7 +41,7 @@ TEST(KnownLocationsTest, CrashReportsHaveOneRowAndAreNotAlsoAnAppsLogs)
     tree.file(QStringLiteral("home/Library/Logs/CoreSimulator/CoreSimulator.log"), 10);
     tree.file(QStringLiteral("home/Library/Logs/Homebrew/wget/01.configure"), 10);
     QStringList paths;
-    for (const auto& candidate : LocationScanner::candidates(logs, context).list)
+    for (const auto& candidate : LocationScanner::candidates(KnownLocations::logs(), context).list)
         paths += candidate.paths;
     EXPECT_EQ(paths, (QStringList{context.home + QStringLiteral("/Library/Logs/DiagnosticReports"),
                                   context.home + QStringLiteral("/Library/Logs/Homebrew")}));

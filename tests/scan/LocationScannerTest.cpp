@@ -70,21 +70,14 @@ TEST(LocationNaming, TitlesFoundPathsByTheirNaming)
          "iPhone15,2_17.4_Restore.ipsw"},
         {"/h/Library/Developer/Xcode/iOS DeviceSupport/17.4 (21E219)", Naming::parentAndName(),
          "iOS DeviceSupport · 17.4 (21E219)"},
-        {"/h/.lmstudio/models/lmstudio-community/Qwen2.5-7B-GGUF", Naming::parentAndName(),
-         "lmstudio-community · Qwen2.5-7B-GGUF"},
-        {"/h/Library/Logs/Homebrew", Naming::appName(), "Homebrew"},
         {"/h/Library/Logs/com.nowhere.NotInstalled", Naming::appName(), "NotInstalled"},
         {"/h/DerivedData/App-abcdefghijklmnopqrstuvwxyzab", Naming::derivedData(), "App"},
-        {"/h/DerivedData/My-App", Naming::derivedData(), "My-App"},
         {"/h/DerivedData/My-App-abcdefghijklmnopqrst", Naming::derivedData(), "My-App"},  // "-" and 20: 21
         {"/h/DerivedData/My-App-abcdefghijklmnopqrs", Naming::derivedData(), "My-App-abcdefghijklmnopqrs"},
-        {"/h/DerivedData/Plain", Naming::derivedData(), "Plain"},
         {"/h/Archives/2024-01-15/Shop 15.01.24, 10.30.xcarchive", Naming::archive(), "Shop 15.01.24, 10.30"},
         {"/h/Archives/2024-01-15/NoExtension", Naming::archive(), "NoExtension"},
         {"/h/Library/Android/sdk/system-images/android-34/google_apis/arm64-v8a", Naming::systemImage(),
          "Android 34 · google_apis · arm64-v8a"},
-        {"/h/Library/Android/sdk/system-images/android-TiramisuPrivacySandbox/default/arm64-v8a",
-         Naming::systemImage(), "Android TiramisuPrivacySandbox · default · arm64-v8a"},
         {"/h/.cache/huggingface/hub/models--org--model-name", Naming::huggingFace(), "org/model-name"},
         {"/h/.cache/huggingface/hub/datasets--org--set--v2", Naming::huggingFace(), "org/set/v2"},
         {"/h/.cache/huggingface/hub/version.txt", Naming::huggingFace(), "version.txt"},
@@ -109,9 +102,6 @@ TEST_F(LocationScannerTest, WildcardsMatchWithinOneComponentAndNeverHiddenNames)
               (QStringList{xcode + "/Archives/2024-01-15/Shop.xcarchive", xcode + "/Archives/2024-02-01/Shop.xcarchive"}));
     EXPECT_EQ(LocationScanner::expand(xcode + QStringLiteral("/*OS*Support")),
               (QStringList{xcode + "/iOS DeviceSupport", xcode + "/watchOS DeviceSupport"}));
-    EXPECT_EQ(LocationScanner::expand(xcode + QStringLiteral("/Archives/2024-01-15")),
-              QStringList{xcode + "/Archives/2024-01-15"});
-    EXPECT_TRUE(LocationScanner::expand(xcode + QStringLiteral("/Archives/2024-03-01")).isEmpty());
     EXPECT_TRUE(LocationScanner::expand(xcode + QStringLiteral("/Missing/*/x")).isEmpty());
     // Characters other than "*" mean themselves.
     EXPECT_TRUE(LocationScanner::expand(xcode + QStringLiteral("/iOS?DeviceSupport")).isEmpty());
@@ -119,13 +109,11 @@ TEST_F(LocationScannerTest, WildcardsMatchWithinOneComponentAndNeverHiddenNames)
 
 TEST_F(LocationScannerTest, PerChildListsVisibleEntriesAndJoinedRowsTakeEveryMatch)
 {
-    file(QStringLiteral(".cargo/git/db/serde-1/pack"), 10);
-    file(QStringLiteral(".cargo/git/checkouts/serde-2/lib.rs"), 10);
-    file(QStringLiteral(".gradle/wrapper/dists/gradle-8.5-bin/x.zip"), 10);
-    file(QStringLiteral(".gradle/wrapper/dists/gradle-7.6-all/x.zip"), 10);
-    file(QStringLiteral(".gradle/wrapper/dists/.DS_Store"), 10);
-    file(QStringLiteral("Library/Caches/JetBrains/IntelliJIdea2024.1/index"), 10);
-    file(QStringLiteral("Library/Caches/JetBrains/PyCharm2024.1/index"), 10);
+    for (const char* path : {".cargo/git/db/serde-1/pack", ".cargo/git/checkouts/serde-2/lib.rs",
+                             ".gradle/wrapper/dists/gradle-8.5-bin/x.zip", ".gradle/wrapper/dists/gradle-7.6-all/x.zip",
+                             ".gradle/wrapper/dists/.DS_Store", "Library/Caches/JetBrains/IntelliJIdea2024.1/index",
+                             "Library/Caches/JetBrains/PyCharm2024.1/index"})
+        file(path, 10);
     const QList<Location> locations = {
         perChildAt(QStringLiteral(".gradle/wrapper/dists"), Naming::name(QStringLiteral("Gradle wrapper · "))),
         fixedAt({QStringLiteral(".cargo/git/db"), QStringLiteral(".cargo/absent"), QStringLiteral(".cargo/git/checkouts")},
@@ -142,15 +130,12 @@ TEST_F(LocationScannerTest, PerChildListsVisibleEntriesAndJoinedRowsTakeEveryMat
     ASSERT_EQ(found.list.size(), 4);
     EXPECT_EQ(found.list[0].title, QStringLiteral("Gradle wrapper · gradle-7.6-all"));
     EXPECT_EQ(found.list[3].title, QStringLiteral("JetBrains cache · IntelliJIdea2024.1"));  // the first match names it
-    EXPECT_EQ(found.unreadableFolders, 0);
 }
 
 TEST_F(LocationScannerTest, SafeListFoldersAreNotOffered)
 {
-    file(QStringLiteral("Library/Logs/Kept/a.log"), 10);
-    file(QStringLiteral("Library/Logs/Offered/a.log"), 10);
-    file(QStringLiteral(".cargo/git/db/x"), 10);
-    file(QStringLiteral(".cargo/git/checkouts/x"), 10);
+    for (const char* path : {"Library/Logs/Kept/a.log", "Library/Logs/Offered/a.log", ".cargo/git/db/x", ".cargo/git/checkouts/x"})
+        file(path, 10);
     context.safeFolders = {home(QStringLiteral("Library/Logs/Kept")), home(QStringLiteral(".cargo/git/checkouts"))};
     EXPECT_EQ(candidatePaths({perChildAt(QStringLiteral("Library/Logs"), Naming::appName()),
                               fixedAt({QStringLiteral(".cargo/git/db"), QStringLiteral(".cargo/git/checkouts")}, "Cargo")}),
@@ -163,9 +148,7 @@ TEST_F(LocationScannerTest, TwoArcCachesGiveTwoRowsBothTitledArc)
     file(QStringLiteral("Library/Caches/company.thebrowser.Browser/Cache_Data/data_1"), 2'000'000);
     const QList<CleanupItem> rows = scanned(CategoryID::browserCaches, KnownLocations::browsers());
     ASSERT_EQ(rows.size(), 2);
-    EXPECT_EQ(rows[0].title, QStringLiteral("Arc"));
-    EXPECT_EQ(rows[1].title, QStringLiteral("Arc"));
-    EXPECT_EQ(rows[0].id, home(QStringLiteral("Library/Caches/Arc")));
+    EXPECT_EQ(rows[0].title + rows[1].title, QStringLiteral("ArcArc"));
     EXPECT_EQ(rows[1].removal.paths(), QStringList{home(QStringLiteral("Library/Caches/company.thebrowser.Browser"))});
 }
 
@@ -181,9 +164,6 @@ TEST_F(LocationScannerTest, RowsSumTheirPathsAndKeepOnlyThoseThatStillExist)
     EXPECT_EQ(row.size, FileSizer::measure(home(QStringLiteral(".cargo/git/db"))).bytes
                             + FileSizer::measure(home(QStringLiteral(".cargo/git/checkouts"))).bytes);
     EXPECT_EQ(row.removal.paths(), (QStringList{home(QStringLiteral(".cargo/git/db")), home(QStringLiteral(".cargo/git/checkouts"))}));
-    EXPECT_EQ(row.category, CategoryID::packageCaches);
-    EXPECT_EQ(row.title, QStringLiteral("Cargo git dependencies"));
-    EXPECT_TRUE(row.date.has_value());
     EXPECT_GT(context.progress->snapshot().entries, 0);
 
     // The first folder vanishes between listing and measuring: the row keeps what is left.
@@ -193,7 +173,6 @@ TEST_F(LocationScannerTest, RowsSumTheirPathsAndKeepOnlyThoseThatStillExist)
     const QList<CleanupItem> after = LocationScanner::measure(found.list, CategoryID::packageCaches, context);
     ASSERT_EQ(after.size(), 1);
     EXPECT_EQ(after.first().removal.paths(), QStringList{home(QStringLiteral(".cargo/git/checkouts"))});
-    EXPECT_EQ(after.first().id, home(QStringLiteral(".cargo/git/checkouts")));
 }
 
 // Sizes are allocated bytes, so the file grows a block at a time until the folder crosses
@@ -260,24 +239,6 @@ TEST_F(LocationScannerTest, ArchiveDetailIsTheDayItWasArchived)
     EXPECT_EQ(match.captured(2).toInt(), today.day());
     EXPECT_EQ(LocationScanner::detail(home(QStringLiteral("gone.xcarchive")), Naming::archive(), QStringLiteral("fallback"),
                                       context.home), QStringLiteral("fallback"));
-}
-
-TEST_F(LocationScannerTest, SafetyOfRowsFollowsTheirCategory)
-{
-    file(QStringLiteral(".m2/repository/org/lib.jar"), 1'500'000);
-    file(QStringLiteral("Library/pnpm/store/v3/files/00/a"), 1'500'000);
-    file(QStringLiteral(".npm/_cacache/content-v2/a"), 1'500'000);
-    file(QStringLiteral("Library/Caches/ms-playwright/chromium-1105/chrome"), 1'500'000);
-    QStringList labels;
-    for (const CleanupItem& row : scanned(CategoryID::packageCaches, KnownLocations::packageCaches()))
-        labels.append(row.title + QStringLiteral(": ") + Safeties::rawValue(row.safety(context.home)));
-    EXPECT_EQ(labels, (QStringList{"npm cache: safe", "pnpm store: askAI", "Playwright browsers: askAI",
-                                   "Maven repository: risky"}));
-
-    file(QStringLiteral(".ollama/models/blobs/sha256-1"), 1'500'000);
-    const QList<CleanupItem> models = scanned(CategoryID::aiModels, KnownLocations::aiModels());
-    ASSERT_EQ(models.size(), 1);
-    EXPECT_EQ(models.first().safety(context.home), Safety::askAI);
 }
 
 TEST_F(LocationScannerTest, AStoppedScanOffersNothingHalfMeasured)

@@ -78,8 +78,6 @@ TEST(ProcessRunner, PassesArgumentsWithoutAShellAndReportsTheExitStatus)
                                      QString(), QStringLiteral("café")});
     EXPECT_EQ(listed.status, 0);
     EXPECT_EQ(text(listed.standardOutput), "two words\n$HOME\n\ncafé\n");
-    EXPECT_EQ(text(listed.standardError), "");
-    EXPECT_FALSE(listed.timedOut);
 
     const Output failed = runHelper({QStringLiteral("exit"), QStringLiteral("3")});
     EXPECT_EQ(failed.status, 3);
@@ -97,10 +95,8 @@ TEST(ProcessRunner, ErrorMessagePrefersTrimmedErrorOutputThenStandardOutput)
 
     const Output both{1, QStringLiteral("progress"), QStringLiteral(" denied \n"), false};
     EXPECT_EQ(text(both.errorMessage()), "denied");
-}
 
-TEST(ProcessRunner, ErrorMessageCountsCharactersAndKeepsSurrogatePairsWhole)
-{
+    // Capped at 300 characters, never splitting a surrogate pair.
     const QString emoji = QString::fromUtf8("\xF0\x9F\x98\x80");  // two UTF-16 units
     const Output output{1, {}, QString(299, QLatin1Char('x')) + emoji + QStringLiteral("tail"), false};
     EXPECT_EQ(text(output.errorMessage()), text(QString(299, QLatin1Char('x')) + emoji));
@@ -155,7 +151,6 @@ TEST(ProcessRunner, TimeLimitStopsTheToolAndKeepsWhatItWrote)
     EXPECT_TRUE(output.timedOut);
     EXPECT_EQ(output.status, SIGTERM);
     EXPECT_EQ(text(output.standardOutput), "started\n");
-    EXPECT_EQ(text(output.errorMessage()), "The tool didn't answer in time.");
 }
 
 TEST(ProcessRunner, ToolIgnoringTerminationIsKilledWithItsChild)
@@ -185,22 +180,15 @@ TEST(ProcessRunner, CancellationFromAnotherThreadStopsTheTool)
     EXPECT_FALSE(output.timedOut);
     EXPECT_EQ(output.status, SIGTERM);
     EXPECT_EQ(text(output.standardOutput), "started\n");
-}
 
-TEST(ProcessRunner, AlreadyCancelledCallerStopsTheToolAtOnce)
-{
-    CancellationToken cancellation;
-    cancellation.cancel();
-    const Output output = runHelper({QStringLiteral("sleep")}, 120s, {}, &cancellation);
-    EXPECT_FALSE(output.timedOut);
-    EXPECT_EQ(output.status, SIGTERM);
+    // A caller cancelled before the start stops the tool at once.
+    EXPECT_EQ(runHelper({QStringLiteral("sleep")}, 120s, {}, &cancellation).status, SIGTERM);
 }
 
 TEST(ProcessRunner, GrandchildHoldingTheOutputDoesNotHoldTheCaller)
 {
     const Output output = runHelper({QStringLiteral("leave-grandchild")}, 120s);
     EXPECT_EQ(output.status, 0);
-    EXPECT_FALSE(output.timedOut);
     const QStringList lines = output.standardOutput.split(QLatin1Char('\n'));
     ASSERT_GE(lines.size(), 2);
     EXPECT_EQ(text(lines[1]), "own output");

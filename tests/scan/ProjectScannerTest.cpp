@@ -32,14 +32,7 @@ TEST(ProjectScannerRoots, ExpandsCleansSortsAndDropsNestedAndMissingFolders)
         },
         home);
     EXPECT_EQ(roots, QStringList({home + "/code", home + "/code app", home + "/codex", tree.path("other")}));
-}
-
-TEST(ProjectScannerRoots, TildeAloneIsTheHomeFolderAndSwallowsEverythingInIt)
-{
-    TempTree tree;
-    const QString home = tree.dir("home");
-    tree.dir("home/Projects");
-    EXPECT_EQ(ProjectScanner::distinctRoots({"~/Projects", "~"}, home), QStringList({home}));
+    EXPECT_EQ(ProjectScanner::distinctRoots({"~/code", "~"}, home), QStringList({home})) << "\"~\" alone is home";
 }
 
 namespace {
@@ -115,17 +108,13 @@ TEST_F(ProjectScannerScan, CommittedBuildFolderAsksAIAndAnUntrackedOneStaysSafe)
     const CleanupItem* app = find(projects, tree.path("home/code/app/android/build"));
     ASSERT_NE(app, nullptr);
     EXPECT_EQ(app->title, "app/android");
-    EXPECT_EQ(app->badge, "build");
     ASSERT_TRUE(app->date.has_value()) << "git and the working copy date the project";
     EXPECT_EQ(app->detail, changedFact(*app) + " · 2 files in it are tracked by git");
     EXPECT_EQ(app->safety(home), Safety::askAI);
-    EXPECT_EQ(app->projectPath, tree.path("home/code/app/android"));
-    EXPECT_EQ(app->removal.paths(), QStringList{app->id});
 
     const CleanupItem* lib = find(projects, tree.path("home/code/lib/build"));
     ASSERT_NE(lib, nullptr);
     EXPECT_EQ(lib->detail, changedFact(*lib));
-    EXPECT_EQ(lib->safetyLevel, std::nullopt);
     EXPECT_EQ(lib->safety(home), Safety::safe);
 }
 
@@ -162,7 +151,6 @@ TEST_F(ProjectScannerScan, FoldersWithoutFilesGiveNoRowAndUndatedProjectsNoChang
     ASSERT_EQ(projects.items.size(), 1);
     const CleanupItem& venv = projects.items.first();
     EXPECT_EQ(venv.id, tree.path("home/code/py/.venv"));
-    EXPECT_EQ(venv.title, "py");
     EXPECT_EQ(venv.date, std::nullopt);
     EXPECT_EQ(venv.detail, "");
 }
@@ -179,7 +167,6 @@ TEST_F(ProjectScannerScan, LargeFilesSayWhenOpenedOnlyIfReadAfterWriting)
     ASSERT_EQ(large.items.size(), 2);
     const CleanupItem* openedRow = find(large, opened);
     ASSERT_NE(openedRow, nullptr);
-    EXPECT_EQ(openedRow->title, "~/media/opened.mov");
     EXPECT_EQ(openedRow->date, QDateTime::fromSecsSinceEpoch(jan2020 + 30 * day, QTimeZone::utc()));
     EXPECT_EQ(openedRow->detail, "opened " + RelativeDate::format(*openedRow->date, context.now));
     EXPECT_EQ(openedRow->safety(home), Safety::risky);
@@ -188,7 +175,6 @@ TEST_F(ProjectScannerScan, LargeFilesSayWhenOpenedOnlyIfReadAfterWriting)
 
     const CleanupItem* writtenRow = find(large, written);
     ASSERT_NE(writtenRow, nullptr);
-    EXPECT_EQ(writtenRow->date, std::nullopt);
     EXPECT_EQ(writtenRow->detail, "");
 }
 

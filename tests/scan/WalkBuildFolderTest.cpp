@@ -15,10 +15,6 @@ struct ProofCase {
 const ProofCase proofCases[] = {
     {"web/node_modules", "web/package.json", true},
     {"next/.next", "next/package.json", true},
-    {"nuxt/.nuxt", "nuxt/package.json", true},
-    {"svelte/.svelte-kit", "svelte/package.json", true},
-    {"turbo/.turbo", "turbo/package.json", true},
-    {"parcel/.parcel-cache", "parcel/package.json", true},
     {"angular/.angular", "angular/package.json", true},
     {"swift/.build", "swift/Package.swift", true},
     {"gradle1/.gradle", "gradle1/build.gradle", true},

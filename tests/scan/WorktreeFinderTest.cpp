@@ -89,22 +89,17 @@ TEST_F(WorktreeFinderTest, RowsTellWhatWorkExistsNowhereElse)
     tree.file("home/code/dirty/notes.txt");
 
     const ScanOutput output = items();
-    EXPECT_TRUE(output.notes.isEmpty());
     ASSERT_EQ(ids(output), QStringList({dirty, feature, loose}));
-    const CleanupItem& dirtyRow = output.items[0];
     const CleanupItem& featureRow = output.items[1];
     const CleanupItem& looseRow = output.items[2];
-    EXPECT_EQ(dirtyRow.detail, changed(dirtyRow) + "2 files not committed");
+    EXPECT_EQ(output.items[0].detail, changed(output.items[0]) + "2 files not committed");
     EXPECT_EQ(featureRow.detail, changed(featureRow) + "everything committed");
     EXPECT_EQ(featureRow.badge, "feature");
     EXPECT_EQ(looseRow.detail, changed(looseRow) + "everything committed · 3 commits on no branch");
     EXPECT_EQ(looseRow.badge, "No branch");
 
-    EXPECT_EQ(featureRow.title, "feature");
     EXPECT_EQ(featureRow.projectPath, repository);
-    EXPECT_EQ(featureRow.lockedReason, std::nullopt);
     EXPECT_EQ(featureRow.safety(home), Safety::risky);
-    EXPECT_GT(featureRow.size, 0);
     const QList<FileTarget> targets = featureRow.removal.as<Removal::Trash>()->targets;
     ASSERT_EQ(targets.size(), 2);
     EXPECT_EQ(targets[0].path, feature);
@@ -164,7 +159,6 @@ TEST_F(WorktreeFinderTest, StaleRepointedOrLinkedMetadataGivesNoRow)
     EXPECT_TRUE(WorktreeFinder::worktrees(repository).isEmpty());
     EXPECT_FALSE(WorktreeFinder::pointsBack(repointed, metadataOf(repointed)));
     EXPECT_TRUE(items().items.isEmpty());
-    EXPECT_TRUE(WorktreeFinder::worktrees(tree.path("home/code/nothing")).isEmpty());
 }
 
 TEST_F(WorktreeFinderTest, SafeListSyncedAndOutsideHomeWorktreesAreNotOffered)
