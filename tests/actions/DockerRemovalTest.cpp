@@ -145,12 +145,4 @@ TEST_F(DockerRemovalTest, PrunesTheWholeBuildCache)
     EXPECT_TRUE(wasCalled(QStringLiteral("builder prune --all --force")));
 }
 
-TEST(DockerTime, ReadsDockersNanosecondTimes)
-{
-    const auto time = DockerRemoval::parseTime(QStringLiteral("2024-05-30T08:15:02.123456789Z"));
-    ASSERT_TRUE(time.has_value());
-    EXPECT_EQ(time->toMSecsSinceEpoch(), QDateTime::fromString(QStringLiteral("2024-05-30T08:15:02.123Z"), Qt::ISODateWithMs).toMSecsSinceEpoch());
-    EXPECT_FALSE(DockerRemoval::parseTime(QStringLiteral("yesterday")).has_value());
-}
-
 }  // namespace

@@ -22,20 +22,18 @@ protected:
         xcrun.answerWithFixture(listRuntimes, QStringLiteral("simctl/runtimes.json"));
     }
 
+    RemovalOutcome remove(Removal removal) const
+    {
+        CleanupItem item;
+        item.category = CategoryID::simulators;
+        item.removal = std::move(removal);
+        return Remover::remove(item, environment);
+    }
     RemovalOutcome removeDevice(const QString& udid, const QString& lastUsed) const
     {
-        CleanupItem item;
-        item.category = CategoryID::simulators;
-        item.removal = Removal{Removal::SimulatorDevice{udid, QDateTime::fromString(lastUsed, Qt::ISODate)}};
-        return Remover::remove(item, environment);
+        return remove(Removal{Removal::SimulatorDevice{udid, QDateTime::fromString(lastUsed, Qt::ISODate)}});
     }
-    RemovalOutcome removeRuntime(const QString& id) const
-    {
-        CleanupItem item;
-        item.category = CategoryID::simulators;
-        item.removal = Removal{Removal::SimulatorRuntime{id}};
-        return Remover::remove(item, environment);
-    }
+    RemovalOutcome removeRuntime(const QString& id) const { return remove(Removal{Removal::SimulatorRuntime{id}}); }
     bool deleted(const QString& tail) const
     {
         return xcrun.calls().contains(QStringLiteral("simctl ") + tail);

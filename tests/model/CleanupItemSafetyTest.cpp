@@ -91,27 +91,25 @@ TEST(CleanupItemSafety, FixedLabelsIgnoreTheScannersVerdict)
 
 TEST(CleanupItemSafety, ScannersVerdictWinsWhereTheCategoryConsultsIt)
 {
+    // Without a verdict each category has its own default.
     EXPECT_EQ(item(CategoryID::projects, "/p/node_modules").safety(home), Safety::safe);
-    EXPECT_EQ(item(CategoryID::projects, "/p/build", Safety::askAI).safety(home), Safety::askAI);
     EXPECT_EQ(item(CategoryID::worktrees, "/p/wt").safety(home), Safety::risky);
-    EXPECT_EQ(item(CategoryID::worktrees, "/p/wt", Safety::askAI).safety(home), Safety::askAI);
     EXPECT_EQ(item(CategoryID::aiAgents, "/Users/a/.claude/x").safety(home), Safety::askAI);
-    EXPECT_EQ(item(CategoryID::aiAgents, "/Users/a/.claude/x", Safety::safe).safety(home), Safety::safe);
-    EXPECT_EQ(item(CategoryID::xcode, "/Users/a/Library/Developer/Xcode/Archives/a", Safety::askAI).safety(home), Safety::askAI);
-    // A temporary item's own verdict counts even outside the home folder.
-    EXPECT_EQ(item(CategoryID::temporary, "/tmp/x", Safety::risky).safety(home), Safety::risky);
+    const PathCase cases[] = {
+        {CategoryID::projects, "/p/build", Safety::askAI},
+        {CategoryID::worktrees, "/p/wt", Safety::askAI},
+        {CategoryID::aiAgents, "/Users/a/.claude/x", Safety::safe},
+        {CategoryID::xcode, "/Users/a/Library/Developer/Xcode/Archives/a", Safety::askAI},
+        {CategoryID::temporary, "/tmp/x", Safety::risky},  // counts even outside the home folder
+    };
+    for (const PathCase& c : cases)
+        EXPECT_EQ(item(c.category, QString::fromUtf8(c.path), c.expected).safety(home), c.expected) << c.path;
 }
 
-TEST(CleanupItemSafety, ItemsWithoutTargetsUseAnEmptyPath)
+TEST(CleanupItemSafety, ItemsWithoutTargetsAreSafeAndLeftoversAskWhenTheyHoldPersonalData)
 {
-    EXPECT_EQ(item(CategoryID::xcode).safety(home), Safety::safe);
-    EXPECT_EQ(item(CategoryID::devices).safety(home), Safety::safe);
-    EXPECT_EQ(item(CategoryID::temporary).safety(home), Safety::safe);
-    EXPECT_EQ(item(CategoryID::packageCaches).safety(home), Safety::safe);
-}
-
-TEST(CleanupItemSafety, LeftoversAskWhenTheyHoldPersonalData)
-{
+    for (CategoryID category : {CategoryID::xcode, CategoryID::devices, CategoryID::temporary, CategoryID::packageCaches})
+        EXPECT_EQ(item(category).safety(home), Safety::safe);
     CleanupItem leftover = item(CategoryID::leftovers, "/Users/a/Library/Application Support/com.x.app");
     EXPECT_EQ(leftover.safety(home), Safety::safe);
     leftover.userData = {"/Users/a/Library/Application Support/com.x.app/Documents"};
@@ -147,30 +145,26 @@ TEST(CleanupItem, MovingNeedsPathsNoLockAndNotAWorktree)
     locked.lockedReason = QStringLiteral("Running.");
     EXPECT_FALSE(locked.canMoveToAnotherDisk());
     EXPECT_FALSE(item(CategoryID::worktrees, "/Users/a/wt").canMoveToAnotherDisk());
-    CleanupItem docker = dockerItem({DockerOperation::BuildCache{}});
-    EXPECT_FALSE(docker.canMoveToAnotherDisk());
+    EXPECT_FALSE(dockerItem({DockerOperation::BuildCache{}}).canMoveToAnotherDisk());
 }
 
 TEST(CleanupItem, EqualityAndHashCoverNestedFields)
 {
-    CleanupItem a = item(CategoryID::projects, "/p/node_modules");
+    const auto expectDiffer = [](const CleanupItem& a, const CleanupItem& b) {
+        EXPECT_NE(a, b);
+        EXPECT_NE(qHash(a), qHash(b));
+    };
+    const CleanupItem a = item(CategoryID::projects, "/p/node_modules");
     CleanupItem b = a;
-    EXPECT_EQ(a, b);
     EXPECT_EQ(qHash(a), qHash(b));
-    b.removal = Removal::trash({target("/p/node_modules")});
-    auto t = b.removal.as<Removal::Trash>()->targets;
-    t[0].content = FileTarget::ContentStamp{1, 2};
-    b.removal = Removal::trash(t);
-    EXPECT_NE(a, b);
-    EXPECT_NE(qHash(a), qHash(b));
+    FileTarget stamped = target("/p/node_modules");
+    stamped.content = FileTarget::ContentStamp{1, 2};
+    b.removal = Removal::trash({stamped});
+    expectDiffer(a, b);
     CleanupItem c = a;
     c.isOldestCopy = true;
-    EXPECT_NE(a, c);
-    EXPECT_NE(qHash(a), qHash(c));
-    CleanupItem d = dockerItem({DockerOperation::Image{"i", {"c1"}, {}}});
-    CleanupItem e = dockerItem({DockerOperation::Image{"i", {"c2"}, {}}});
-    EXPECT_NE(d, e);
-    EXPECT_NE(qHash(d), qHash(e));
+    expectDiffer(a, c);
+    expectDiffer(dockerItem({DockerOperation::Image{"i", {"c1"}, {}}}), dockerItem({DockerOperation::Image{"i", {"c2"}, {}}}));
 }
 
 TEST(Removal, PathsOnlyForTrashRemovals)

@@ -78,30 +78,9 @@ TEST(Platform, ProcessStartTimeIsStableAndTellsProcessesApart)
     std::this_thread::sleep_for(50ms);  // start times tick in hundredths of a second here
     Sleeper second;
     ASSERT_TRUE(second.started());
-    const std::optional<qint64> secondStart = Platform::processStartTime(second.pid());
-    ASSERT_TRUE(secondStart.has_value());
-    EXPECT_GT(*secondStart, *firstStart);
+    EXPECT_GT(Platform::processStartTime(second.pid()).value_or(0), *firstStart);
 
     EXPECT_EQ(Platform::processStartTime(0x7ffffff0), std::nullopt);
-}
-
-TEST(Platform, RunningExecutablesIncludeThisProgram)
-{
-    const QString self = QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath();
-    EXPECT_TRUE(Platform::runningExecutables().contains(self)) << self.toStdString();
-}
-
-TEST(Platform, VolumeCapacitiesAreReadableAndConsistent)
-{
-    const std::optional<qint64> available = Platform::availableCapacity(QStringLiteral("/tmp"));
-    const std::optional<qint64> total = Platform::totalCapacity(QStringLiteral("/tmp"));
-    ASSERT_TRUE(available.has_value());
-    ASSERT_TRUE(total.has_value());
-    EXPECT_GT(*available, 0);
-    EXPECT_LE(*available, *total);
-
-    EXPECT_EQ(Platform::availableCapacity(QStringLiteral("/no/such/folder")), std::nullopt);
-    EXPECT_EQ(Platform::totalCapacity(QStringLiteral("/no/such/folder")), std::nullopt);
 }
 
 TEST(Platform, BirthTimeIsRecentForANewFileAndReadsLinksThemselves)
@@ -116,14 +95,6 @@ TEST(Platform, BirthTimeIsRecentForANewFileAndReadsLinksThemselves)
         EXPECT_TRUE(Platform::birthTime(dangling).has_value());
     }
     EXPECT_EQ(Platform::birthTime(tree.path(QStringLiteral("gone"))), std::nullopt);
-}
-
-TEST(Platform, MachineDescriptionNamesSystemAndProcessor)
-{
-    const QStringList parts = Platform::machineDescription().split(QStringLiteral(" on "));
-    ASSERT_EQ(parts.size(), 2);
-    EXPECT_FALSE(parts[0].trimmed().isEmpty());
-    EXPECT_FALSE(parts[1].trimmed().isEmpty());
 }
 
 TEST(Platform, PrivatePipeEndsAreClosedOnExec)

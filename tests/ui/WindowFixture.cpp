@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QLabel>
 #include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
@@ -43,6 +44,22 @@ void WindowFixture::start(std::vector<std::shared_ptr<const Scanner>> scanners,
     m_window = std::make_unique<MainWindow>(m_model.get());
     m_window->show();
     m_model->refreshSystemState();
+}
+
+CategoryPage* WindowFixture::open(CategoryID category, QList<CleanupItem> rows,
+                                  const std::function<void(AppModel::Services&)>& adjust)
+{
+    start({scannerOf(category, std::move(rows))}, adjust);
+    if (!scan())
+        return nullptr;
+    show(category);
+    return m_window->categoryPage();
+}
+
+CleanupItem WindowFixture::addFile(CategoryID category, const QString& relative, qint64 size)
+{
+    m_home.file(relative, size);
+    return fileRow(m_home, category, relative);
 }
 
 bool WindowFixture::scan()
@@ -81,18 +98,22 @@ QModelIndex WindowFixture::rowOf(const QString& id) const
     return m_window->categoryPage()->listModel()->indexOfItem(id);
 }
 
-void WindowFixture::clickCheckbox(const QString& id)
+CategoryItemDelegate::Geometry WindowFixture::geometryOf(const QModelIndex& index) const
 {
     QListView* list = m_window->categoryPage()->list();
-    const QModelIndex index = rowOf(id);
-    ASSERT_TRUE(index.isValid()) << id.toStdString();
     list->scrollTo(index);
     QStyleOptionViewItem option;
     option.initFrom(list);
     option.rect = list->visualRect(index);
     option.widget = list;
-    const QRect box = m_window->categoryPage()->delegate()->geometry(option, index).checkbox;
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, box.center());
+    return m_window->categoryPage()->delegate()->geometry(option, index);
+}
+
+void WindowFixture::clickCheckbox(const QString& id)
+{
+    const QModelIndex index = rowOf(id);
+    ASSERT_TRUE(index.isValid()) << id.toStdString();
+    QTest::mouseClick(m_window->categoryPage()->list()->viewport(), Qt::LeftButton, {}, geometryOf(index).checkbox.center());
 }
 
 QString WindowFixture::trashFiles()
@@ -137,4 +158,30 @@ std::shared_ptr<FakeScanner> scannerOf(CategoryID category, QList<CleanupItem> i
     ScanOutputs outputs;
     outputs[category] = ScanOutput{std::move(items), std::move(notes), std::nullopt};
     return std::make_shared<FakeScanner>(QList<CategoryID>{category}, outputs);
+}
+
+QList<QPushButton*> buttonsTitled(const QWidget& page, const QString& text)
+{
+    QList<QPushButton*> buttons;
+    for (QPushButton* button : page.findChildren<QPushButton*>()) {
+        if (button->text() == text)
+            buttons.append(button);
+    }
+    return buttons;
+}
+
+bool showsLabel(const QWidget& page, const QString& text)
+{
+    for (const QLabel* label : page.findChildren<QLabel*>()) {
+        if (label->text() == text && label->isVisibleTo(&page))
+            return true;
+    }
+    return false;
+}
+
+ScanOutput found(QList<CleanupItem> items)
+{
+    ScanOutput output;
+    output.items = std::move(items);
+    return output;
 }

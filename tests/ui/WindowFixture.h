@@ -5,13 +5,17 @@
 #include "model/StatsStore.h"
 #include "support/FakeScanner.h"
 #include "support/TempTree.h"
+#include "ui/CategoryItemDelegate.h"
 #include "ui/MainWindow.h"
 
 #include <QSettings>
 #include <QTemporaryDir>
 #include <memory>
 
+class CategoryPage;
 class QAbstractButton;
+class QLabel;
+class QPushButton;
 class QMessageBox;
 class QModelIndex;
 
@@ -27,6 +31,11 @@ public:
     // Builds the model and a shown window over `scanners`; `adjust` may replace services.
     void start(std::vector<std::shared_ptr<const Scanner>> scanners,
                const std::function<void(AppModel::Services&)>& adjust = {});
+    // Starts over one scanner of `rows`, scans and shows `category`; null if the scan never ended.
+    CategoryPage* open(CategoryID category, QList<CleanupItem> rows,
+                       const std::function<void(AppModel::Services&)>& adjust = {});
+    // Makes a file of `size` bytes in the home folder and returns its row.
+    CleanupItem addFile(CategoryID category, const QString& relative, qint64 size = 1'000);
     AppModel& model() { return *m_model; }
     MainWindow& window() { return *m_window; }
 
@@ -40,6 +49,8 @@ public:
     // Clicks the checkbox of the row of item `id` on the shown category list.
     void clickCheckbox(const QString& id);
     QModelIndex rowOf(const QString& id) const;
+    // Where the delegate paints the parts of the row at `index` of the shown list.
+    CategoryItemDelegate::Geometry geometryOf(const QModelIndex& index) const;
 
     // The freedesktop trash of the test environment.
     static QString trashFiles();
@@ -60,3 +71,8 @@ private:
 // A Trash row for an existing file or folder of the tree, with its real size.
 CleanupItem fileRow(const TempTree& tree, CategoryID category, const QString& relative);
 std::shared_ptr<FakeScanner> scannerOf(CategoryID category, QList<CleanupItem> items, QStringList notes = {});
+
+// Widgets of a page, found by their text: buttons, and whether a label is visible to the page.
+QList<QPushButton*> buttonsTitled(const QWidget& page, const QString& text);
+bool showsLabel(const QWidget& page, const QString& text);
+ScanOutput found(QList<CleanupItem> items);
