@@ -3,14 +3,15 @@
 //   dupes_bench scan DIR       lists DIR like the walk does and runs DuplicateFinder over it
 // The scan prints one line of key=value pairs that the script collects.
 
-#include "model/Thresholds.h"
 #include "scan/DuplicateFinder.h"
+#include "vocabulary/Thresholds.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QElapsedTimer>
 #include <QFile>
+
 #include <cstdio>
 #include <sys/stat.h>
 

@@ -8,6 +8,7 @@
 #include <QByteArray>
 #include <QElapsedTimer>
 #include <QFile>
+
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>

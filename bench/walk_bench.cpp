@@ -4,14 +4,15 @@
 //   walk_bench walk DIR       one Walk over DIR
 //   walk_bench size DIR       one FileSizer::measure of DIR
 
-#include "scan/FileSizer.h"
-#include "scan/ScanProgress.h"
+#include "machinery/FileSizer.h"
+#include "machinery/ScanProgress.h"
 #include "scan/Walk.h"
 
 #include <QByteArray>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>

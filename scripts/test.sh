@@ -4,6 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/setup.sh
+python3 scripts/check-floors.py
 scripts/build.sh "$@"
 BUILD_DIR=${BUILD_DIR:-build}
 jobs=$(getconf _NPROCESSORS_ONLN 2>/dev/null || echo 2)

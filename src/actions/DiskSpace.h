@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QString>
+
 #include <optional>
 
 // The size and free space of the volume holding the home folder. Plain value, compared so the

@@ -1,8 +1,8 @@
 #include "actions/DockerRemoval.h"
 
-#include "actions/RemovalReasons.h"
 #include "actions/ToolAnswer.h"
-#include "scan/ProcessRunner.h"
+#include "machinery/ProcessRunner.h"
+#include "vocabulary/RemovalReasons.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>

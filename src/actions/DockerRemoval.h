@@ -2,10 +2,11 @@
 
 #include "actions/RemovalEnvironment.h"
 #include "actions/RemovalOutcome.h"
-#include "model/DockerOperation.h"
+#include "vocabulary/DockerOperation.h"
 
 #include <QDateTime>
 #include <QString>
+
 #include <optional>
 
 // Has Docker remove one object for good, after checking that Docker still talks to the

@@ -2,6 +2,7 @@
 
 #include <QDateTime>
 #include <QString>
+
 #include <optional>
 
 // The Docker endpoint the last Docker scan talked to, and when it ran. The scanner remembers

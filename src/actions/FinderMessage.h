@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+
 #include <optional>
 
 // Reads the error text osascript prints when Finder refused, e.g.

@@ -1,9 +1,10 @@
 #include "actions/FinderTrash.h"
 
 #include "actions/FinderMessage.h"
-#include "actions/RemovalReasons.h"
+#include "vocabulary/RemovalReasons.h"
 
 #include <QCoreApplication>
+
 #include <chrono>
 
 namespace FinderTrash {

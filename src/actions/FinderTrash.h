@@ -1,9 +1,10 @@
 #pragma once
 
-#include "scan/CancellationToken.h"
-#include "scan/ProcessRunner.h"
+#include "machinery/CancellationToken.h"
+#include "machinery/ProcessRunner.h"
 
 #include <QString>
+
 #include <optional>
 
 // Asks Finder to move an app bundle to the Trash when the folder needs an administrator: Finder

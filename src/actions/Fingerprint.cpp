@@ -3,6 +3,7 @@
 #include "platform/Platform.h"
 
 #include <QFile>
+
 #include <algorithm>
 #include <cerrno>
 #include <cstring>

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "model/TreeStamp.h"
-#include "scan/CancellationToken.h"
+#include "machinery/CancellationToken.h"
+#include "vocabulary/TreeStamp.h"
 
 #include <QString>
+
 #include <optional>
 
 // The summary of a file tree that the remover compares with the scan's and the mover compares

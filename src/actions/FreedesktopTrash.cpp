@@ -1,6 +1,7 @@
 #include "actions/FreedesktopTrash.h"
 
 #include "actions/OwnerWrite.h"
+#include "vocabulary/FileStatus.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -8,6 +9,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QStorageInfo>
+
 #include <fts.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -46,8 +48,7 @@ QStringList allowedFilesFolders(const QString& originalPath)
 
 bool lexists(const QString& path)
 {
-    struct stat info {};
-    return ::lstat(QFile::encodeName(path).constData(), &info) == 0;
+    return FileStatus::exists(path);
 }
 
 // Removes a file, link or folder tree without following links. True when it is gone.

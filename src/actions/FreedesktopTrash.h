@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+
 #include <optional>
 
 // The freedesktop.org trash as Linux file managers keep it: "files/" holds the trashed objects,

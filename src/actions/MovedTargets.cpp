@@ -1,6 +1,7 @@
 #include "actions/MovedTargets.h"
 
 #include <QSet>
+
 #include <mutex>
 
 namespace MovedTargets {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/FileTarget.h"
+#include "vocabulary/FileTarget.h"
 
 // The file targets this process has moved to the Trash, so that a later item sharing one of
 // them (it went with an earlier item) reads as done rather than as vanished. Process-wide;

@@ -1,6 +1,7 @@
 #include "actions/OwnerWrite.h"
 
 #include <QFile>
+
 #include <fts.h>
 #include <sys/stat.h>
 

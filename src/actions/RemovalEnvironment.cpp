@@ -1,8 +1,8 @@
 #include "actions/RemovalEnvironment.h"
 
 #include "actions/SystemTrash.h"
-#include "model/SharedScanFolders.h"
 #include "platform/Platform.h"
+#include "vocabulary/SharedScanFolders.h"
 
 #include <QDir>
 

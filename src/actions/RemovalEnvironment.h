@@ -1,13 +1,14 @@
 #pragma once
 
 #include "actions/DockerScanRecord.h"
-#include "actions/ToolLocations.h"
 #include "actions/TrashOperation.h"
-#include "scan/CancellationToken.h"
+#include "machinery/CancellationToken.h"
+#include "machinery/ToolLocations.h"
 
 #include <QDateTime>
 #include <QString>
 #include <QStringList>
+
 #include <functional>
 #include <optional>
 

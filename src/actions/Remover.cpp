@@ -1,10 +1,10 @@
 #include "actions/Remover.h"
 
 #include "actions/DockerRemoval.h"
-#include "actions/RemovalReasons.h"
 #include "actions/SimulatorRemoval.h"
 #include "actions/TargetCheck.h"
 #include "actions/TrashMove.h"
+#include "vocabulary/RemovalReasons.h"
 
 namespace Remover {
 

@@ -2,11 +2,12 @@
 
 #include "actions/RemovalEnvironment.h"
 #include "actions/RemovalOutcome.h"
-#include "model/CleanupItem.h"
-#include "model/FileTarget.h"
+#include "vocabulary/CleanupItem.h"
+#include "vocabulary/FileTarget.h"
 
 #include <QList>
 #include <QString>
+
 #include <optional>
 
 // Removes one cleanup item at the moment the cleanup session reaches it: files go to the Trash

@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QList>
+
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>

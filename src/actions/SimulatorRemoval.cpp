@@ -1,12 +1,13 @@
 #include "actions/SimulatorRemoval.h"
 
-#include "actions/RemovalReasons.h"
 #include "actions/ToolAnswer.h"
+#include "vocabulary/RemovalReasons.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+
 #include <algorithm>
 
 namespace SimulatorRemoval {

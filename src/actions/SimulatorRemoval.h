@@ -2,7 +2,7 @@
 
 #include "actions/RemovalEnvironment.h"
 #include "actions/RemovalOutcome.h"
-#include "model/Removal.h"
+#include "vocabulary/Removal.h"
 
 // Has Xcode's simulator tool delete a device or a runtime for good, after listing the devices
 // again to refuse one that runs or was used since the scan. Blocks the worker thread while

@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+
 #include <chrono>
 #include <fcntl.h>
 #include <unistd.h>

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "scan/ProcessRunner.h"
+#include "machinery/ProcessRunner.h"
 
 #include <QDir>
 #include <QString>
 #include <QStringList>
+
 #include <optional>
 
 // The few operations on the system itself: Full Disk Access, emptying the Trash and showing a

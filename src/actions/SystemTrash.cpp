@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+
 #include <cerrno>
 #include <unistd.h>
 

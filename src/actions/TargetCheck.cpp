@@ -2,13 +2,16 @@
 
 #include "actions/Fingerprint.h"
 #include "actions/MovedTargets.h"
-#include "actions/RemovalReasons.h"
 #include "actions/SecurePath.h"
-#include "model/PathRules.h"
 #include "platform/Platform.h"
+#include "vocabulary/AllowedPlace.h"
+#include "vocabulary/FileStatus.h"
+#include "vocabulary/PathRules.h"
+#include "vocabulary/RemovalReasons.h"
 
 #include <QDir>
 #include <QFile>
+
 #include <algorithm>
 #include <cerrno>
 #include <sys/stat.h>
@@ -19,21 +22,9 @@ namespace {
 
 constexpr qint64 secondsPerDay = 86'400;
 
-bool isStrictlyInside(const QString& path, const QString& folder)
-{
-    return !folder.isEmpty() && path != folder && PathRules::isAtOrBelow(path, folder);
-}
-
-// "..", "." and doubled slashes could lead a path that looks inside the home folder out of it.
-bool isNormalAbsolute(const QString& path)
-{
-    return path.startsWith(QLatin1Char('/')) && QDir::cleanPath(path) == path;
-}
-
 bool lexists(const QString& path)
 {
-    struct stat info {};
-    return ::lstat(QFile::encodeName(path).constData(), &info) == 0;
+    return FileStatus::exists(path);
 }
 
 bool isSameObject(const FileTarget& target, qint32 device, quint64 inode)
@@ -144,22 +135,7 @@ std::optional<QString> problem(const FileTarget& target, const RemovalEnvironmen
 
 bool isInAllowedPlace(const QString& path, const RemovalEnvironment& environment)
 {
-    if (!isNormalAbsolute(path))
-        return false;
-    if (isStrictlyInside(path, QDir::cleanPath(environment.home)) || isApplicationsBundle(path))
-        return true;
-    return std::any_of(environment.otherVolumeFolders.begin(), environment.otherVolumeFolders.end(),
-                       [&](const QString& folder) {
-                           const QString clean = QDir::cleanPath(folder);
-                           return clean.startsWith(QLatin1String("/Volumes/")) && isStrictlyInside(path, clean);
-                       });
-}
-
-bool isApplicationsBundle(const QString& path)
-{
-    static const QString applications = QStringLiteral("/Applications/");
-    return path.startsWith(applications) && path.endsWith(QLatin1String(".app"))
-        && path.size() > applications.size() + 4 && path.indexOf(QLatin1Char('/'), applications.size()) < 0;
+    return AllowedPlace::contains(path, environment.home, environment.otherVolumeFolders);
 }
 
 bool usedByRunningApp(const QStringList& programs, const QStringList& runningExecutables)

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "actions/RemovalEnvironment.h"
-#include "model/FileTarget.h"
+#include "vocabulary/FileTarget.h"
 
 #include <QString>
 #include <QStringList>
+
 #include <optional>
 
 // The checks a file target must pass right before it goes to the Trash, against what the scan
@@ -21,9 +22,6 @@ namespace TargetCheck {
 // Whether `path` is somewhere removal may touch: strictly inside the home folder, an app bundle
 // directly in "/Applications", or inside a scan folder on another disk.
 [[nodiscard]] bool isInAllowedPlace(const QString& path, const RemovalEnvironment& environment);
-
-// True when `path` is an application bundle directly in "/Applications".
-[[nodiscard]] bool isApplicationsBundle(const QString& path);
 
 // True when one of `programs` runs: an executable of that name, or one inside "<name>.app".
 // Names compare without regard to case, as macOS names do.

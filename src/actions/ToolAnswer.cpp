@@ -1,7 +1,7 @@
 #include "actions/ToolAnswer.h"
 
-#include "actions/RemovalReasons.h"
-#include "scan/ProcessRunner.h"
+#include "machinery/ProcessRunner.h"
+#include "vocabulary/RemovalReasons.h"
 
 ToolAnswer ToolAnswer::ask(const QString& executable, const QStringList& arguments,
                            std::chrono::seconds timeLimit, const CancellationToken* cancellation)

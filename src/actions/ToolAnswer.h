@@ -1,9 +1,10 @@
 #pragma once
 
-#include "scan/CancellationToken.h"
+#include "machinery/CancellationToken.h"
 
 #include <QString>
 #include <QStringList>
+
 #include <chrono>
 
 // One run of a removal tool (docker, xcrun) reduced to what the removal needs: the standard

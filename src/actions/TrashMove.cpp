@@ -3,13 +3,16 @@
 #include "actions/FinderTrash.h"
 #include "actions/MovedTargets.h"
 #include "actions/OwnerWrite.h"
-#include "actions/RemovalReasons.h"
 #include "actions/SecurePath.h"
 #include "actions/SystemTrash.h"
 #include "actions/TargetCheck.h"
 #include "platform/Platform.h"
+#include "vocabulary/AllowedPlace.h"
+#include "vocabulary/FileStatus.h"
+#include "vocabulary/RemovalReasons.h"
 
 #include <QFile>
+
 #include <sys/stat.h>
 
 namespace TrashMove {
@@ -18,8 +21,7 @@ namespace {
 
 bool lexists(const QString& path)
 {
-    struct stat info {};
-    return ::lstat(QFile::encodeName(path).constData(), &info) == 0;
+    return FileStatus::exists(path);
 }
 
 bool isInGoModuleCache(const QString& path)
@@ -40,10 +42,8 @@ std::optional<QString> lastLookProblem(const FileTarget& target)
 
 bool arrivedUnchanged(const FileTarget& target, const QString& pathInTrash)
 {
-    struct stat info {};
-    if (::lstat(QFile::encodeName(pathInTrash).constData(), &info) != 0)
-        return false;
-    return qint32(info.st_dev) == target.device && quint64(info.st_ino) == target.inode;
+    const auto info = FileStatus::of(pathInTrash);
+    return info && qint32(info->st_dev) == target.device && quint64(info->st_ino) == target.inode;
 }
 
 // Something else was swapped in between the last look and the move: return it to where it was,
@@ -57,7 +57,7 @@ void putBack(const QString& pathInTrash, const QString& originalPath)
 std::optional<QString> trashRefused(const FileTarget& target, const TrashResult& result,
                                     const RemovalEnvironment& environment)
 {
-    if (!result.permissionDenied || !TargetCheck::isApplicationsBundle(target.path))
+    if (!result.permissionDenied || !AllowedPlace::isApplicationsBundle(target.path))
         return RemovalReasons::trashFailed(result.error);
     auto finderProblem = FinderTrash::moveToTrash(target.path, environment.tools.osascript, environment.cancellation);
     if (!finderProblem)

@@ -2,9 +2,10 @@
 
 #include "actions/RemovalEnvironment.h"
 #include "actions/RemovalOutcome.h"
-#include "model/FileTarget.h"
+#include "vocabulary/FileTarget.h"
 
 #include <QList>
+
 #include <optional>
 
 // Moves the file targets of one item to the Trash: every target is checked first, then each is

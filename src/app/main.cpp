@@ -1,9 +1,9 @@
-#include "model/AppLanguage.h"
 #include "model/AppModel.h"
 #include "model/SettingsStore.h"
 #include "model/StatsStore.h"
 #include "ui/MainWindow.h"
 #include "ui/SettingsPage.h"
+#include "vocabulary/AppLanguage.h"
 
 #include <QApplication>
 #include <QSettings>

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+
 #include <array>
 #include <cmath>
 

@@ -1,14 +1,15 @@
 #include "model/AppModel.h"
 
-#include "model/SettingsStore.h"
-#include "model/SharedScanFolders.h"
-#include "model/StatsStore.h"
 #include "actions/DiskSpace.h"
 #include "actions/Remover.h"
 #include "actions/SystemAccess.h"
+#include "machinery/FileSizer.h"
+#include "model/SettingsStore.h"
+#include "model/StatsStore.h"
 #include "platform/Platform.h"
-#include "scan/FileSizer.h"
 #include "scan/ScannerCatalog.h"
+#include "vocabulary/SharedScanFolders.h"
+#include "vocabulary/SystemPlaces.h"
 
 #include <QCoreApplication>
 #include <QPointer>
@@ -31,7 +32,7 @@ AppModel::Services AppModel::defaultServices()
     services.removeItem = [](const CleanupItem& item) { return Remover::remove(item); };
     services.emptyTrash = [] { return SystemAccess::emptyTrash(); };
     services.measureTrash = [](const QString& home) -> std::optional<qint64> {
-        const FileSizer::Measurement measurement = FileSizer::measure(Platform::trashFolder(home));
+        const FileSizer::Measurement measurement = FileSizer::measure(SystemPlaces::trashFolder(home));
         if (!measurement.complete)
             return std::nullopt;
         return measurement.bytes;

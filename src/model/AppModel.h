@@ -1,15 +1,16 @@
 #pragma once
 
-#include "model/CategoryResult.h"
 #include "model/CleanupSession.h"
-#include "model/ScanFilter.h"
 #include "model/ScanTask.h"
-#include "model/SizeFilter.h"
+#include "vocabulary/CategoryResult.h"
+#include "vocabulary/ScanFilter.h"
+#include "vocabulary/SizeFilter.h"
 
 #include <QHash>
 #include <QObject>
 #include <QSet>
 #include <QUuid>
+
 #include <functional>
 #include <map>
 #include <memory>

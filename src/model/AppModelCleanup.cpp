@@ -1,7 +1,6 @@
 // The cleanup session of AppModel: one worker thread removes the items one at a time and
 // reports each step back to the GUI thread, where the results and the session change.
 #include "model/AppModel.h"
-
 #include "model/SelectionIndex.h"
 #include "model/SettingsStore.h"
 #include "model/StatsStore.h"

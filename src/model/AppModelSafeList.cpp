@@ -1,8 +1,7 @@
 // The Safe List actions of AppModel.
 #include "model/AppModel.h"
-
 #include "model/SettingsStore.h"
-#include "model/SharedScanFolders.h"
+#include "vocabulary/SharedScanFolders.h"
 
 void AppModel::addToSafeList(const CleanupItem& item)
 {

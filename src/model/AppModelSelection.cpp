@@ -1,7 +1,6 @@
 // Selection and duplicate protection of AppModel: nothing is selected for the person, and a
 // cleanup may never remove every copy of a duplicated file.
 #include "model/AppModel.h"
-
 #include "model/SettingsStore.h"
 
 bool AppModel::canSelect(const CleanupItem& item) const

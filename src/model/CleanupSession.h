@@ -1,11 +1,12 @@
 #pragma once
 
 #include "actions/RemovalOutcome.h"
-#include "model/CleanupItem.h"
+#include "vocabulary/CleanupItem.h"
 
 #include <QList>
 #include <QObject>
 #include <QUuid>
+
 #include <atomic>
 #include <optional>
 

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "model/CleanupItem.h"
+#include "vocabulary/CleanupItem.h"
 
 #include <QHash>
 #include <QList>
+
 #include <optional>
 
 // Every path of the selected items mapped to the first item that removes it, so a cleanup

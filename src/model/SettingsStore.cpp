@@ -1,6 +1,7 @@
 #include "model/SettingsStore.h"
 
-#include "model/PathRules.h"
+#include "vocabulary/PathRules.h"
+#include "vocabulary/ScanFilter.h"
 
 #include <cmath>
 #include <limits>
@@ -198,22 +199,5 @@ QStringList SettingsStore::computeProtectedPaths() const
 
 bool SettingsStore::isSafe(const CleanupItem& item) const
 {
-    if (m_safeItems.contains(item.id))
-        return true;
-    if (item.projectPath && isProtected(*item.projectPath))
-        return true;
-    for (const QString& path : item.removal.paths()) {
-        if (isProtected(path))
-            return true;
-    }
-    return false;
-}
-
-bool SettingsStore::isProtected(const QString& path) const
-{
-    for (const QString& protectedPath : protectedPaths()) {
-        if (PathRules::isAtOrBelow(path, protectedPath))
-            return true;
-    }
-    return false;
+    return ScanFilter::isOnSafeList(item, QSet<QString>(m_safeItems.begin(), m_safeItems.end()), protectedPaths());
 }

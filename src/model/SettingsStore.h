@@ -1,7 +1,7 @@
 #pragma once
 
-#include "model/CleanupItem.h"
-#include "model/SafeItemInfo.h"
+#include "vocabulary/CleanupItem.h"
+#include "vocabulary/SafeItemInfo.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -9,6 +9,7 @@
 #include <QObject>
 #include <QSettings>
 #include <QStringList>
+
 #include <functional>
 #include <optional>
 
@@ -71,7 +72,6 @@ private:
     void writeScanRoots();
     void writeSafeList();
     void safeListDidChange();
-    bool isProtected(const QString& path) const;
     QStringList computeProtectedPaths() const;
     std::optional<QStringList> readStringList(const QString& key) const;
     QStringList readFolderList(const QString& key) const;

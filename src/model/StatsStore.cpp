@@ -1,11 +1,12 @@
 #include "model/StatsStore.h"
 
-#include "model/JsonDate.h"
-#include "model/JsonFields.h"
+#include "vocabulary/JsonDate.h"
+#include "vocabulary/JsonFields.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QUuid>
+
 #include <algorithm>
 
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "model/CategoryID.h"
-#include "model/CategoryResult.h"
+#include "vocabulary/CategoryID.h"
+#include "vocabulary/CategoryResult.h"
 
 #include <QDateTime>
 #include <QJsonObject>
@@ -10,6 +10,7 @@
 #include <QObject>
 #include <QPair>
 #include <QSettings>
+
 #include <functional>
 #include <map>
 #include <optional>

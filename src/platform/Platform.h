@@ -2,17 +2,34 @@
 
 // The few operating-system calls that differ between macOS and Linux. linux.cpp (/proc, statx)
 // is compiled and tested here; mac.cpp (libproc, CoreFoundation C API, st_flags) is compiled
-// only on Apple and kept small enough to be right by reading. Everything is thread-safe.
+// only on Apple and kept small enough to be right by reading. Paths and tool command lines that
+// differ by system are data and live above this floor; this header includes nothing of ours.
+// Everything is thread-safe.
 
+#include <QByteArray>
 #include <QDateTime>
 #include <QString>
 #include <QStringList>
+
 #include <optional>
 #include <sys/stat.h>
 #include <sys/types.h>
 #include <vector>
 
 namespace Platform {
+
+// ---- Which system this is ----
+
+// Whose conventions the desktop follows for the Trash, privacy settings and showing files:
+// Finder's on macOS, freedesktop.org's on Linux. Tables of system-specific places pick their
+// rows by it.
+enum class Desktop { finder, freedesktop };
+Desktop desktop();
+
+// One line naming this machine for an AI assistant, e.g. "macOS 14.5 on Apple M2".
+QString machineDescription();
+
+// ---- Processes ----
 
 // Direct children of a process; empty when they cannot be listed.
 std::vector<pid_t> childProcesses(pid_t parent);
@@ -24,24 +41,6 @@ std::optional<qint64> processStartTime(pid_t pid);
 // The executable path of every process the person can see.
 QStringList runningExecutables();
 
-// Whether the file's content lives only in the cloud (macOS SF_DATALESS); false where the
-// system has no such flag.
-bool isDataless(const struct stat& info);
-
-// The file's creation time where the file system records one (of the link itself for a
-// symbolic link); absent when it has none or the path cannot be read.
-std::optional<QDateTime> birthTime(const QString& path);
-
-// Free bytes of the volume holding `path` that the system would let the person use
-// ("available for important usage" on macOS); absent when it cannot be read.
-std::optional<qint64> availableCapacity(const QString& path);
-
-// Total bytes of the volume holding `path`.
-std::optional<qint64> totalCapacity(const QString& path);
-
-// One line naming this machine for an AI assistant, e.g. "macOS 14.5 on Apple M2".
-QString machineDescription();
-
 // Opens a pipe whose two ends no launched program inherits unless they are handed over
 // explicitly (close-on-exec from the start where the system allows it). False, with errno
 // set, when no pipe can be made.
@@ -52,9 +51,21 @@ bool openPrivatePipe(int ends[2]);
 // into it; zero where the system has no such flag.
 short extraSpawnFlags();
 
-}  // namespace Platform
+// ---- Files ----
 
-namespace Platform {
+// Whether the file's content lives only in the cloud (macOS SF_DATALESS); false where the
+// system has no such flag.
+bool isDataless(const struct stat& info);
+
+// The file's creation time where the file system records one (of the link itself for a
+// symbolic link); absent when it has none or the path cannot be read.
+std::optional<QDateTime> birthTime(const QString& path);
+
+// Modification, status-change and access times of a status record in nanoseconds since 1970,
+// at the file system's own precision (the fields are named differently on each system).
+qint64 modificationNanoseconds(const struct stat& info);
+qint64 statusChangeNanoseconds(const struct stat& info);
+qint64 accessNanoseconds(const struct stat& info);
 
 // Where a file's data lies, when the file system says the file shares blocks with other files
 // (reflinks on Linux, clones on APFS): two files with equal keys occupy the same blocks, so
@@ -62,45 +73,18 @@ namespace Platform {
 // system cannot tell; callers then treat the file as owning its storage.
 std::optional<QByteArray> sharedStorageKey(const QString& path);
 
-}  // namespace Platform
-
-namespace Platform {
-
 // Renames `from` to `to` only when nothing exists at `to` (renameat2 RENAME_NOREPLACE on Linux,
 // renamex_np RENAME_EXCL on macOS), so an object is never put back over another. 0 on success,
 // otherwise the errno (EEXIST when the name is taken).
 int renameNoReplace(const QString& from, const QString& to);
 
-// Modification and status-change times of a status record in nanoseconds since 1970, at the
-// file system's own precision.
-qint64 modificationNanoseconds(const struct stat& info);
-qint64 statusChangeNanoseconds(const struct stat& info);
+// ---- Volumes ----
 
-// Whose conventions the desktop follows for the Trash, privacy settings and showing files:
-// Finder's on macOS, freedesktop.org's on Linux.
-enum class Desktop { finder, freedesktop };
-Desktop desktop();
+// Free bytes of the volume holding `path` that the system would let the person use
+// ("available for important usage" on macOS); absent when it cannot be read.
+std::optional<qint64> availableCapacity(const QString& path);
 
-}  // namespace Platform
-
-namespace Platform {
-
-// Where git is installed, in the order to try: Apple's command line tools, Xcode, Homebrew on
-// Apple silicon and on Intel; Linux adds the distribution's own.
-QStringList gitCandidates();
-
-// When the file was last opened, where the system keeps that: Spotlight's last-used date on
-// macOS (it asks mdls, so call it on a worker thread); on Linux the access time, but only when
-// it is newer than the modification time (otherwise it may only say the file was written).
-// Absent when unknown.
-std::optional<QDateTime> lastOpened(const QString& path);
-
-}  // namespace Platform
-
-namespace Platform {
-
-// The folder that holds what the person moved to the Trash: "~/.Trash" on macOS, the
-// freedesktop home trash's "files" folder on Linux.
-QString trashFolder(const QString& home);
+// Total bytes of the volume holding `path`.
+std::optional<qint64> totalCapacity(const QString& path);
 
 }  // namespace Platform

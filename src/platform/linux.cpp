@@ -5,7 +5,14 @@
 #include <QSysInfo>
 #include <QTimeZone>
 
+#include <cerrno>
+#include <cstdio>  // renameat2 / renamex_np
+#include <cstring>
 #include <fcntl.h>
+#include <linux/fiemap.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
 
@@ -185,17 +192,7 @@ short extraSpawnFlags()
     return 0;
 }
 
-}  // namespace Platform
-
 // ---- Shared storage: FIEMAP reports each extent's physical place and whether it is shared ----
-
-#include <cstring>
-#include <linux/fiemap.h>
-#include <linux/fs.h>
-#include <sys/ioctl.h>
-#include <sys/stat.h>
-
-namespace Platform {
 
 namespace {
 
@@ -266,13 +263,6 @@ std::optional<QByteArray> sharedStorageKey(const QString& path)
     return key;
 }
 
-}  // namespace Platform
-
-#include <cerrno>
-#include <cstdio>  // renameat2 / renamex_np
-
-namespace Platform {
-
 int renameNoReplace(const QString& from, const QString& to)
 {
     const QByteArray source = QFile::encodeName(from);
@@ -292,48 +282,14 @@ qint64 statusChangeNanoseconds(const struct stat& info)
     return qint64(info.st_ctim.tv_sec) * 1'000'000'000 + info.st_ctim.tv_nsec;
 }
 
+qint64 accessNanoseconds(const struct stat& info)
+{
+    return qint64(info.st_atim.tv_sec) * 1'000'000'000 + info.st_atim.tv_nsec;
+}
+
 Desktop desktop()
 {
     return Desktop::freedesktop;
-}
-
-}  // namespace Platform
-
-namespace Platform {
-
-QStringList gitCandidates()
-{
-    return {
-        QStringLiteral("/Library/Developer/CommandLineTools/usr/bin/git"),
-        QStringLiteral("/Applications/Xcode.app/Contents/Developer/usr/bin/git"),
-        QStringLiteral("/opt/homebrew/bin/git"),
-        QStringLiteral("/usr/local/bin/git"),
-        QStringLiteral("/usr/bin/git"),
-    };
-}
-
-std::optional<QDateTime> lastOpened(const QString& path)
-{
-    struct stat info {};
-    if (::lstat(QFile::encodeName(path).constData(), &info) != 0)
-        return std::nullopt;
-    const qint64 accessed = qint64(info.st_atim.tv_sec) * 1000 + info.st_atim.tv_nsec / 1'000'000;
-    const qint64 modified = qint64(info.st_mtim.tv_sec) * 1000 + info.st_mtim.tv_nsec / 1'000'000;
-    if (accessed <= modified)
-        return std::nullopt;
-    return QDateTime::fromMSecsSinceEpoch(accessed, QTimeZone::utc());
-}
-
-}  // namespace Platform
-
-namespace Platform {
-
-QString trashFolder(const QString& home)
-{
-    // The freedesktop home trash follows XDG_DATA_HOME, whoever's home is being scanned.
-    const QByteArray dataHome = qgetenv("XDG_DATA_HOME");
-    const QString base = dataHome.isEmpty() ? home + QStringLiteral("/.local/share") : QFile::decodeName(dataHome);
-    return base + QStringLiteral("/Trash/files");
 }
 
 }  // namespace Platform

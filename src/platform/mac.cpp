@@ -5,6 +5,8 @@
 
 #include <CoreFoundation/CoreFoundation.h>
 #include <algorithm>
+#include <cerrno>
+#include <cstdio>  // renameat2 / renamex_np
 #include <cstring>
 #include <fcntl.h>
 #include <libproc.h>
@@ -135,10 +137,6 @@ short extraSpawnFlags()
     return POSIX_SPAWN_CLOEXEC_DEFAULT;
 }
 
-}  // namespace Platform
-
-namespace Platform {
-
 // APFS offers no public call that says which blocks two clones share, and a clone identifier
 // we cannot verify here would be a guess. So every file counts as owning its storage: clones
 // keep showing as duplicates, which at worst offers a removal that frees less than its size,
@@ -147,13 +145,6 @@ std::optional<QByteArray> sharedStorageKey(const QString&)
 {
     return std::nullopt;
 }
-
-}  // namespace Platform
-
-#include <cerrno>
-#include <cstdio>  // renameat2 / renamex_np
-
-namespace Platform {
 
 int renameNoReplace(const QString& from, const QString& to)
 {
@@ -174,66 +165,14 @@ qint64 statusChangeNanoseconds(const struct stat& info)
     return qint64(info.st_ctimespec.tv_sec) * 1'000'000'000 + info.st_ctimespec.tv_nsec;
 }
 
+qint64 accessNanoseconds(const struct stat& info)
+{
+    return qint64(info.st_atimespec.tv_sec) * 1'000'000'000 + info.st_atimespec.tv_nsec;
+}
+
 Desktop desktop()
 {
     return Desktop::finder;
-}
-
-}  // namespace Platform
-
-#include "scan/ProcessRunner.h"
-
-#include <chrono>
-
-namespace Platform {
-
-QStringList gitCandidates()
-{
-    return {
-        QStringLiteral("/Library/Developer/CommandLineTools/usr/bin/git"),
-        QStringLiteral("/Applications/Xcode.app/Contents/Developer/usr/bin/git"),
-        QStringLiteral("/opt/homebrew/bin/git"),
-        QStringLiteral("/usr/local/bin/git"),
-    };
-}
-
-namespace {
-
-// mdls writes a date as "2024-05-01 09:30:12 +0000", and "(null)" when Spotlight has none.
-std::optional<QDateTime> spotlightDate(const QString& text)
-{
-    const QStringList parts = text.trimmed().split(QLatin1Char(' '));
-    if (parts.size() != 3 || parts[2].size() != 5)
-        return std::nullopt;
-    const QDate day = QDate::fromString(parts[0], QStringLiteral("yyyy-MM-dd"));
-    const QTime time = QTime::fromString(parts[1], QStringLiteral("HH:mm:ss"));
-    if (!day.isValid() || !time.isValid())
-        return std::nullopt;
-    const int sign = parts[2].startsWith(QLatin1Char('-')) ? -1 : 1;
-    const int offset = parts[2].mid(1, 2).toInt() * 3600 + parts[2].mid(3, 2).toInt() * 60;
-    return QDateTime(day, time, QTimeZone::utc()).addSecs(-sign * offset);
-}
-
-}  // namespace
-
-std::optional<QDateTime> lastOpened(const QString& path)
-{
-    const ProcessRunner::Result result = ProcessRunner::run(
-        QStringLiteral("/usr/bin/mdls"),
-        {QStringLiteral("-raw"), QStringLiteral("-name"), QStringLiteral("kMDItemLastUsedDate"), path},
-        std::chrono::seconds(10));
-    if (!result.launched() || result.output->timedOut || result.output->status != 0)
-        return std::nullopt;
-    return spotlightDate(result.output->standardOutput);
-}
-
-}  // namespace Platform
-
-namespace Platform {
-
-QString trashFolder(const QString& home)
-{
-    return home + QStringLiteral("/.Trash");
 }
 
 }  // namespace Platform

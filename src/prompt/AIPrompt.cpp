@@ -1,9 +1,10 @@
 #include "prompt/AIPrompt.h"
 
 #include "format/ByteCount.h"
-#include "model/Safety.h"
+#include "vocabulary/Safety.h"
 
 #include <QCoreApplication>
+
 #include <algorithm>
 
 namespace AIPrompt {

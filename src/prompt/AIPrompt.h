@@ -1,12 +1,13 @@
 #pragma once
 
-#include "model/CategoryID.h"
-#include "model/CleanupItem.h"
 #include "prompt/LargestContents.h"
 #include "prompt/PromptContext.h"
+#include "vocabulary/CategoryID.h"
+#include "vocabulary/CleanupItem.h"
 
 #include <QList>
 #include <QString>
+
 #include <optional>
 
 // The question a person pastes into an AI assistant to ask whether rows are safe to remove.

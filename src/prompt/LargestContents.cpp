@@ -1,10 +1,12 @@
 #include "prompt/LargestContents.h"
 
-#include "scan/FileInfo.h"
-#include "scan/FileSizer.h"
+#include "machinery/FileInfo.h"
+#include "machinery/FileSizer.h"
+#include "vocabulary/FileStatus.h"
 
 #include <QDir>
 #include <QFile>
+
 #include <algorithm>
 #include <sys/stat.h>
 
@@ -12,8 +14,7 @@ namespace {
 
 bool isRealFolder(const QString& path)
 {
-    struct stat info {};
-    return ::lstat(QFile::encodeName(path).constData(), &info) == 0 && S_ISDIR(info.st_mode);
+    return FileStatus::isFolder(path);
 }
 
 bool isCancelled(const CancellationToken* cancellation)

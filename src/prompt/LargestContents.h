@@ -1,10 +1,11 @@
 #pragma once
 
-#include "model/CleanupItem.h"
-#include "scan/CancellationToken.h"
+#include "machinery/CancellationToken.h"
+#include "vocabulary/CleanupItem.h"
 
 #include <QList>
 #include <QString>
+
 #include <optional>
 
 // The biggest entries directly inside a folder row, for the AI question: they tell an assistant

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "model/AppLanguage.h"
+#include "vocabulary/AppLanguage.h"
 
 #include <QDir>
 #include <QLocale>
 #include <QString>
+
 #include <optional>
 
 // What the AI question says about the computer and the person, gathered once so the question

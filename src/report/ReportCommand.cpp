@@ -1,13 +1,14 @@
 #include "report/ReportCommand.h"
 
 #include "model/SettingsStore.h"
-#include "model/ScanFilter.h"
 #include "report/ScanRunner.h"
 #include "scan/ScannerCatalog.h"
+#include "vocabulary/ScanFilter.h"
 
 #include <QDir>
 #include <QJsonDocument>
 #include <QSettings>
+
 #include <cstdio>
 #include <mutex>
 

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "model/CategoryID.h"
+#include "vocabulary/CategoryID.h"
 
 #include <QList>
 #include <QString>
 #include <QStringList>
+
 #include <optional>
 
 // The report tool's command line: scan [--home DIR] [--root DIR]... [--category RAW]... [--json]

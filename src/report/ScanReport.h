@@ -1,9 +1,10 @@
 #pragma once
 
-#include "model/CategoryResult.h"
+#include "vocabulary/CategoryResult.h"
 
 #include <QByteArray>
 #include <QJsonObject>
+
 #include <map>
 
 // Renders scan results for the report tool: one JSON object, or a readable table.

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "model/CategoryResult.h"
 #include "scan/Scanner.h"
+#include "vocabulary/CategoryResult.h"
 
 #include <functional>
 #include <map>

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QSet>
+
 #include <optional>
 
 namespace AppNames {

@@ -1,14 +1,16 @@
 #include "scan/DuplicateFinder.h"
 
 #include "format/RelativeDate.h"
+#include "machinery/Concurrency.h"
+#include "machinery/FileSizer.h"
 #include "platform/Platform.h"
-#include "scan/Concurrency.h"
-#include "scan/FileSizer.h"
+#include "vocabulary/PathRules.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QHash>
 #include <QSet>
+
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
@@ -347,13 +349,6 @@ std::vector<std::vector<const File*>> sizeGroups(const QList<File>& files)
     return groups;
 }
 
-QString withTilde(const QString& path, const QString& home)
-{
-    if (home.isEmpty() || !path.startsWith(home + QLatin1Char('/')))
-        return path;
-    return QLatin1Char('~') + path.mid(home.size());
-}
-
 FileTarget targetOf(const File& file)
 {
     FileTarget target;
@@ -370,7 +365,7 @@ CleanupItem row(const Member& member, const QString& groupId, bool isOldest, con
     CleanupItem item;
     item.id = file.path;
     item.category = CategoryID::duplicates;
-    item.title = withTilde(file.path, context.home);
+    item.title = PathRules::withTilde(file.path, context.home);
     //: Fact in a Duplicates row's detail line; %1 is a relative date like '3 months ago'
     item.detail = QCoreApplication::translate("DuplicateFinder", "created %1")
                       .arg(RelativeDate::format(member.date, context.now));

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "model/CleanupItem.h"
-#include "model/FileTarget.h"
-#include "scan/ScanContext.h"
+#include "machinery/ScanContext.h"
+#include "vocabulary/CleanupItem.h"
+#include "vocabulary/FileTarget.h"
 
 #include <QList>
 #include <QString>
+
 #include <optional>
 
 // Finds files with exact copies among the walk's candidates and turns every set of identical

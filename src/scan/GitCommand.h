@@ -1,10 +1,11 @@
 #pragma once
 
-#include "scan/CancellationToken.h"
-#include "scan/ProcessRunner.h"
+#include "machinery/CancellationToken.h"
+#include "machinery/ProcessRunner.h"
 
 #include <QString>
 #include <QStringList>
+
 #include <chrono>
 #include <optional>
 
@@ -13,7 +14,7 @@
 // the person's own git works there. Stateless and thread-safe.
 namespace GitCommand {
 
-// The first installed git of `candidates` (normally Platform::gitCandidates()); absent when
+// The first installed git of `candidates` (normally ToolLocations::gitCandidates()); absent when
 // there is none.
 [[nodiscard]] std::optional<QString> locate(const QStringList& candidates);
 

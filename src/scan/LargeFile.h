@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/HashCombine.h"
+#include "vocabulary/HashCombine.h"
 
 #include <QString>
 

@@ -1,18 +1,20 @@
 #include "scan/LocationScanner.h"
 
-#include "model/PathRules.h"
+#include "machinery/Concurrency.h"
+#include "machinery/FileInfo.h"
+#include "machinery/FileSizer.h"
 #include "platform/Platform.h"
 #include "scan/AppNames.h"
-#include "scan/Concurrency.h"
-#include "scan/FileInfo.h"
-#include "scan/FileSizer.h"
 #include "scan/PropertyList.h"
+#include "vocabulary/FileStatus.h"
+#include "vocabulary/PathRules.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QLocale>
 #include <QRegularExpression>
 #include <QTimeZone>
+
 #include <algorithm>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -26,17 +28,9 @@ const QString separator = QStringLiteral(" · ");
 // scanners that run beside this one.
 constexpr int measuringLimit = 4;
 
-std::optional<struct stat> linkStatus(const QString& path)
-{
-    struct stat info {};
-    if (::lstat(QFile::encodeName(path).constData(), &info) != 0)
-        return std::nullopt;
-    return info;
-}
-
 bool isDirectory(const QString& path)
 {
-    const auto info = linkStatus(path);
+    const auto info = FileStatus::of(path);
     return info && S_ISDIR(info->st_mode);
 }
 
@@ -138,22 +132,13 @@ QString huggingFaceTitle(const QString& name)
     return parts.mid(1).join(QLatin1Char('/'));
 }
 
-QString withTilde(const QString& path, const QString& home)
-{
-    if (path == home)
-        return QStringLiteral("~");
-    if (PathRules::isAtOrBelow(path, home))
-        return QLatin1Char('~') + path.mid(home.size());
-    return path;
-}
-
 std::optional<QString> derivedDataDetail(const QString& folder, const QString& home)
 {
     const auto workspace = PropertyList::string(folder + QStringLiteral("/info.plist"), QStringLiteral("WorkspacePath"));
     if (!workspace || workspace->isEmpty())
         return std::nullopt;
-    QString detail = withTilde(*workspace, home);
-    if (linkStatus(*workspace))
+    QString detail = PathRules::withTilde(*workspace, home);
+    if (FileStatus::of(*workspace))
         return detail;
     //: Fact in the detail line of an Xcode DerivedData row, after the project's path
     return detail + separator + QCoreApplication::translate("LocationScanner", "project no longer exists");
@@ -174,7 +159,7 @@ QString archiveDetail(const QString& archive)
 {
     std::optional<QDateTime> created = Platform::birthTime(archive);
     if (!created) {
-        const auto info = linkStatus(archive);
+        const auto info = FileStatus::of(archive);
         if (!info)
             return {};
         created = QDateTime::fromSecsSinceEpoch(info->st_mtime);
@@ -286,7 +271,7 @@ QStringList LocationScanner::expand(const QString& absolutePattern)
         current = expandComponent(current, component);
     QStringList existing;
     for (const QString& path : current) {
-        if (path != QLatin1String("/") && linkStatus(path))
+        if (path != QLatin1String("/") && FileStatus::of(path))
             existing.append(path);
     }
     return existing;

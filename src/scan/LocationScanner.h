@@ -6,6 +6,7 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+
 #include <optional>
 
 // Turns a group of known locations into measured rows of one category: expands the path

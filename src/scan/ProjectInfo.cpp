@@ -2,10 +2,12 @@
 
 #include "platform/Platform.h"
 #include "scan/WalkNames.h"
+#include "vocabulary/FileStatus.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTimeZone>
+
 #include <algorithm>
 #include <climits>
 #include <fts.h>
@@ -18,14 +20,6 @@ namespace {
 // not entered.
 constexpr short deepestEnteredLevel = 2;
 constexpr qint64 cancellationBatch = 4096;
-
-std::optional<struct stat> linkStatus(const QString& path)
-{
-    struct stat info {};
-    if (::lstat(QFile::encodeName(path).constData(), &info) != 0)
-        return std::nullopt;
-    return info;
-}
 
 QDateTime fromNanoseconds(qint64 nanoseconds)
 {
@@ -84,7 +78,7 @@ QString ProjectInfo::repositoryRoot(const QString& path, const QString& home)
 {
     for (QString folder = path; !folder.isEmpty() && folder != home && folder != QLatin1String("/");
          folder = parentOf(folder)) {
-        if (linkStatus(folder + QStringLiteral("/.git")))
+        if (FileStatus::of(folder + QStringLiteral("/.git")))
             return folder;
     }
     return path;
@@ -102,7 +96,7 @@ std::optional<QDateTime> ProjectInfo::lastActivityOf(const QString& path, const 
 QList<QDateTime> ProjectInfo::gitDates(const QString& workingCopy)
 {
     const QString dotGit = workingCopy + QStringLiteral("/.git");
-    const auto info = linkStatus(dotGit);
+    const auto info = FileStatus::of(dotGit);
     if (!info)
         return {};
     const std::optional<QString> metadata = S_ISDIR(info->st_mode) ? std::optional(dotGit) : gitFileTarget(workingCopy);
@@ -110,7 +104,7 @@ QList<QDateTime> ProjectInfo::gitDates(const QString& workingCopy)
         return {};
     QList<QDateTime> dates;
     for (const char* file : {"/HEAD", "/index"}) {
-        if (const auto found = linkStatus(*metadata + QLatin1String(file)))
+        if (const auto found = FileStatus::of(*metadata + QLatin1String(file)))
             dates.append(modificationDate(*found));
     }
     return dates;
@@ -119,7 +113,7 @@ QList<QDateTime> ProjectInfo::gitDates(const QString& workingCopy)
 std::optional<QString> ProjectInfo::gitFileTarget(const QString& workingCopy)
 {
     const QString dotGit = workingCopy + QStringLiteral("/.git");
-    const auto info = linkStatus(dotGit);
+    const auto info = FileStatus::of(dotGit);
     QFile file(dotGit);
     if (!info || !S_ISREG(info->st_mode) || !file.open(QIODevice::ReadOnly))
         return std::nullopt;

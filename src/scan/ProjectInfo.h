@@ -1,11 +1,12 @@
 #pragma once
 
-#include "model/HashCombine.h"
-#include "scan/CancellationToken.h"
+#include "machinery/CancellationToken.h"
+#include "vocabulary/HashCombine.h"
 
 #include <QDateTime>
 #include <QList>
 #include <QString>
+
 #include <optional>
 
 // What the projects scanner knows about one project folder that holds build folders: the

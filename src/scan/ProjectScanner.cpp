@@ -1,14 +1,16 @@
 #include "scan/ProjectScanner.h"
 
-#include "model/PathRules.h"
-#include "scan/Concurrency.h"
+#include "machinery/Concurrency.h"
+#include "machinery/LastOpened.h"
 #include "scan/DuplicateFinder.h"
 #include "scan/GitCommand.h"
 #include "scan/Walk.h"
 #include "scan/WorktreeFinder.h"
+#include "vocabulary/PathRules.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
+
 #include <algorithm>
 #include <climits>
 #include <vector>
@@ -133,7 +135,7 @@ QStringList ProjectScanner::distinctRoots(const QStringList& roots, const QStrin
 
 std::optional<QDateTime> ProjectScanner::lastOpened(const QString& path)
 {
-    return Platform::lastOpened(path);
+    return LastOpened::of(path);
 }
 
 QString ProjectScanner::unreadableNote(qint64 folders)

@@ -1,16 +1,17 @@
 #pragma once
 
-#include "model/CleanupItem.h"
-#include "platform/Platform.h"
+#include "machinery/ToolLocations.h"
 #include "scan/Artifact.h"
 #include "scan/LargeFile.h"
 #include "scan/ProjectInfo.h"
 #include "scan/Scanner.h"
+#include "vocabulary/CleanupItem.h"
 
 #include <QDir>
 #include <QHash>
 #include <QString>
 #include <QStringList>
+
 #include <optional>
 
 // The projects scanner: owns the one walk of the scan folders and turns it into four
@@ -20,7 +21,7 @@
 class ProjectScanner : public Scanner {
 public:
     // `gitCandidates`: where to look for git, first installed one wins.
-    explicit ProjectScanner(QStringList gitCandidates = Platform::gitCandidates())
+    explicit ProjectScanner(QStringList gitCandidates = ToolLocations::gitCandidates())
         : m_gitCandidates(std::move(gitCandidates)) {}
 
     QList<CategoryID> categories() const override;

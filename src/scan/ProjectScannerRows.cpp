@@ -1,12 +1,14 @@
-#include "scan/ProjectScanner.h"
-
 #include "format/RelativeDate.h"
-#include "model/PathRules.h"
-#include "scan/FileSizer.h"
+#include "machinery/FileSizer.h"
+#include "platform/Platform.h"
 #include "scan/GitCommand.h"
+#include "scan/ProjectScanner.h"
+#include "vocabulary/FileStatus.h"
+#include "vocabulary/PathRules.h"
 
 #include <QCoreApplication>
 #include <QFile>
+
 #include <chrono>
 #include <sys/stat.h>
 
@@ -21,13 +23,6 @@ constexpr auto trackedFilesTimeLimit = 30s;
 QString nameOf(const QString& path)
 {
     return path.section(QLatin1Char('/'), -1);
-}
-
-QString shownPath(const QString& path, const QString& home)
-{
-    if (home.isEmpty() || !PathRules::isAtOrBelow(path, home))
-        return path;
-    return QLatin1Char('~') + path.mid(home.size());
 }
 
 // A committed "build" folder may hold sources rather than output, so only that name is
@@ -54,10 +49,10 @@ QString buildFolderDetail(const ProjectInfo* project, int tracked, const QDateTi
 
 std::optional<FileTarget::ContentStamp> contentStamp(const QString& path)
 {
-    struct stat info {};
-    if (::lstat(QFile::encodeName(path).constData(), &info) != 0 || !S_ISREG(info.st_mode))
+    const auto info = FileStatus::of(path);
+    if (!info || !S_ISREG(info->st_mode))
         return std::nullopt;
-    return FileTarget::ContentStamp{info.st_size, Platform::modificationNanoseconds(info)};
+    return FileTarget::ContentStamp{info->st_size, Platform::modificationNanoseconds(*info)};
 }
 
 }  // namespace
@@ -100,7 +95,7 @@ std::optional<CleanupItem> ProjectScanner::largeFileRow(const LargeFile& file, c
     CleanupItem item;
     item.id = file.path;
     item.category = CategoryID::largeFiles;
-    item.title = shownPath(file.path, context.home);
+    item.title = PathRules::withTilde(file.path, context.home);
     item.size = file.size;
     item.removal = Removal::trash({*target});
     item.date = lastOpened(file.path);

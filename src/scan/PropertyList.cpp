@@ -1,6 +1,7 @@
 #include "scan/PropertyList.h"
 
 #include <QFile>
+
 #include <plist/plist.h>
 
 namespace {

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "model/CategoryResult.h"
-#include "scan/ScanContext.h"
+#include "machinery/ScanContext.h"
+#include "vocabulary/CategoryResult.h"
 
 #include <QList>
+
 #include <map>
 
 using ScanOutputs = std::map<CategoryID, ScanOutput>;

@@ -1,12 +1,14 @@
 #include "scan/Walk.h"
 
-#include "model/PathRules.h"
-#include "model/Thresholds.h"
 #include "platform/Platform.h"
 #include "scan/KnownLocations.h"
 #include "scan/WalkNames.h"
+#include "vocabulary/FileStatus.h"
+#include "vocabulary/PathRules.h"
+#include "vocabulary/Thresholds.h"
 
 #include <QFile>
+
 #include <fts.h>
 #include <string>
 #include <string_view>
@@ -75,18 +77,6 @@ DuplicateFinder::File duplicateCandidate(const QString& path, const struct stat&
     file.inode = static_cast<quint64>(info.st_ino);
     file.stamp = {info.st_size, Platform::modificationNanoseconds(info)};
     return file;
-}
-
-bool existsWithoutFollowing(const QString& path, struct stat* info)
-{
-    return ::lstat(QFile::encodeName(path).constData(), info) == 0;
-}
-
-QString shownFolder(const QString& path, const QString& home)
-{
-    if (home.isEmpty() || !PathRules::isAtOrBelow(path, home))
-        return path;
-    return QLatin1Char('~') + path.mid(home.size());
 }
 
 }  // namespace
@@ -234,7 +224,7 @@ bool Walk::Pass::skipsBuildFolder(std::string_view path, std::string_view name)
 void Walk::Pass::showProgress(std::string_view path) const
 {
     if (m_walk.m_context.progress)
-        m_walk.m_context.progress->setCurrentFolder(shownFolder(decoded(path), m_walk.m_context.home));
+        m_walk.m_context.progress->setCurrentFolder(PathRules::withTilde(decoded(path), m_walk.m_context.home));
 }
 
 void Walk::Pass::visitFile(const FTSENT* entry)
@@ -292,11 +282,11 @@ void Walk::adoptRepositoryAbove(const QString& root)
 {
     for (QString folder = root; !folder.isEmpty() && folder != m_context.home && folder != QLatin1String("/");
          folder = parentFolder(folder)) {
-        struct stat info {};
-        if (!existsWithoutFollowing(folder + QLatin1String("/.git"), &info))
+        const auto info = FileStatus::of(folder + QLatin1String("/.git"));
+        if (!info)
             continue;
         m_repositories = QStringList{root};
-        if (S_ISDIR(info.st_mode))
+        if (S_ISDIR(info->st_mode))
             m_mainRepositories.append(folder);
         return;
     }

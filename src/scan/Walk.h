@@ -1,9 +1,9 @@
 #pragma once
 
+#include "machinery/ScanContext.h"
 #include "scan/Artifact.h"
 #include "scan/DuplicateFinder.h"
 #include "scan/LargeFile.h"
-#include "scan/ScanContext.h"
 
 #include <QList>
 #include <QSet>

@@ -2,11 +2,12 @@
 // are common words), so each name needs its project's marker file or, for Xcode, output that
 // only Xcode makes.
 
+#include "machinery/FileInfo.h"
 #include "scan/Walk.h"
-
-#include "scan/FileInfo.h"
+#include "vocabulary/FileStatus.h"
 
 #include <QFile>
+
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
@@ -58,8 +59,7 @@ constexpr std::array<quint32, 8> machOMagics = {
 
 bool exists(const QString& path)
 {
-    struct stat info {};
-    return ::lstat(QFile::encodeName(path).constData(), &info) == 0;
+    return FileStatus::exists(path);
 }
 
 bool hasAny(const QString& folder, const QStringList& names)
@@ -103,8 +103,7 @@ bool holdsXcodeOutput(const QString& path, const QString& parent)
 
 bool isRealDirectory(const QString& path)
 {
-    struct stat info {};
-    return ::lstat(QFile::encodeName(path).constData(), &info) == 0 && S_ISDIR(info.st_mode);
+    return FileStatus::isFolder(path);
 }
 
 // The named-folder shapes of Xcode's output; nullopt when the name has no rule of its own.

@@ -1,13 +1,15 @@
 #include "scan/WorktreeFinder.h"
 
-#include "actions/TargetCheck.h"
-#include "model/PathRules.h"
-#include "scan/FileInfo.h"
+#include "machinery/FileInfo.h"
 #include "scan/KnownLocations.h"
 #include "scan/ProjectInfo.h"
+#include "vocabulary/AllowedPlace.h"
+#include "vocabulary/FileStatus.h"
+#include "vocabulary/PathRules.h"
 
 #include <QDir>
 #include <QFile>
+
 #include <algorithm>
 #include <climits>
 #include <cstdlib>
@@ -22,8 +24,7 @@ constexpr qint64 metadataFileLimit = 64 * 1024;
 
 bool isRegularFile(const QString& path)
 {
-    struct stat info {};
-    return ::lstat(QFile::encodeName(path).constData(), &info) == 0 && S_ISREG(info.st_mode);
+    return FileStatus::isRegularFile(path);
 }
 
 // A regular file only: opening a pipe planted under git's name would block the scan.
@@ -40,8 +41,7 @@ std::optional<QString> trimmedText(const QString& path)
 
 bool isRealFolder(const QString& path)
 {
-    struct stat info {};
-    return ::lstat(QFile::encodeName(path).constData(), &info) == 0 && S_ISDIR(info.st_mode);
+    return FileStatus::isFolder(path);
 }
 
 std::optional<QString> realPath(const QString& path)
@@ -85,17 +85,8 @@ std::optional<Worktree> worktree(const QString& repository, const QString& metad
     Worktree found{repository, *folder, metadata, std::nullopt, false};
     if (head->startsWith(branchPrefix))
         found.branch = head->mid(branchPrefix.size());
-    struct stat info {};
-    found.lockedInGit = ::lstat(QFile::encodeName(metadata + QStringLiteral("/locked")).constData(), &info) == 0;
+    found.lockedInGit = FileStatus::exists(metadata + QStringLiteral("/locked"));
     return found;
-}
-
-RemovalEnvironment allowedPlaces(const ScanContext& context)
-{
-    RemovalEnvironment environment;
-    environment.home = context.home;
-    environment.otherVolumeFolders = context.roots;
-    return environment;
 }
 
 }  // namespace
@@ -126,8 +117,8 @@ bool pointsBack(const QString& worktree, const QString& metadata)
 
 bool isOffered(const Worktree& worktree, const ScanContext& context)
 {
-    const RemovalEnvironment places = allowedPlaces(context);
-    if (!TargetCheck::isInAllowedPlace(worktree.path, places) || !TargetCheck::isInAllowedPlace(worktree.metadata, places))
+    const auto allowed = [&](const QString& path) { return AllowedPlace::contains(path, context.home, context.roots); };
+    if (!allowed(worktree.path) || !allowed(worktree.metadata))
         return false;
     if (KnownLocations::isInSyncedHomeFolder(worktree.path, context.home))
         return false;

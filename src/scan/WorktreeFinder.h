@@ -1,14 +1,15 @@
 #pragma once
 
-#include "model/CategoryResult.h"
-#include "model/CleanupItem.h"
-#include "model/HashCombine.h"
-#include "scan/CancellationToken.h"
-#include "scan/ScanContext.h"
+#include "machinery/CancellationToken.h"
+#include "machinery/ScanContext.h"
+#include "vocabulary/CategoryResult.h"
+#include "vocabulary/CleanupItem.h"
+#include "vocabulary/HashCombine.h"
 
 #include <QList>
 #include <QString>
 #include <QStringList>
+
 #include <optional>
 
 // Lists the extra working copies that `git worktree add` made for the repositories the walk

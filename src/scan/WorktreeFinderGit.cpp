@@ -1,8 +1,8 @@
+#include "scan/GitCommand.h"
 #include "scan/WorktreeFinder.h"
 
-#include "scan/GitCommand.h"
-
 #include <QRegularExpression>
+
 #include <chrono>
 
 // The three git queries about one worktree. Each answers nothing when git fails, times out

@@ -1,14 +1,14 @@
-#include "scan/WorktreeFinder.h"
-
-#include "actions/RemovalReasons.h"
 #include "format/RelativeDate.h"
-#include "scan/Concurrency.h"
-#include "scan/FileSizer.h"
+#include "machinery/Concurrency.h"
+#include "machinery/FileSizer.h"
 #include "scan/GitCommand.h"
 #include "scan/ProjectInfo.h"
+#include "scan/WorktreeFinder.h"
+#include "vocabulary/RemovalReasons.h"
 
 #include <QCoreApplication>
 #include <QFile>
+
 #include <algorithm>
 #include <climits>
 #include <cstdlib>

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "model/CategoryID.h"
-#include "model/CleanupItem.h"
+#include "vocabulary/CategoryID.h"
+#include "vocabulary/CleanupItem.h"
 
 #include <QList>
 #include <QString>
+
 #include <functional>
 
 class AppModel;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/CategoryID.h"
+#include "vocabulary/CategoryID.h"
 
 #include <QIcon>
 

@@ -3,20 +3,11 @@
 #include "format/ByteCount.h"
 #include "model/AppModel.h"
 #include "model/SettingsStore.h"
+#include "vocabulary/PathRules.h"
 
 #include <QMap>
 
 namespace {
-
-// "~/Projects/app" for a folder inside the home folder, the path itself otherwise.
-QString shortPath(const QString& path, const QString& home)
-{
-    if (path == home)
-        return QStringLiteral("~");
-    if (path.startsWith(home + QLatin1Char('/')))
-        return QLatin1Char('~') + path.mid(home.size());
-    return path;
-}
 
 }  // namespace
 
@@ -85,7 +76,7 @@ CategoryListModel::Row CategoryListModel::sectionFor(const QString& key, const Q
     if (m_category == CategoryID::worktrees) {
         //: Section heading of worktrees whose repository is not known
         row.title = key.isEmpty() ? tr("Other worktrees") : key.section(QLatin1Char('/'), -1);
-        row.subtitle = shortPath(key, m_model->settings()->home());
+        row.subtitle = PathRules::withTilde(key, m_model->settings()->home());
         for (int i : members)
             row.size += m_items[i].size;
         return row;

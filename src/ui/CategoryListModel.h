@@ -1,7 +1,7 @@
 #pragma once
 
-#include "model/CategoryID.h"
-#include "model/CleanupItem.h"
+#include "vocabulary/CategoryID.h"
+#include "vocabulary/CleanupItem.h"
 
 #include <QAbstractListModel>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "model/CategoryID.h"
 #include "ui/AIQuestions.h"
+#include "vocabulary/CategoryID.h"
 
 #include <QWidget>
 

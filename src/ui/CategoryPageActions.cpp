@@ -1,10 +1,9 @@
 // The actions of a category page on its rows: the row menu, the questions for an AI
 // assistant, revealing a row in the file manager and the Safe List.
-#include "ui/CategoryPage.h"
-
 #include "model/AppModel.h"
 #include "model/SettingsStore.h"
 #include "ui/CategoryListModel.h"
+#include "ui/CategoryPage.h"
 
 #include <QDesktopServices>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/CleanupItem.h"
+#include "vocabulary/CleanupItem.h"
 
 #include <QWidget>
 

@@ -2,6 +2,7 @@
 
 #include <QStringList>
 #include <QWidget>
+
 #include <functional>
 
 class QLabel;

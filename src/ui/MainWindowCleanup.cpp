@@ -1,8 +1,7 @@
 // The cleanup sheet and quitting while files are being changed.
-#include "ui/MainWindow.h"
-
 #include "model/AppModel.h"
 #include "ui/CleanupSheet.h"
+#include "ui/MainWindow.h"
 
 #include <QCloseEvent>
 #include <QMessageBox>

@@ -1,8 +1,7 @@
 // Changing screens: a selection is never dropped by choosing another screen; the person is
 // asked to clean it or to clear it first.
-#include "ui/MainWindow.h"
-
 #include "model/AppModel.h"
+#include "ui/MainWindow.h"
 #include "ui/SelectionBar.h"
 #include "ui/Sidebar.h"
 

@@ -1,9 +1,8 @@
 // The toolbar of the main window: Scan / Stop, how far the scan has come, and free space.
-#include "ui/MainWindow.h"
-
 #include "format/ByteCount.h"
+#include "machinery/ScanProgress.h"
 #include "model/AppModel.h"
-#include "scan/ScanProgress.h"
+#include "ui/MainWindow.h"
 
 #include <QAction>
 #include <QHBoxLayout>

@@ -15,6 +15,7 @@
 #include <QStyle>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+
 #include <algorithm>
 
 namespace {

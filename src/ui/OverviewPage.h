@@ -1,8 +1,9 @@
 #pragma once
 
-#include "model/CategoryID.h"
+#include "vocabulary/CategoryID.h"
 
 #include <QWidget>
+
 #include <array>
 #include <functional>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "model/SafeItemInfo.h"
 #include "ui/FolderListEditor.h"
+#include "vocabulary/SafeItemInfo.h"
 
 #include <QWidget>
 

@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QVBoxLayout>
+
 #include <algorithm>
 
 SettingsPage::SettingsPage(SettingsStore* settings, QSettings* preferences, QList<AppLanguage::Option> languages,

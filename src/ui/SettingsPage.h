@@ -1,9 +1,10 @@
 #pragma once
 
-#include "model/AppLanguage.h"
 #include "ui/FolderListEditor.h"
+#include "vocabulary/AppLanguage.h"
 
 #include <QWidget>
+
 #include <functional>
 
 class QComboBox;

@@ -1,7 +1,7 @@
 #include "actions/DockerRemoval.h"
-#include "actions/RemovalReasons.h"
 #include "actions/Remover.h"
 #include "actions/ToolStandIn.h"
+#include "vocabulary/RemovalReasons.h"
 
 #include <gtest/gtest.h>
 

@@ -2,6 +2,7 @@
 #include "support/TempTree.h"
 
 #include <QDir>
+
 #include <gtest/gtest.h>
 
 namespace {

@@ -1,14 +1,15 @@
-#include "actions/RemovalReasons.h"
+#include "actions/Fingerprint.h"
 #include "actions/Remover.h"
 #include "actions/TargetCheck.h"
 #include "actions/TrashFixture.h"
-#include "actions/Fingerprint.h"
 #include "platform/Platform.h"
+#include "vocabulary/RemovalReasons.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+
 #include <sys/stat.h>
 
 namespace {

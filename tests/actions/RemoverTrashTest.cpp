@@ -1,12 +1,13 @@
 #include "actions/Fingerprint.h"
 #include "actions/FreedesktopTrash.h"
-#include "actions/RemovalReasons.h"
 #include "actions/Remover.h"
 #include "actions/SystemTrash.h"
 #include "actions/TrashFixture.h"
+#include "vocabulary/RemovalReasons.h"
 
 #include <QDir>
 #include <QFile>
+
 #include <sys/stat.h>
 
 namespace {

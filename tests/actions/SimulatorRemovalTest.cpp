@@ -1,6 +1,6 @@
-#include "actions/RemovalReasons.h"
 #include "actions/Remover.h"
 #include "actions/ToolStandIn.h"
+#include "vocabulary/RemovalReasons.h"
 
 #include <gtest/gtest.h>
 

@@ -8,6 +8,7 @@
 
 #include <QDir>
 #include <QFile>
+
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 

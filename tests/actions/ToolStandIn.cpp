@@ -1,6 +1,7 @@
 #include "actions/ToolStandIn.h"
 
 #include <QFile>
+
 #include <gtest/gtest.h>
 
 namespace {

@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+
 #include <sys/stat.h>
 
 void TrashFixture::SetUp()

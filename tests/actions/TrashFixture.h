@@ -1,10 +1,11 @@
 #pragma once
 
 #include "actions/RemovalEnvironment.h"
-#include "model/CleanupItem.h"
 #include "support/TempTree.h"
+#include "vocabulary/CleanupItem.h"
 
 #include <QStringList>
+
 #include <gtest/gtest.h>
 
 // A temporary home folder and the real freedesktop trash of the test environment, emptied

@@ -6,8 +6,9 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
-#include <gtest/gtest.h>
+
 #include <cstdio>
+#include <gtest/gtest.h>
 
 namespace {
 

@@ -3,6 +3,7 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
+
 #include <gtest/gtest.h>
 
 namespace {

@@ -4,6 +4,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QUuid>
+
 #include <gtest/gtest.h>
 
 namespace {

@@ -1,16 +1,15 @@
 #include "platform/Platform.h"
-
 #include "support/TempTree.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QFileInfo>
 #include <QProcess>
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstdlib>
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <thread>
 #include <unistd.h>
 

@@ -1,6 +1,6 @@
-#include "model/CategoryID.h"
 #include "scan/LocationScanner.h"
 #include "support/TempTree.h"
+#include "vocabulary/CategoryID.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -8,6 +8,7 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QStandardPaths>
+
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>

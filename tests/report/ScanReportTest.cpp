@@ -2,6 +2,7 @@
 #include "report/ScanReport.h"
 
 #include <QJsonArray>
+
 #include <gtest/gtest.h>
 
 TEST(ScanReport, EveryCategoryInOrderWithNullOptionals)

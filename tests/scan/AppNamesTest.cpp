@@ -2,6 +2,7 @@
 #include "support/TempTree.h"
 
 #include <QFile>
+
 #include <gtest/gtest.h>
 
 namespace {

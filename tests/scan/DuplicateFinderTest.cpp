@@ -1,6 +1,5 @@
-#include "scan/DuplicateFinder.h"
-
 #include "platform/Platform.h"
+#include "scan/DuplicateFinder.h"
 #include "support/TempTree.h"
 
 #include <QCryptographicHash>
@@ -8,6 +7,7 @@
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QThread>
+
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>

@@ -1,7 +1,7 @@
-#include "model/PathRules.h"
 #include "scan/KnownLocations.h"
 #include "scan/LocationScanner.h"
 #include "support/TempTree.h"
+#include "vocabulary/PathRules.h"
 
 #include <gtest/gtest.h>
 #include <map>

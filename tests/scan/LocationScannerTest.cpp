@@ -1,12 +1,12 @@
-#include "scan/LocationScanner.h"
-
-#include "scan/FileSizer.h"
+#include "machinery/FileSizer.h"
 #include "scan/KnownLocations.h"
+#include "scan/LocationScanner.h"
 #include "support/TempTree.h"
 
 #include <QFile>
 #include <QLocale>
 #include <QRegularExpression>
+
 #include <gtest/gtest.h>
 #include <unistd.h>
 

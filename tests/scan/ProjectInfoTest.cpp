@@ -1,8 +1,8 @@
 #include "scan/ProjectInfo.h"
-
 #include "support/TempTree.h"
 
 #include <QTimeZone>
+
 #include <gtest/gtest.h>
 
 namespace {

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
+
 #include <gtest/gtest.h>
 
 // The tests' own git: a private HOME and no system configuration, a fixed author and committer

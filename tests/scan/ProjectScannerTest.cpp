@@ -1,11 +1,11 @@
-#include "scan/ProjectScanner.h"
-
 #include "format/RelativeDate.h"
+#include "scan/ProjectScanner.h"
 #include "scan/ProjectScannerGit.h"
 #include "support/TempTree.h"
 
 #include <QFile>
 #include <QTimeZone>
+
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -49,7 +49,7 @@ protected:
         context.roots = {home};
     }
 
-    ScanOutputs scan(const QStringList& gitCandidates = Platform::gitCandidates()) const
+    ScanOutputs scan(const QStringList& gitCandidates = ToolLocations::gitCandidates()) const
     {
         return ProjectScanner(gitCandidates).scan(context);
     }

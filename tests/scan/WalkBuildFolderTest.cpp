@@ -1,6 +1,7 @@
 #include "WalkFixture.h"
 
 #include <QFile>
+
 #include <sys/stat.h>
 #include <unistd.h>
 

@@ -4,8 +4,9 @@
 #include "support/TempTree.h"
 
 #include <QProcess>
-#include <gtest/gtest.h>
+
 #include <algorithm>
+#include <gtest/gtest.h>
 #include <ostream>
 
 // Lets failing expectations print paths as text.

@@ -2,7 +2,7 @@
 // private mount namespace (unshare(1)), so nothing outside this test sees it; the test binary
 // re-runs itself there to walk and measure, and prints what it saw for the parent to check.
 
-#include "scan/FileSizer.h"
+#include "machinery/FileSizer.h"
 #include "scan/Walk.h"
 #include "support/TempTree.h"
 
@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QProcess>
 #include <QStandardPaths>
+
 #include <cstdio>
 #include <gtest/gtest.h>
 #include <sys/stat.h>

@@ -1,8 +1,8 @@
 #include "WalkFixture.h"
-
 #include "scan/ProjectScanner.h"
 
 #include <QFile>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 

@@ -1,12 +1,12 @@
-#include "scan/WorktreeFinder.h"
-
 #include "format/RelativeDate.h"
 #include "scan/ProjectScannerGit.h"
+#include "scan/WorktreeFinder.h"
 #include "support/TempTree.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTimeZone>
+
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>

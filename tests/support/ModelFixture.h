@@ -7,6 +7,7 @@
 
 #include <QSettings>
 #include <QTemporaryDir>
+
 #include <memory>
 
 // An AppModel over real stores on a temporary preferences file, with the scanners a test

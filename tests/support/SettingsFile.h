@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QSettings>
 #include <QTemporaryDir>
+
 #include <memory>
 #include <vector>
 

@@ -3,11 +3,12 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+
 #include <cerrno>
 #include <fcntl.h>
 #include <grp.h>
-#include <sys/wait.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 TempTree::TempTree() : m_root(QFileInfo(m_dir.path()).canonicalFilePath()) {}

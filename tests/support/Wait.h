@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QThread>
+
 #include <functional>
 
 // Runs the event loop until `done` holds or `timeoutMs` passes; returns whether it held.

@@ -1,5 +1,4 @@
 #include "WindowFixture.h"
-
 #include "support/Wait.h"
 #include "ui/CategoryItemDelegate.h"
 #include "ui/CategoryListModel.h"
@@ -7,7 +6,6 @@
 #include "ui/Toast.h"
 
 #include <QApplication>
-#include <atomic>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
@@ -21,6 +19,8 @@
 #include <QScrollBar>
 #include <QTest>
 #include <QToolTip>
+
+#include <atomic>
 #include <gtest/gtest.h>
 
 namespace {

@@ -1,5 +1,4 @@
 #include "WindowFixture.h"
-
 #include "format/ByteCount.h"
 #include "support/Wait.h"
 #include "ui/CategoryPage.h"
@@ -16,6 +15,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTreeView>
+
 #include <atomic>
 #include <gtest/gtest.h>
 

@@ -1,7 +1,6 @@
 #include "WindowFixture.h"
-
 #include "format/ByteCount.h"
-#include "scan/ScanProgress.h"
+#include "machinery/ScanProgress.h"
 #include "support/Wait.h"
 #include "ui/CategoryListModel.h"
 #include "ui/CategoryPage.h"
@@ -11,6 +10,7 @@
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QMessageBox>
+
 #include <gtest/gtest.h>
 
 namespace {

@@ -1,5 +1,4 @@
 #include "WindowFixture.h"
-
 #include "format/ByteCount.h"
 #include "support/ModelFixture.h"
 #include "support/Wait.h"
@@ -10,6 +9,7 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTreeWidget>
+
 #include <gtest/gtest.h>
 
 namespace {

@@ -1,5 +1,4 @@
 #include "WindowFixture.h"
-
 #include "support/ModelFixture.h"
 #include "support/Wait.h"
 #include "ui/SafeListPage.h"
@@ -9,6 +8,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTemporaryDir>
+
 #include <gtest/gtest.h>
 
 TEST(SafeListPage, RemovingAnItemTakesItOffTheListAndScansItsCategoryAgain)

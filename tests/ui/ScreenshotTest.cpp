@@ -1,7 +1,6 @@
 // Pictures of the main screens for the docs, taken only when DUSTLARK_SCREENSHOTS names the
 // folder to write them to.
 #include "WindowFixture.h"
-
 #include "support/Wait.h"
 #include "ui/CategoryPage.h"
 #include "ui/CleanupConfirmation.h"
@@ -10,6 +9,7 @@
 #include <QDir>
 #include <QPainter>
 #include <QPushButton>
+
 #include <gtest/gtest.h>
 
 namespace {

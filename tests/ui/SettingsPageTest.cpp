@@ -1,5 +1,4 @@
 #include "WindowFixture.h"
-
 #include "model/SettingsStore.h"
 #include "ui/SettingsPage.h"
 
@@ -8,6 +7,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTemporaryDir>
+
 #include <gtest/gtest.h>
 
 namespace {

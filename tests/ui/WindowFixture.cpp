@@ -13,6 +13,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
+
 #include <gtest/gtest.h>
 
 WindowFixture::WindowFixture()

@@ -10,6 +10,7 @@
 
 #include <QSettings>
 #include <QTemporaryDir>
+
 #include <memory>
 
 class CategoryPage;

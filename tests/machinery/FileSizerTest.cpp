@@ -1,0 +1,136 @@
+#include "machinery/FileSizer.h"
+#include "machinery/ScanProgress.h"
+#include "support/TempTree.h"
+
+#include <QFile>
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+namespace {
+
+qint64 allocated(const QString& path)
+{
+    struct stat info {};
+    if (::lstat(QFile::encodeName(path).constData(), &info) != 0)
+        return -1;
+    return static_cast<qint64>(info.st_blocks) * 512;
+}
+
+void setMode(const QString& path, mode_t mode)
+{
+    ::chmod(QFile::encodeName(path).constData(), mode);
+}
+
+QByteArray describe(const FileSizer::Measurement& m)
+{
+    return QByteArray::number(m.unreadable) + ' ' + (m.complete ? "complete" : "incomplete") + ' '
+        + QByteArray::number(m.files);
+}
+
+}  // namespace
+
+TEST(FileSizer, CountsBlocksOfFilesAndFoldersAndLogicalLengthOfFiles)
+{
+    TempTree tree;
+    const QString data = tree.file("top/data.bin", 300'000);
+    tree.sparseFile("top/sub/hole.bin", 50'000'000);
+    const FileSizer::Measurement m = FileSizer::measure(tree.path("top"));
+
+    const qint64 folders = allocated(tree.path("top")) + allocated(tree.path("top/sub"));
+    EXPECT_EQ(m.bytes, folders + allocated(data) + allocated(tree.path("top/sub/hole.bin")));
+    EXPECT_LT(m.bytes, 1'000'000) << "a hole takes no blocks";
+    EXPECT_EQ(m.logicalBytes, 50'300'000);
+    EXPECT_EQ(m.files, 2);
+}
+
+TEST(FileSizer, HardLinksCountOncePerMeasurement)
+{
+    TempTree tree;
+    const QString original = tree.file("top/a/original", 1'000'000);
+    tree.hardlink("top/b/second", "top/a/original");
+    tree.hardlink("other/third", "top/a/original");
+
+    const FileSizer::Measurement top = FileSizer::measure(tree.path("top"));
+    EXPECT_EQ(top.files, 1);
+    EXPECT_EQ(top.bytes, allocated(tree.path("top")) + allocated(tree.path("top/a"))
+                             + allocated(tree.path("top/b")) + allocated(original));
+
+    EXPECT_EQ(FileSizer::measure(tree.path("other")).files, 1) << "a separate measurement counts the file again";
+}
+
+TEST(FileSizer, SymbolicLinksAreCountedAsLinksAndNeverFollowed)
+{
+    TempTree tree;
+    tree.file("outside/big", 2'000'000);
+    tree.file("outside/folder/inner", 2'000'000);
+    tree.symlink("top/to-file", tree.path("outside/big"));
+    tree.symlink("top/to-folder", tree.path("outside/folder"));
+    tree.symlink("top/dangling", tree.path("nowhere"));
+
+    const FileSizer::Measurement m = FileSizer::measure(tree.path("top"));
+    EXPECT_EQ(m.files, 3);
+    EXPECT_EQ(m.logicalBytes, 0);
+    EXPECT_LT(m.bytes, 1'000'000);
+    EXPECT_EQ(FileSizer::measure(tree.path("top/to-folder")).files, 1) << "a linked top folder is the link itself";
+}
+
+TEST(FileSizer, LatestChangeTakesNewestFileAndFolderTime)
+{
+    TempTree tree;
+    tree.file("top/sub/old", 10);
+    tree.setTimes("top/sub/old", 4'000'000'000);  // beyond any status-change time of the test
+    EXPECT_EQ(FileSizer::measure(tree.path("top")).latestChange, 4'000'000'000);
+
+    tree.setTimes("top/sub", 5'000'000'000);
+    EXPECT_EQ(FileSizer::measure(tree.path("top")).latestChange, 5'000'000'000);
+}
+
+TEST(FileSizer, MeasuresASingleFileAndNothingForAMissingPath)
+{
+    TempTree tree;
+    const QString file = tree.file("lone", 5000);
+    EXPECT_EQ(FileSizer::measure(file).bytes, allocated(file));
+
+    const FileSizer::Measurement missing = FileSizer::measure(tree.path("missing"));
+    EXPECT_EQ(describe(missing), "1 incomplete 0");
+    EXPECT_EQ(missing.bytes, 0);
+}
+
+TEST(FileSizer, UnreadableSubfolderLeavesMeasurementCompleteButUnreadableTopDoesNot)
+{
+    TempTree tree;
+    tree.file("top/readable", 100);
+    tree.file("top/locked/secret", 100);
+    tree.file("locked-top/secret", 100);
+    setMode(tree.path("top/locked"), 0);
+    setMode(tree.path("locked-top"), 0);
+
+    const auto results = tree.runUnprivileged([&] {
+        return describe(FileSizer::measure(tree.path("top"))) + '|'
+            + describe(FileSizer::measure(tree.path("locked-top")));
+    });
+    setMode(tree.path("top/locked"), 0755);
+    setMode(tree.path("locked-top"), 0755);
+    if (!results)
+        GTEST_SKIP() << "running as root, and a child as 'nobody' could not be started to honour folder modes";
+    EXPECT_EQ(*results, "1 complete 1|1 incomplete 0");
+}
+
+TEST(FileSizer, PublishesEveryEntryAndStopsAtTheNextBatchOnceCancelled)
+{
+    TempTree tree;
+    for (int i = 0; i < 5000; ++i)
+        tree.file(QStringLiteral("top/d%1/f%2").arg(i % 10).arg(i));
+    ScanProgress progress;
+    EXPECT_EQ(FileSizer::measure(tree.path("top"), &progress).files, 5000);
+    EXPECT_EQ(progress.snapshot().entries, 5000 + 10 + 1);
+
+    progress.reset();
+    CancellationToken cancellation;
+    cancellation.cancel();
+    const FileSizer::Measurement stopped = FileSizer::measure(tree.path("top"), &progress, &cancellation);
+    EXPECT_FALSE(stopped.complete);
+    EXPECT_LT(stopped.files, 5000);
+    EXPECT_EQ(progress.snapshot().entries, 4096);
+}

@@ -1,0 +1,329 @@
+#include "machinery/ProcessRunner.h"
+#include "platform/Platform.h"
+#include "support/TempTree.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+
+#include <csignal>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <map>
+#include <string>
+#include <system_error>
+#include <thread>
+
+using namespace std::chrono_literals;
+using ProcessRunner::Output;
+using ::testing::HasSubstr;
+
+namespace {
+
+const QString helperTool = QStringLiteral(DUSTLARK_FIXTURES "/tools/helper-tool.sh");
+
+Output runHelper(const QStringList& arguments, std::chrono::milliseconds timeout = 60s,
+                 const ProcessRunner::Environment& extra = {}, const CancellationToken* cancellation = nullptr)
+{
+    const ProcessRunner::Result result = ProcessRunner::run(helperTool, arguments, timeout, extra, cancellation);
+    EXPECT_TRUE(result.launched()) << result.launchError.toStdString();
+    return result.output.value_or(Output{});
+}
+
+// Texts compared as std::string, so a failure prints them readably.
+std::string text(const QString& string)
+{
+    return string.toStdString();
+}
+
+std::map<std::string, std::string> text(const ProcessRunner::Environment& environment)
+{
+    std::map<std::string, std::string> result;
+    for (auto it = environment.cbegin(); it != environment.cend(); ++it)
+        result.emplace(text(it.key()), text(it.value()));
+    return result;
+}
+
+// True once the process is gone or has ended and waits only to be collected (a zombie: an
+// orphan whose new parent never collects it stays one).
+bool hasEnded(pid_t pid)
+{
+    if (::kill(pid, 0) != 0)
+        return true;
+    QProcess ps;
+    ps.start(QStringLiteral("/bin/ps"), {QStringLiteral("-o"), QStringLiteral("stat="), QStringLiteral("-p"), QString::number(pid)});
+    ps.waitForFinished();
+    const QByteArray state = ps.readAllStandardOutput().trimmed();
+    return state.isEmpty() || state.startsWith('Z');
+}
+
+bool endsWithin(pid_t pid, std::chrono::seconds limit)
+{
+    const auto giveUp = std::chrono::steady_clock::now() + limit;
+    while (!hasEnded(pid)) {
+        if (std::chrono::steady_clock::now() > giveUp)
+            return false;
+        std::this_thread::sleep_for(50ms);
+    }
+    return true;
+}
+
+}  // namespace
+
+TEST(ProcessRunner, PassesArgumentsWithoutAShellAndReportsTheExitStatus)
+{
+    const Output listed = runHelper({QStringLiteral("arguments"), QStringLiteral("two words"), QStringLiteral("$HOME"),
+                                     QString(), QStringLiteral("café")});
+    EXPECT_EQ(listed.status, 0);
+    EXPECT_EQ(text(listed.standardOutput), "two words\n$HOME\n\ncafé\n");
+
+    const Output failed = runHelper({QStringLiteral("exit"), QStringLiteral("3")});
+    EXPECT_EQ(failed.status, 3);
+    EXPECT_EQ(text(failed.errorMessage()), "Exit code 3");
+}
+
+TEST(ProcessRunner, ErrorMessagePrefersTrimmedErrorOutputThenStandardOutput)
+{
+    const Output blankError = runHelper({QStringLiteral("blank-error")});
+    EXPECT_EQ(blankError.status, 1);
+    EXPECT_EQ(text(blankError.errorMessage()), "Cannot connect to the daemon.");
+
+    const Output longError = runHelper({QStringLiteral("long-error")});
+    EXPECT_EQ(text(longError.errorMessage()), std::string(300, 'a'));
+
+    const Output both{1, QStringLiteral("progress"), QStringLiteral(" denied \n"), false};
+    EXPECT_EQ(text(both.errorMessage()), "denied");
+
+    // Capped at 300 characters, never splitting a surrogate pair.
+    const QString emoji = QString::fromUtf8("\xF0\x9F\x98\x80");  // two UTF-16 units
+    const Output output{1, {}, QString(299, QLatin1Char('x')) + emoji + QStringLiteral("tail"), false};
+    EXPECT_EQ(text(output.errorMessage()), text(QString(299, QLatin1Char('x')) + emoji));
+
+    const Output timedOut{15, {}, QStringLiteral("partial"), true};
+    EXPECT_EQ(text(timedOut.errorMessage()), "The tool didn't answer in time.");
+}
+
+TEST(ProcessRunner, DecodesInvalidUtf8WithReplacementAndGivesEmptyInput)
+{
+    EXPECT_EQ(text(runHelper({QStringLiteral("invalid-utf8")}).standardOutput), "café \uFFFD!");
+    EXPECT_EQ(text(runHelper({QStringLiteral("read-input")}).standardOutput), "end of input\n");
+}
+
+TEST(ProcessRunner, LaunchFailuresCarryTheSystemsReason)
+{
+    TempTree tree;
+    const QString plainFile = tree.file(QStringLiteral("not-a-program"), QByteArray("#!/bin/sh\necho hi\n"));
+
+    const ProcessRunner::Result missing = ProcessRunner::run(tree.path(QStringLiteral("missing")), {}, 10s);
+    EXPECT_FALSE(missing.launched());
+    EXPECT_EQ(text(missing.launchError), std::generic_category().message(ENOENT));
+
+    const ProcessRunner::Result notExecutable = ProcessRunner::run(plainFile, {}, 10s);
+    EXPECT_FALSE(notExecutable.launched());
+    EXPECT_EQ(text(notExecutable.launchError), std::generic_category().message(EACCES));
+
+    const ProcessRunner::Result folder = ProcessRunner::run(tree.dir(QStringLiteral("folder")), {}, 10s);
+    EXPECT_FALSE(folder.launched());
+    EXPECT_FALSE(folder.launchError.isEmpty());
+}
+
+TEST(ProcessRunner, FirstExecutableSkipsMissingFoldersAndPlainFiles)
+{
+    TempTree tree;
+    tree.dir(QStringLiteral("folder"));
+    tree.file(QStringLiteral("plain"), 10);
+    const QString program = tree.file(QStringLiteral("program"), QByteArray("#!/bin/sh\n"));
+    QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    const QString link = tree.symlink(QStringLiteral("link"), program);
+
+    const QStringList skipped{tree.path(QStringLiteral("missing")), tree.path(QStringLiteral("folder")),
+                              tree.path(QStringLiteral("plain"))};
+    EXPECT_EQ(text(ProcessRunner::firstExecutable(skipped + QStringList{program, link}).value_or(QString())), text(program));
+    EXPECT_EQ(text(ProcessRunner::firstExecutable(skipped + QStringList{link, program}).value_or(QString())), text(link));
+    EXPECT_EQ(ProcessRunner::firstExecutable(skipped), std::nullopt);
+}
+
+TEST(ProcessRunner, TimeLimitStopsTheToolAndKeepsWhatItWrote)
+{
+    const Output output = runHelper({QStringLiteral("sleep")}, 300ms);
+    EXPECT_TRUE(output.timedOut);
+    EXPECT_EQ(output.status, SIGTERM);
+    EXPECT_EQ(text(output.standardOutput), "started\n");
+}
+
+TEST(ProcessRunner, ToolIgnoringTerminationIsKilledWithItsChild)
+{
+    const Output output = runHelper({QStringLiteral("ignore-term")}, 500ms);
+    EXPECT_TRUE(output.timedOut);
+    EXPECT_EQ(output.status, SIGKILL);
+    bool ok = false;
+    const pid_t child = output.standardOutput.trimmed().toInt(&ok);
+    ASSERT_TRUE(ok) << output.standardOutput.toStdString();
+    EXPECT_TRUE(endsWithin(child, 10s));
+}
+
+TEST(ProcessRunner, CancellationFromAnotherThreadStopsTheTool)
+{
+    TempTree tree;
+    const QString marker = tree.path(QStringLiteral("started"));
+    CancellationToken cancellation;
+    std::thread canceller([&] {
+        for (int round = 0; round < 3000 && !QFile::exists(marker); ++round)
+            std::this_thread::sleep_for(10ms);
+        cancellation.cancel();
+    });
+    const Output output = runHelper({QStringLiteral("sleep"), marker}, 120s, {}, &cancellation);
+    canceller.join();
+
+    EXPECT_FALSE(output.timedOut);
+    EXPECT_EQ(output.status, SIGTERM);
+    EXPECT_EQ(text(output.standardOutput), "started\n");
+
+    // A caller cancelled before the start stops the tool at once.
+    EXPECT_EQ(runHelper({QStringLiteral("sleep")}, 120s, {}, &cancellation).status, SIGTERM);
+}
+
+TEST(ProcessRunner, GrandchildHoldingTheOutputDoesNotHoldTheCaller)
+{
+    const Output output = runHelper({QStringLiteral("leave-grandchild")}, 120s);
+    EXPECT_EQ(output.status, 0);
+    const QStringList lines = output.standardOutput.split(QLatin1Char('\n'));
+    ASSERT_GE(lines.size(), 2);
+    EXPECT_EQ(text(lines[1]), "own output");
+    const pid_t grandchild = lines[0].toInt();
+    ASSERT_GT(grandchild, 0);
+    EXPECT_FALSE(hasEnded(grandchild));  // the call came back while the pipe was still held
+    ::kill(grandchild, SIGKILL);
+}
+
+TEST(ProcessRunner, CleanedEnvironmentDropsToolChangingVariablesAndFixesPath)
+{
+    const ProcessRunner::Environment inherited{
+        {QStringLiteral("HOME"), QStringLiteral("/Users/ann")},     {QStringLiteral("LANG"), QStringLiteral("en_US.UTF-8")},
+        {QStringLiteral("GIT_DIR"), QStringLiteral("/elsewhere")},  {QStringLiteral("LD_PRELOAD"), QStringLiteral("x.so")},
+        {QStringLiteral("LD_LIBRARY_PATH"), QStringLiteral("/l")},  {QStringLiteral("DYLD_LIBRARY_PATH"), QStringLiteral("/d")},
+        {QStringLiteral("BUILDX_BUILDER"), QStringLiteral("b")},    {QStringLiteral("PATH"), QStringLiteral("/evil")},
+        {QStringLiteral("MY_GIT_DIR"), QStringLiteral("kept")},     {QStringLiteral("git_dir"), QStringLiteral("kept")},
+    };
+    const ProcessRunner::Environment expected{
+        {QStringLiteral("HOME"), QStringLiteral("/Users/ann")},
+        {QStringLiteral("LANG"), QStringLiteral("en_US.UTF-8")},
+        {QStringLiteral("MY_GIT_DIR"), QStringLiteral("kept")},
+        {QStringLiteral("git_dir"), QStringLiteral("kept")},
+        {QStringLiteral("PATH"),
+         QStringLiteral("/usr/bin:/bin:/usr/sbin:/sbin:/usr/local/bin:/opt/homebrew/bin:/Users/ann/.docker/bin")},
+    };
+    EXPECT_EQ(text(ProcessRunner::cleanedEnvironment(inherited, QStringLiteral("/Users/ann"))), text(expected));
+}
+
+TEST(ProcessRunner, ExtraEnvironmentWinsOverTheBase)
+{
+    const QStringList names{QStringLiteral("environment"), QStringLiteral("PATH"), QStringLiteral("DOCKER_HOST")};
+    const QString basePath = ProcessRunner::baseEnvironment().value(QStringLiteral("PATH"));
+    EXPECT_TRUE(basePath.endsWith(QDir::homePath() + QStringLiteral("/.docker/bin"))) << basePath.toStdString();
+    EXPECT_EQ(text(runHelper(names).standardOutput), "PATH=" + text(basePath) + "\nDOCKER_HOST unset\n");
+
+    const ProcessRunner::Environment extra{{QStringLiteral("PATH"), QStringLiteral("/only/here")},
+                                           {QStringLiteral("DOCKER_HOST"), QStringLiteral("unix:///tmp/d.sock")}};
+    EXPECT_EQ(text(runHelper(names, 60s, extra).standardOutput), "PATH=/only/here\nDOCKER_HOST=unix:///tmp/d.sock\n");
+}
+
+// The base environment is computed once per process, so the inherited variables are given to a
+// second run of this test program, where this probe checks what reaches a tool.
+TEST(ProcessRunnerEnvironmentProbe, InheritedToolVariablesAreRemoved)
+{
+    if (qEnvironmentVariable("DUSTLARK_ENVIRONMENT_PROBE") != QLatin1String("1"))
+        GTEST_SKIP() << "runs only inside ProcessRunner.InheritedToolVariablesNeverReachTheTool";
+    const Output output = runHelper({QStringLiteral("environment"), QStringLiteral("GIT_DIR"),
+                                     QStringLiteral("LD_LIBRARY_PATH"), QStringLiteral("DYLD_LIBRARY_PATH"),
+                                     QStringLiteral("BUILDX_BUILDER"), QStringLiteral("DUSTLARK_ENVIRONMENT_PROBE")});
+    EXPECT_EQ(text(output.standardOutput), "GIT_DIR unset\nLD_LIBRARY_PATH unset\nDYLD_LIBRARY_PATH unset\n"
+                                           "BUILDX_BUILDER unset\nDUSTLARK_ENVIRONMENT_PROBE=1\n");
+}
+
+TEST(ProcessRunner, InheritedToolVariablesNeverReachTheTool)
+{
+    const ProcessRunner::Environment inherited{
+        {QStringLiteral("DUSTLARK_ENVIRONMENT_PROBE"), QStringLiteral("1")},
+        {QStringLiteral("GIT_DIR"), QStringLiteral("/nowhere/.git")},
+        {QStringLiteral("LD_LIBRARY_PATH"), QStringLiteral("/nowhere/lib")},
+        {QStringLiteral("DYLD_LIBRARY_PATH"), QStringLiteral("/nowhere/lib")},
+        {QStringLiteral("BUILDX_BUILDER"), QStringLiteral("nowhere")},
+    };
+    const ProcessRunner::Result result = ProcessRunner::run(
+        QCoreApplication::applicationFilePath(),
+        {QStringLiteral("--gtest_filter=ProcessRunnerEnvironmentProbe.*")}, 120s, inherited);
+    ASSERT_TRUE(result.launched()) << result.launchError.toStdString();
+    EXPECT_EQ(result.output->status, 0) << result.output->standardOutput.toStdString();
+    EXPECT_THAT(result.output->standardOutput.toStdString(), HasSubstr("[  PASSED  ] 1 test"));
+}
+
+TEST(ProcessRunner, AppendCappedKeepsAtMostTheCap)
+{
+    QByteArray buffer;
+    ProcessRunner::appendCapped(buffer, "aaaaaa", 6, 10);
+    ProcessRunner::appendCapped(buffer, "bbbbbb", 6, 10);
+    EXPECT_EQ(buffer, QByteArray("aaaaaabbbb"));
+    ProcessRunner::appendCapped(buffer, "cc", 2, 10);
+    EXPECT_EQ(buffer, QByteArray("aaaaaabbbb"));
+}
+
+TEST(ProcessRunner, ProcessTreeListsDescendantsBeforeTheirParent)
+{
+    QProcess tool;
+    tool.start(helperTool, {QStringLiteral("tree")});
+    ASSERT_TRUE(tool.waitForStarted());
+    QMap<QString, pid_t> ids;
+    while (ids.size() < 3 && tool.waitForReadyRead(10000)) {
+        while (tool.canReadLine()) {
+            const QStringList parts = QString::fromUtf8(tool.readLine()).trimmed().split(QLatin1Char(' '));
+            ids.insert(parts.value(0), parts.value(1).toInt());
+        }
+    }
+    ASSERT_EQ(ids.size(), 3);
+    const pid_t root = pid_t(tool.processId());
+
+    const std::vector<ProcessRunner::StoppedProcess> tree = ProcessRunner::processTree(root);
+    std::vector<pid_t> order;
+    for (const ProcessRunner::StoppedProcess& process : tree)
+        order.push_back(process.pid);
+    for (const ProcessRunner::StoppedProcess& process : tree)
+        ::kill(process.pid, SIGKILL);
+    tool.waitForFinished();
+
+    ASSERT_EQ(order.size(), 4u);
+    const auto position = [&](pid_t pid) { return std::find(order.begin(), order.end(), pid) - order.begin(); };
+    EXPECT_LT(position(ids[QStringLiteral("grandchild")]), position(ids[QStringLiteral("middle")]));
+    EXPECT_LT(position(ids[QStringLiteral("child")]), 3);
+    EXPECT_EQ(order.back(), root);
+}
+
+TEST(ProcessRunner, ForcedKillSparesAProcessWhoseIdWasReused)
+{
+    QProcess sleeper;
+    sleeper.start(QStringLiteral("/bin/sleep"), {QStringLiteral("300")});
+    ASSERT_TRUE(sleeper.waitForStarted());
+    const pid_t pid = pid_t(sleeper.processId());
+    const std::optional<qint64> started = Platform::processStartTime(pid);
+    ASSERT_TRUE(started.has_value());
+
+    // A recorded start time that differs stands for an id now held by another program.
+    ProcessRunner::killUnchanged({{pid, *started + 1}});
+    EXPECT_FALSE(sleeper.waitForFinished(300));
+    EXPECT_EQ(sleeper.state(), QProcess::Running);
+
+    ProcessRunner::killUnchanged({{pid, *started}});
+    EXPECT_TRUE(sleeper.waitForFinished(10000));
+    EXPECT_EQ(sleeper.exitStatus(), QProcess::CrashExit);
+}
+
+TEST(ProcessRunner, RunsLeaveNoDescriptorsOpen)
+{
+    const auto openDescriptors = [] { return QDir(QStringLiteral("/dev/fd")).entryList(QDir::AllEntries | QDir::System).size(); };
+    const qsizetype before = openDescriptors();
+    runHelper({QStringLiteral("exit"), QStringLiteral("0")});
+    runHelper({QStringLiteral("sleep")}, 100ms);
+    EXPECT_FALSE(ProcessRunner::run(QStringLiteral("/no/such/tool"), {}, 10s).launched());
+    EXPECT_EQ(openDescriptors(), before);
+}

@@ -1,0 +1,176 @@
+#include "vocabulary/CleanupItem.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QString home = QStringLiteral("/Users/a");
+
+FileTarget target(const QString& path)
+{
+    FileTarget t;
+    t.path = path;
+    return t;
+}
+
+CleanupItem item(CategoryID category, const QString& path = {}, std::optional<Safety> level = std::nullopt)
+{
+    CleanupItem i;
+    i.id = path.isEmpty() ? QStringLiteral("x") : path;
+    i.category = category;
+    QList<FileTarget> targets;
+    if (!path.isEmpty())
+        targets.append(target(path));
+    i.removal = Removal::trash(targets);
+    i.safetyLevel = level;
+    return i;
+}
+
+CleanupItem dockerItem(DockerOperation operation)
+{
+    CleanupItem i = item(CategoryID::docker);
+    i.removal = Removal::docker(std::move(operation));
+    return i;
+}
+
+struct PathCase {
+    CategoryID category;
+    const char* path;
+    Safety expected;
+};
+
+}  // namespace
+
+TEST(CleanupItemSafety, PathRulesOfEveryPathDrivenCategory)
+{
+    const PathCase cases[] = {
+        {CategoryID::xcode, "/Users/a/Library/Developer/Xcode/Archives/2024/App.xcarchive", Safety::risky},
+        {CategoryID::xcode, "/Applications/Xcode-15.app", Safety::askAI},
+        {CategoryID::xcode, "/Applications/Xcode-15.app/Contents", Safety::safe},
+        {CategoryID::xcode, "/Users/a/Library/Developer/Xcode/DerivedData/App-x", Safety::safe},
+        {CategoryID::android, "/Users/a/.android/avd/Pixel.avd", Safety::risky},
+        {CategoryID::android, "/Users/a/Library/Caches/Google/AndroidStudio2024.1", Safety::askAI},
+        {CategoryID::android, "/Users/a/Library/Android/sdk/ndk/26", Safety::askAI},
+        {CategoryID::android, "/Users/a/.gradle/jdks/jdk-17", Safety::askAI},
+        {CategoryID::android, "/Users/a/.gradle/caches", Safety::safe},
+        {CategoryID::packageCaches, "/Users/a/.m2/repository", Safety::risky},
+        {CategoryID::packageCaches, "/Users/a/.m2/repository/org", Safety::safe},
+        {CategoryID::packageCaches, "/Users/a/Library/pnpm/store", Safety::askAI},
+        {CategoryID::packageCaches, "/Users/a/Library/Caches/ms-playwright", Safety::askAI},
+        {CategoryID::packageCaches, "/Users/a/.cache/puppeteer", Safety::askAI},
+        {CategoryID::packageCaches, "/Users/a/Library/Caches/pypoetry", Safety::askAI},
+        {CategoryID::packageCaches, "/Users/a/.npm/_cacache", Safety::safe},
+        {CategoryID::editors, "/Users/a/Library/Caches/JetBrains/IntelliJIdea2024.1", Safety::askAI},
+        {CategoryID::logs, "/Users/a/Library/Caches/JetBrains/x", Safety::askAI},
+        {CategoryID::browserCaches, "/Users/a/Library/Caches/Google/Chrome", Safety::safe},
+        {CategoryID::appCaches, "/Users/a/Library/Caches/com.apple.Safari", Safety::askAI},
+        {CategoryID::appCaches, "/Users/a/Library/Caches/com.spotify.client", Safety::safe},
+        {CategoryID::appCaches, "/Users/a/Library/Containers/com.apple.mail/Data/Library/Caches", Safety::askAI},
+        {CategoryID::appCaches, "/Users/a/Library/Containers/com.tinyspeck.slack/Data/Library/Caches", Safety::safe},
+        // Mail Downloads leaves the container rule and is judged by its last component.
+        {CategoryID::appCaches, "/Users/a/Library/Containers/com.apple.mail/Data/Library/Mail Downloads", Safety::safe},
+        {CategoryID::appCaches, "/Users/a/Library/Group Containers/group.com.apple.notes/Caches", Safety::askAI},
+        {CategoryID::devices, "/Users/a/Library/Application Support/MobileSync/Backup/0000-1111", Safety::risky},
+        {CategoryID::devices, "/Users/a/Library/iTunes/iPhone Software Updates/iPhone.ipsw", Safety::safe},
+        {CategoryID::temporary, "/Users/a/tmp/old-build", Safety::askAI},
+        {CategoryID::temporary, "/Users/ab/tmp/old-build", Safety::safe},
+        {CategoryID::temporary, "/private/var/folders/xy/T/thing", Safety::safe},
+    };
+    for (const PathCase& c : cases)
+        EXPECT_EQ(item(c.category, QString::fromUtf8(c.path)).safety(home), c.expected) << c.path;
+}
+
+TEST(CleanupItemSafety, FixedLabelsIgnoreTheScannersVerdict)
+{
+    for (CategoryID category : {CategoryID::aiModels, CategoryID::installers, CategoryID::oldDownloads, CategoryID::duplicates})
+        EXPECT_EQ(item(category, "/Users/a/f", Safety::safe).safety(home), Safety::askAI);
+    for (CategoryID category : {CategoryID::apps, CategoryID::largeFiles, CategoryID::trash})
+        EXPECT_EQ(item(category, "/Users/a/f", Safety::safe).safety(home), Safety::risky);
+    EXPECT_EQ(item(CategoryID::browserCaches, "/Users/a/x", Safety::risky).safety(home), Safety::safe);
+}
+
+TEST(CleanupItemSafety, ScannersVerdictWinsWhereTheCategoryConsultsIt)
+{
+    // Without a verdict each category has its own default.
+    EXPECT_EQ(item(CategoryID::projects, "/p/node_modules").safety(home), Safety::safe);
+    EXPECT_EQ(item(CategoryID::worktrees, "/p/wt").safety(home), Safety::risky);
+    EXPECT_EQ(item(CategoryID::aiAgents, "/Users/a/.claude/x").safety(home), Safety::askAI);
+    const PathCase cases[] = {
+        {CategoryID::projects, "/p/build", Safety::askAI},
+        {CategoryID::worktrees, "/p/wt", Safety::askAI},
+        {CategoryID::aiAgents, "/Users/a/.claude/x", Safety::safe},
+        {CategoryID::xcode, "/Users/a/Library/Developer/Xcode/Archives/a", Safety::askAI},
+        {CategoryID::temporary, "/tmp/x", Safety::risky},  // counts even outside the home folder
+    };
+    for (const PathCase& c : cases)
+        EXPECT_EQ(item(c.category, QString::fromUtf8(c.path), c.expected).safety(home), c.expected) << c.path;
+}
+
+TEST(CleanupItemSafety, ItemsWithoutTargetsAreSafeAndLeftoversAskWhenTheyHoldPersonalData)
+{
+    for (CategoryID category : {CategoryID::xcode, CategoryID::devices, CategoryID::temporary, CategoryID::packageCaches})
+        EXPECT_EQ(item(category).safety(home), Safety::safe);
+    CleanupItem leftover = item(CategoryID::leftovers, "/Users/a/Library/Application Support/com.x.app");
+    EXPECT_EQ(leftover.safety(home), Safety::safe);
+    leftover.userData = {"/Users/a/Library/Application Support/com.x.app/Documents"};
+    EXPECT_EQ(leftover.safety(home), Safety::askAI);
+}
+
+TEST(CleanupItemSafety, DockerLabelsFollowTheOperation)
+{
+    EXPECT_EQ(dockerItem({DockerOperation::Volume{"db", "2024-01-01"}}).safety(home), Safety::risky);
+    EXPECT_EQ(dockerItem({DockerOperation::BuildCache{}}).safety(home), Safety::safe);
+    EXPECT_EQ(dockerItem({DockerOperation::Container{"abc"}}).safety(home), Safety::askAI);
+    EXPECT_EQ(dockerItem({DockerOperation::Image{"sha256:1", {}, {}}}).safety(home), Safety::askAI);
+    EXPECT_EQ(item(CategoryID::docker, "/Users/a/x").safety(home), Safety::askAI);
+}
+
+TEST(CleanupItemSafety, SimulatorRuntimesAlwaysAsk)
+{
+    CleanupItem runtime = item(CategoryID::simulators, {}, Safety::safe);
+    runtime.removal = {Removal::SimulatorRuntime{"com.apple.runtime.17"}};
+    EXPECT_EQ(runtime.safety(home), Safety::askAI);
+    CleanupItem device = item(CategoryID::simulators, {}, Safety::safe);
+    device.removal = {Removal::SimulatorDevice{"UDID", std::nullopt}};
+    EXPECT_EQ(device.safety(home), Safety::safe);
+    device.safetyLevel.reset();
+    EXPECT_EQ(device.safety(home), Safety::askAI);
+}
+
+TEST(CleanupItem, MovingNeedsPathsNoLockAndNotAWorktree)
+{
+    EXPECT_TRUE(item(CategoryID::largeFiles, "/Users/a/big.mov").canMoveToAnotherDisk());
+    EXPECT_FALSE(item(CategoryID::largeFiles).canMoveToAnotherDisk());
+    CleanupItem locked = item(CategoryID::largeFiles, "/Users/a/big.mov");
+    locked.lockedReason = QStringLiteral("Running.");
+    EXPECT_FALSE(locked.canMoveToAnotherDisk());
+    EXPECT_FALSE(item(CategoryID::worktrees, "/Users/a/wt").canMoveToAnotherDisk());
+    EXPECT_FALSE(dockerItem({DockerOperation::BuildCache{}}).canMoveToAnotherDisk());
+}
+
+TEST(CleanupItem, EqualityAndHashCoverNestedFields)
+{
+    const auto expectDiffer = [](const CleanupItem& a, const CleanupItem& b) {
+        EXPECT_NE(a, b);
+        EXPECT_NE(qHash(a), qHash(b));
+    };
+    const CleanupItem a = item(CategoryID::projects, "/p/node_modules");
+    CleanupItem b = a;
+    EXPECT_EQ(qHash(a), qHash(b));
+    FileTarget stamped = target("/p/node_modules");
+    stamped.content = FileTarget::ContentStamp{1, 2};
+    b.removal = Removal::trash({stamped});
+    expectDiffer(a, b);
+    CleanupItem c = a;
+    c.isOldestCopy = true;
+    expectDiffer(a, c);
+    expectDiffer(dockerItem({DockerOperation::Image{"i", {"c1"}, {}}}), dockerItem({DockerOperation::Image{"i", {"c2"}, {}}}));
+}
+
+TEST(Removal, PathsOnlyForTrashRemovals)
+{
+    EXPECT_EQ(Removal::trash({target("/a"), target("/b")}).paths(), QStringList({"/a", "/b"}));
+    EXPECT_TRUE(Removal::docker({DockerOperation::BuildCache{}}).paths().isEmpty());
+    EXPECT_FALSE(Removal::trash({}).isPermanent());
+    EXPECT_TRUE(Removal{Removal::EmptyTrash{}}.isPermanent());
+}
