@@ -79,33 +79,3 @@ TEST(SafeListPage, AnItemWhoseStoredDetailsAreLostStillShowsByItsId)
     buttonsTitled(page, "Remove from List").first()->click();
     EXPECT_EQ(settings.safeItems(), QStringList({"docker:buildcache"}));
 }
-
-// Not a check: DUSTLARK_SCREENSHOTS=<folder> saves a picture of a filled Safe List for the docs.
-TEST(SafeListPage, Screenshot)
-{
-    const QString folder = qEnvironmentVariable("DUSTLARK_SCREENSHOTS");
-    if (folder.isEmpty())
-        GTEST_SKIP() << "set DUSTLARK_SCREENSHOTS to a folder to save a screenshot";
-    ModelFixture fixture;
-    QDateTime added = QDateTime::currentDateTime();
-    fixture.settings().setClock([&added] { return added; });
-    CleanupItem build = rowAt(CategoryID::projects, "/Users/a/code/shop/node_modules", 1'240'000'000);
-    build.detail = "shop · npm · changed 3 weeks ago";
-    CleanupItem model = rowAt(CategoryID::aiModels, "/Users/a/.ollama/models/llama3", 4'700'000'000);
-    model.title = "llama3:8b";
-    model.detail = "Ollama · used 2 months ago";
-    CleanupItem logs = rowAt(CategoryID::logs, "/Users/a/Library/Logs/Xcode", 86'000'000);
-    logs.detail = "Xcode · 412 files";
-    for (const CleanupItem& item : {build, model, logs}) {
-        added = added.addDays(-9);
-        fixture.settings().addSafeItem(item);
-    }
-    fixture.settings().addSafeFolder("/Users/a/Clients/Archive");
-    fixture.settings().addSafeFolder("/Users/a/Movies/Raw Footage");
-    SafeListPage page(&fixture.model());
-    page.resize(1000, 720);
-    page.show();
-    QCoreApplication::processEvents();  // lets the layouts settle before the picture
-    ASSERT_TRUE(QDir().mkpath(folder));
-    EXPECT_TRUE(page.grab().save(QDir(folder).filePath("safe-list.png")));
-}

@@ -1,0 +1,145 @@
+// The projects list with a selection, and the cleanup sheets over it.
+#include "Scenes.h"
+#include "support/Wait.h"
+#include "ui/CategoryPage.h"
+#include "ui/CleanupConfirmation.h"
+#include "ui/CleanupSheet.h"
+#include "ui/WindowFixture.h"
+
+#include <QPushButton>
+
+namespace {
+
+struct Project {
+    const char* folder;
+    const char* project;
+    const char* badge;
+    qint64 size;
+    int daysAgo;
+};
+
+const Project projects[] = {
+    {"node_modules", "shop-web", "npm", 1'240'000'000, 3},
+    {"build", "tracker-android", "Gradle", 2'310'000'000, 41},
+    {".venv", "notebook-lab", "Python", 865'000'000, 120},
+    {"DerivedData", "Weatherly", "Xcode", 3'480'000'000, 9},
+    {"target", "ledger-rs", "Cargo", 5'120'000'000, 200},
+    {"node_modules", "admin-dashboard", "npm", 712'000'000, 65},
+    {".build", "swift-markdown-kit", "SwiftPM", 298'000'000, 14},
+    {"dist", "landing-page", "Vite", 48'300'000, 0},
+    {".gradle", "tracker-android", "Gradle", 402'000'000, 41},
+    {"node_modules", "blog-2019", "npm", 534'000'000, 730},
+    {".next", "shop-web", "Next.js", 187'000'000, 3},
+    {"vendor", "legacy-api", "Composer", 96'400'000, 400},
+};
+
+CleanupItem projectRow(const QString& home, const Project& project, const QDateTime& now)
+{
+    const QString folder = home + "/Projects/" + project.project;
+    CleanupItem row;
+    row.id = folder + "/" + project.folder;
+    row.category = CategoryID::projects;
+    row.title = project.folder;
+    row.badge = QString(project.badge);
+    row.detail = "~/Projects/" + QString(project.project) + " · rebuilt by " + project.badge;
+    row.size = project.size;
+    row.projectPath = folder;
+    row.date = project.daysAgo == 0 ? now.addSecs(-3 * 3600) : now.addDays(-project.daysAgo);
+    row.removal = Removal::trash({});
+    if (project.daysAgo == 0)
+        row.lockedReason = "Changed in the last day; a build may be running.";
+    return row;
+}
+
+// A window over a dozen build folders and two large files, scanned and showing Projects.
+class ProjectsWindow {
+public:
+    ProjectsWindow()
+    {
+        const QString home = m_fixture.home().root();
+        const QDateTime now = QDateTime::currentDateTime();
+        for (const Project& project : projects)
+            m_rows.append(projectRow(home, project, now));
+        m_fixture.home().file("Movies/Final Cut Backups/wedding-raw.mov", 40'000);
+        m_fixture.home().file("Downloads/Xcode_15.2.xip", 30'000);
+        m_movie = fileRow(m_fixture.home(), CategoryID::largeFiles, "Movies/Final Cut Backups/wedding-raw.mov");
+        m_movie.size = 18'400'000'000;
+        m_movie.detail = "~/Movies/Final Cut Backups";
+        m_xip = fileRow(m_fixture.home(), CategoryID::largeFiles, "Downloads/Xcode_15.2.xip");
+        m_xip.size = 3'050'000'000;
+        m_xip.detail = "~/Downloads";
+        m_fixture.start({scannerOf(CategoryID::projects, m_rows, {"Some folders in ~/Archive couldn't be read."}),
+                         scannerOf(CategoryID::largeFiles, {m_movie, m_xip})});
+        m_fixture.window().resize(1280, 800);
+        m_scanned = m_fixture.scan();
+        m_fixture.show(CategoryID::projects);
+    }
+
+    bool scanned() const { return m_scanned; }
+    WindowFixture& fixture() { return m_fixture; }
+    const QList<CleanupItem>& rows() const { return m_rows; }
+    const CleanupItem& movie() const { return m_movie; }
+    const CleanupItem& xip() const { return m_xip; }
+
+private:
+    WindowFixture m_fixture;
+    QList<CleanupItem> m_rows;
+    CleanupItem m_movie;
+    CleanupItem m_xip;
+    bool m_scanned = false;
+};
+
+QImage categoryList()
+{
+    ProjectsWindow window;
+    if (!window.scanned())
+        return {};
+    for (int i : {0, 1, 3, 4})
+        window.fixture().model().setSelected(window.rows()[i], true);
+    QCoreApplication::processEvents();
+    return window.fixture().window().grab().toImage();
+}
+
+QImage cleanupConfirmation()
+{
+    ProjectsWindow window;
+    if (!window.scanned())
+        return {};
+    AppModel& model = window.fixture().model();
+    for (int i : {0, 1, 3, 4})
+        model.setSelected(window.rows()[i], true);
+    model.setSelected(window.movie(), true);
+    model.prepareCleanup();
+    CleanupSheet* sheet = window.fixture().window().cleanupSheet();
+    return sheet ? withSheet(window.fixture().window(), *sheet) : QImage();
+}
+
+QImage cleanupResults()
+{
+    ProjectsWindow window;
+    if (!window.scanned())
+        return {};
+    AppModel& model = window.fixture().model();
+    model.setSelected(window.movie(), true);
+    model.setSelected(window.xip(), true);
+    model.prepareCleanup();
+    CleanupSheet* sheet = window.fixture().window().cleanupSheet();
+    if (!sheet)
+        return {};
+    sheet->confirmation()->confirmButton()->click();
+    if (!waitUntil([&] { return model.cleanup() && model.cleanup()->phase() == CleanupSession::Phase::finished; }))
+        return {};
+    QCoreApplication::processEvents();
+    return withSheet(window.fixture().window(), *window.fixture().window().cleanupSheet());
+}
+
+}  // namespace
+
+QList<Scene> categoryScenes()
+{
+    return {
+        {QStringLiteral("category-list.png"), categoryList},
+        {QStringLiteral("cleanup-confirmation.png"), cleanupConfirmation},
+        {QStringLiteral("cleanup-results.png"), cleanupResults},
+    };
+}

@@ -1,0 +1,49 @@
+// Draws the screenshots in docs/screenshots/ from the real screens over fixture data, under the
+// offscreen platform: `dustlark-screenshots FOLDER [NAME...]`. Not a test; scripts/screenshots.sh
+// runs it.
+#include "Scenes.h"
+#include "support/main/TestEnvironment.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPainter>
+#include <QWidget>
+
+#include <cstdio>
+
+QImage withSheet(QWidget& window, QWidget& sheet)
+{
+    QImage picture = window.grab().toImage();
+    QPainter painter(&picture);
+    painter.fillRect(picture.rect(), QColor(0, 0, 0, 40));
+    sheet.adjustSize();
+    const QImage front = sheet.grab().toImage();
+    const QPoint at((picture.width() - front.width()) / 2, 52);
+    painter.fillRect(QRect(at, front.size()).adjusted(-1, -1, 1, 1), QColor(0, 0, 0, 70));
+    painter.drawImage(at, front);
+    return picture;
+}
+
+int main(int argc, char** argv)
+{
+    TestEnvironment environment;  // the fixtures' trash and settings stay in a temporary folder
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    const QStringList arguments = app.arguments().mid(1);
+    if (arguments.isEmpty()) {
+        std::fprintf(stderr, "usage: dustlark-screenshots FOLDER [NAME...]\n");
+        return 2;
+    }
+    const QDir folder(arguments.first());
+    QDir().mkpath(folder.path());
+    int failures = 0;
+    for (const Scene& scene : categoryScenes() + pageScenes()) {
+        if (arguments.size() > 1 && !arguments.mid(1).contains(scene.name))
+            continue;
+        const QImage image = scene.draw();
+        const bool saved = !image.isNull() && image.save(folder.filePath(scene.name));
+        std::printf("%s %s\n", saved ? "wrote" : "FAILED", qPrintable(folder.filePath(scene.name)));
+        failures += saved ? 0 : 1;
+    }
+    return failures == 0 ? 0 : 1;
+}
