@@ -15,7 +15,6 @@ CleanupSheet::CleanupSheet(AppModel* model, CleanupSession* session, QWidget* pa
 {
     //: Window title of the cleanup sheet (shown where sheets have a title bar)
     setWindowTitle(tr("Clean"));
-    setWindowModality(Qt::WindowModal);
     setMinimumWidth(520);
     m_pages->addWidget(m_confirmation);
     auto* layout = new QVBoxLayout(this);

@@ -6,6 +6,7 @@
 #include "ui/CategoryPage.h"
 #include "ui/CleanupSheet.h"
 #include "ui/OverviewPage.h"
+#include "ui/QuitRequests.h"
 #include "ui/SafeListPage.h"
 #include "ui/Sidebar.h"
 #include "ui/Toast.h"
@@ -52,6 +53,7 @@ MainWindow::MainWindow(AppModel* model, QWidget* parent)
     for (CategoryID category : Categories::allCases())
         updateSidebarCategory(category);
     setQuestions(AIQuestions::standard());
+    new QuitRequests([this] { requestQuit(); }, [this] { return m_model->isChangingFiles(); }, this);
     showCurrentScreen();
 }
 
@@ -104,9 +106,9 @@ void MainWindow::makeMenus()
     m_settingsAction->setVisible(false);
     file->addSeparator();
     //: Menu entry that quits the app
-    QAction* quit = file->addAction(tr("Quit Dustlark"), this, &QWidget::close);
+    QAction* quit = file->addAction(tr("Quit Dustlark"), this, &MainWindow::requestQuit);
     quit->setMenuRole(QAction::QuitRole);
-    quit->setShortcut(QKeySequence::Quit);
+    quit->setShortcuts(QuitRequests::keys());
 }
 
 void MainWindow::showCurrentScreen()

@@ -14,6 +14,7 @@ class AppModel;
 class CategoryPage;
 class CleanupSheet;
 class QAction;
+class QDialog;
 class QLabel;
 class QMessageBox;
 class QStackedWidget;
@@ -53,6 +54,11 @@ public:
     QLabel* freeSpaceLabel() const { return m_freeSpace; }
     Toast* toast() const { return m_toast; }
 
+    // Quit unless files are being changed; then ask "Quit while Dustlark is working?" first.
+    // Every quit request ends here: the Quit menu entry and key in any window, the window's
+    // close button, and log-out.
+    void requestQuit();
+
 protected:
     void closeEvent(QCloseEvent* event) override;
 
@@ -72,7 +78,10 @@ private:
     void switchAnswered(int answer);
     // MainWindowCleanup.cpp
     void cleanupDidChange();
+    void presentSheet(QDialog* sheet);
+    void setContentEnabled(bool enabled);
     void askBeforeQuitting();
+    void quitNow();
 
     AppModel* m_model;
     Navigation m_navigation;

@@ -1,11 +1,13 @@
 // The cleanup sheet and quitting while files are being changed.
 #include "model/AppModel.h"
+#include "platform/Platform.h"
 #include "ui/CleanupSheet.h"
 #include "ui/MainWindow.h"
 
 #include <QCloseEvent>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QToolBar>
 
 void MainWindow::cleanupDidChange()
 {
@@ -16,21 +18,70 @@ void MainWindow::cleanupDidChange()
         m_sheet->deleteLater();
     m_sheet = new CleanupSheet(m_model, session, this);
     m_sheet->setAttribute(Qt::WA_DeleteOnClose);
-    m_sheet->open();
+    presentSheet(m_sheet);
+}
+
+// On macOS a window-modal dialog is a real sheet, and Cmd+Q still reaches the menu bar while it
+// is open. Elsewhere a window-modal dialog makes Qt drop the window manager's close request for
+// the window it blocks, so a close during a cleanup would vanish: there the sheet is not modal,
+// and the window's content is disabled for as long as it is open.
+void MainWindow::presentSheet(QDialog* sheet)
+{
+    if (Platform::desktop() == Platform::Desktop::finder) {
+        sheet->setWindowModality(Qt::WindowModal);
+        sheet->open();
+        return;
+    }
+    sheet->setWindowModality(Qt::NonModal);
+    setContentEnabled(false);
+    connect(sheet, &QDialog::finished, this, [this] { setContentEnabled(true); });
+    sheet->show();
+}
+
+void MainWindow::setContentEnabled(bool enabled)
+{
+    centralWidget()->setEnabled(enabled);
+    for (QToolBar* toolbar : findChildren<QToolBar*>(Qt::FindDirectChildrenOnly))
+        toolbar->setEnabled(enabled);
+}
+
+void MainWindow::requestQuit()
+{
+    if (m_quitApproved || !m_model->isChangingFiles()) {
+        quitNow();
+        return;
+    }
+    askBeforeQuitting();
+}
+
+void MainWindow::quitNow()
+{
+    m_quitApproved = true;
+    close();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (m_quitApproved || !m_model->isChangingFiles()) {
-        QMainWindow::closeEvent(event);
+    if (!m_quitApproved && m_model->isChangingFiles()) {
+        event->ignore();
+        askBeforeQuitting();
         return;
     }
-    event->ignore();
-    askBeforeQuitting();
+    // The sheet, a question and the settings window go with the window, so no leftover window
+    // keeps the app alive.
+    if (m_question)
+        m_question->close();
+    if (m_sheet)
+        m_sheet->hide();
+    if (m_settingsPage)
+        m_settingsPage->close();
+    QMainWindow::closeEvent(event);
 }
 
 void MainWindow::askBeforeQuitting()
 {
+    if (m_question && m_question->isVisible() && m_question->text() == tr("Quit while Dustlark is working?"))
+        return;  // asked already; a second Ctrl+Q must not stack questions
     if (m_question)
         m_question->close();
     //: Question when the app is asked to quit while a cleanup or a move changes files
@@ -53,10 +104,8 @@ void MainWindow::askBeforeQuitting()
             return;
         QPointer<MainWindow> self(this);
         m_model->stopForQuit([self] {
-            if (!self)
-                return;
-            self->m_quitApproved = true;
-            self->close();
+            if (self)
+                self->quitNow();
         });
     });
     m_question = box;

@@ -14,7 +14,9 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTest>
 #include <QTreeView>
+#include <qpa/qwindowsysteminterface.h>
 
 #include <atomic>
 #include <gtest/gtest.h>
@@ -147,6 +149,8 @@ TEST(CleanupSheet, FailuresAreListedWithTheirReasons)
     EXPECT_EQ(fixture.model().result(CategoryID::logs).items, QList<CleanupItem>{kept});
 }
 
+// Every way to ask for quitting reaches the question while the sheet is up: the Quit key pressed
+// in the sheet, the window manager's close request on the (blocked) main window, and the menu.
 TEST(CleanupSheet, QuittingWhileCleaningAsksThenStopsAfterTheCurrentItem)
 {
     WindowFixture fixture;
@@ -164,23 +168,36 @@ TEST(CleanupSheet, QuittingWhileCleaningAsksThenStopsAfterTheCurrentItem)
     });
     confirmAll(fixture, CategoryID::temporary);
     ASSERT_TRUE(waitUntil([&] { return entered->load(); }));
-    EXPECT_TRUE(fixture.window().cleanupSheet()->progress()->isVisible());
+    CleanupSheet* sheet = fixture.window().cleanupSheet();
+    EXPECT_TRUE(sheet->progress()->isVisible());
 
-    fixture.window().close();
-    ASSERT_TRUE(fixture.question());
+    QTest::keyClick(sheet, Qt::Key_Q, Qt::ControlModifier);
+    ASSERT_TRUE(waitUntil([&] { return fixture.question() != nullptr; }));
     EXPECT_EQ(fixture.question()->text(), "Quit while Dustlark is working?");
     EXPECT_EQ(fixture.question()->informativeText(), "Dustlark stops after the current item and removes an unfinished copy, then quits.");
     WindowFixture::answer(fixture.question(), "Keep Working");
     EXPECT_TRUE(fixture.window().isVisible());
 
-    fixture.window().close();
+    QWindowSystemInterface::handleCloseEvent<QWindowSystemInterface::SynchronousDelivery>(fixture.window().windowHandle());
+    ASSERT_TRUE(fixture.question()) << "the close button of the window must ask too";
     WindowFixture::answer(fixture.question(), "Stop and Quit");
     EXPECT_TRUE(fixture.window().isVisible()) << "waits for the current item";
     *release = true;
     ASSERT_TRUE(waitUntil([&] { return !fixture.window().isVisible(); }));
+    EXPECT_FALSE(sheet->isVisible()) << "no window is left to keep the app alive";
     const CleanupSession* session = fixture.model().cleanup();
     ASSERT_TRUE(session);
     EXPECT_TRUE(session->stopped());
     EXPECT_EQ(session->processed(), 1);
-    EXPECT_TRUE(QFileInfo::exists(two.id));
+    EXPECT_FALSE(QFileInfo::exists(one.id));
+    EXPECT_TRUE(QFileInfo::exists(two.id)) << "nothing after the current item is touched";
+}
+
+TEST(CleanupSheet, TheQuitKeyQuitsAtOnceWhenNothingIsChanging)
+{
+    WindowFixture fixture;
+    fixture.start({});
+    QTest::keyClick(&fixture.window(), Qt::Key_Q, Qt::ControlModifier);
+    ASSERT_TRUE(waitUntil([&] { return !fixture.window().isVisible(); }));
+    EXPECT_EQ(fixture.question(), nullptr);
 }
