@@ -3,6 +3,7 @@
 // runs it.
 #include "Scenes.h"
 #include "support/main/TestEnvironment.h"
+#include "vocabulary/AppLanguage.h"
 
 #include <QApplication>
 #include <QDir>
@@ -29,6 +30,7 @@ int main(int argc, char** argv)
     TestEnvironment environment;  // the fixtures' trash and settings stay in a temporary folder
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
+    AppLanguage::installEnglish();  // singular and plural of counted texts, as the app has them
     const QStringList arguments = app.arguments().mid(1);
     if (arguments.isEmpty()) {
         std::fprintf(stderr, "usage: dustlark-screenshots FOLDER [NAME...]\n");

@@ -1,4 +1,5 @@
 #include "report/ReportCommand.h"
+#include "vocabulary/AppLanguage.h"
 
 #include <QCoreApplication>
 
@@ -7,6 +8,7 @@ int main(int argc, char* argv[])
     QCoreApplication app(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Dustlark"));
     QCoreApplication::setApplicationName(QStringLiteral("Dustlark"));
+    AppLanguage::installEnglish();
     QStringList arguments = QCoreApplication::arguments();
     arguments.removeFirst();
     return ReportCommand::run(arguments);

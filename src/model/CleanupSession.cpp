@@ -94,8 +94,8 @@ int CleanupSession::stoppedContainersOfSelectedImages() const
 
 QString CleanupSession::permanentTitle() const
 {
-    //: Title of the cleanup confirmation when some items are removed for good; %1 is their number
-    return tr("Remove %1 items for good?").arg(permanentItems().size());
+    //: Title of the cleanup confirmation when some items are removed for good; %n is their number
+    return tr("Remove %n items for good?", nullptr, int(permanentItems().size()));
 }
 
 QString CleanupSession::permanentWarning()
@@ -112,9 +112,9 @@ QString CleanupSession::riskyLine(const QString& home) const
     QStringList names;
     for (const CleanupItem& item : risky.mid(0, 3))
         names.append(item.title);
-    //: Cleanup confirmation line; %1 is the number of Risky items, %2 the first three titles, comma-separated
-    return tr("%1 selected items are marked Risky: %2. They may hold data that exists nowhere else.")
-        .arg(risky.size())
+    //: Cleanup confirmation line; %n is the number of Risky items, %1 the first three titles, comma-separated
+    return tr("%n selected items are marked Risky: %1. They may hold data that exists nowhere else.", nullptr,
+              int(risky.size()))
         .arg(names.join(QStringLiteral(", ")));
 }
 

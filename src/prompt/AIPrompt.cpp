@@ -35,9 +35,10 @@ QString imageRemoval(const DockerOperation::Image& image)
     const QString command = QStringLiteral("docker rmi ") + shortImageId(image.id);
     if (image.stoppedContainers.isEmpty())
         return runs(command);
-    //: AI prompt: how Docker removes an image that stopped containers hold. Keep the backticks; %1 is the command line; %2 is the number of containers
-    return QCoreApplication::translate("AIPrompt", "runs `%1` after `docker rm` of %2 stopped containers (permanent)")
-        .arg(command, QString::number(image.stoppedContainers.size()));
+    //: AI prompt: how Docker removes an image that stopped containers hold. Keep the backticks; %1 is the command line; %n is the number of containers
+    return QCoreApplication::translate("AIPrompt", "runs `%1` after `docker rm` of %n stopped containers (permanent)",
+                                       nullptr, int(image.stoppedContainers.size()))
+        .arg(command);
 }
 
 QString dockerRemoval(const DockerOperation& operation)
@@ -110,8 +111,8 @@ QStringList contentLines(const std::optional<LargestContents>& contents)
         //: AI prompt: one entry of a folder. Placeholders: its name; its size on disk
         lines.append(bullet + QCoreApplication::translate("AIPrompt", "%1: %2").arg(entry.name, ByteCount::format(entry.bytes)));
     if (contents->moreEntries > 0)
-        //: AI prompt: the entries of a folder left out of the list. %1 is their number
-        lines.append(bullet + QCoreApplication::translate("AIPrompt", "%1 more entries").arg(contents->moreEntries));
+        //: AI prompt: the entries of a folder left out of the list. %n is their number
+        lines.append(bullet + QCoreApplication::translate("AIPrompt", "%n more entries", nullptr, int(contents->moreEntries)));
     return lines;
 }
 

@@ -83,8 +83,8 @@ CategoryListModel::Row CategoryListModel::sectionFor(const QString& key, const Q
     }
     const CleanupItem& first = m_items[members.first()];
     row.title = first.title;
-    //: Section heading of a group of identical files; %1 is the number of copies shown, %2 the size of one copy
-    row.subtitle = tr("%1 copies of %2 each").arg(members.size()).arg(ByteCount::format(first.size));
+    //: Section heading of a group of identical files; %n is the number of copies shown, %1 the size of one copy
+    row.subtitle = tr("%n copies of %1 each", nullptr, int(members.size())).arg(ByteCount::format(first.size));
     row.size = first.size * members.size();
     return row;
 }

@@ -27,8 +27,8 @@ QString trashOnlyTitle(const QList<CleanupItem>& items)
     if (items.size() == 1)
         //: Title of the cleanup confirmation for one item that goes to the Trash; %1 is its name
         return CleanupConfirmation::tr("Move “%1” to the Trash?").arg(items.first().title);
-    //: Title of the cleanup confirmation when every item goes to the Trash; %1 is their number
-    return CleanupConfirmation::tr("Move %1 items to the Trash?").arg(items.size());
+    //: Title of the cleanup confirmation when every item goes to the Trash; %n is their number
+    return CleanupConfirmation::tr("Move %n items to the Trash?", nullptr, int(items.size()));
 }
 
 // One line per category: its title and what of it is selected, in sidebar order.

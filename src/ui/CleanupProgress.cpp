@@ -47,8 +47,8 @@ void CleanupProgress::refresh()
     const QString current = m_session->current();
     m_current->setText(fontMetrics().elidedText(current, Qt::ElideMiddle, std::max(200, m_current->width())));
     m_bar->setValue(m_session->processed());
-    //: Progress of the cleanup; %1 items handled so far, %2 items in all
-    m_counter->setText(tr("%1 of %2 items").arg(m_session->processed()).arg(m_session->items().size()));
+    //: Progress of the cleanup; %1 items handled so far, %n items in all
+    m_counter->setText(tr("%1 of %n items", nullptr, int(m_session->items().size())).arg(m_session->processed()));
     if (m_session->stopRequested()) {
         //: The Stop button after it was pressed, until the current item is done
         m_stop->setText(tr("Stopping…"));

@@ -90,12 +90,8 @@ void CleanupResults::fillFailures()
     if (failures.isEmpty())
         return;
     SheetText::makeSubheading(m_failuresHeading);
-    if (failures.size() == 1)
-        //: Heading of the failures in the results of a cleanup, for one item
-        m_failuresHeading->setText(tr("1 item couldn't be removed"));
-    else
-        //: Heading of the failures in the results of a cleanup; %1 is their number
-        m_failuresHeading->setText(tr("%1 items couldn't be removed").arg(failures.size()));
+    //: Heading of the failures in the results of a cleanup; %n is their number
+    m_failuresHeading->setText(tr("%n items couldn't be removed", nullptr, int(failures.size())));
     auto* rows = new QStandardItemModel(0, 2, m_failures);
     for (const CleanupSession::Failure& failure : failures) {
         auto* reason = new QStandardItem(failure.reason);

@@ -11,6 +11,9 @@
 #include <QStyle>
 #include <QToolBar>
 
+#include <algorithm>
+#include <climits>
+
 namespace {
 
 constexpr int progressPollMs = 150;
@@ -89,8 +92,9 @@ void MainWindow::pollProgress()
     if (!m_model->isScanning())
         return;
     const ScanProgress::Snapshot now = m_model->progress()->snapshot();
-    //: Scan progress in the toolbar; %1 is the number of files and folders looked at so far
-    QString text = tr("Scanning… %1 items").arg(QLocale().toString(now.entries));
+    const int entries = int(std::min(now.entries, qint64(INT_MAX)));
+    //: Scan progress in the toolbar; %Ln is the number of files and folders looked at so far
+    QString text = tr("Scanning… %Ln items", nullptr, entries);
     // The walk already writes the folder with "~" for the home folder.
     if (!now.currentFolder.isEmpty())
         text += QStringLiteral("  ·  ") + now.currentFolder;

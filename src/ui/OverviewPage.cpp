@@ -25,11 +25,8 @@ constexpr int historyRowsShown = 10;
 
 QString itemCount(qint64 count)
 {
-    if (count == 1)
-        //: Number of items removed by one cleanup, singular
-        return OverviewPage::tr("1 item");
-    //: Number of items removed by one cleanup; %1 is the number
-    return OverviewPage::tr("%1 items").arg(QLocale().toString(count));
+    //: Number of items removed by one cleanup; %Ln is the number
+    return OverviewPage::tr("%Ln items", nullptr, int(count));
 }
 
 QStringList historyHeadings()

@@ -27,11 +27,8 @@ SelectionBar::SelectionBar(AppModel* model, QWidget* parent)
 
 QString SelectionBar::describe(qint64 bytes, qsizetype count)
 {
-    if (count == 1)
-        //: Names a selection of one item; %1 is its size
-        return tr("%1 in 1 item").arg(ByteCount::format(bytes));
-    //: Names a selection; %1 is the total size, %2 the number of items
-    return tr("%1 in %2 items").arg(ByteCount::format(bytes)).arg(count);
+    //: Names a selection; %1 is the total size, %n the number of items
+    return tr("%1 in %n items", nullptr, int(count)).arg(ByteCount::format(bytes));
 }
 
 void SelectionBar::refresh()

@@ -60,8 +60,18 @@ QString launchChoice()
     return launchCode();
 }
 
+bool installEnglish(const QString& folder)
+{
+    auto* translator = new QTranslator(QCoreApplication::instance());
+    if (translator->load(QStringLiteral("dustlark_en"), folder) && QCoreApplication::installTranslator(translator))
+        return true;
+    delete translator;
+    return false;
+}
+
 bool loadAtLaunch(const QSettings& settings, const QString& folder)
 {
+    installEnglish(folder);
     launchCode() = chosen(settings);
     const QLocale locale = launchCode().isEmpty() ? QLocale() : QLocale(launchCode());
     auto* translator = new QTranslator(QCoreApplication::instance());

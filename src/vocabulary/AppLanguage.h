@@ -28,9 +28,14 @@ void choose(QSettings& settings, const QString& code);
 // The choice in force since launch (what the interface shows until a relaunch).
 [[nodiscard]] QString launchChoice();
 
+// Installs the English catalogue from `folder`: the source texts are English already, but a
+// counted text ("%n files") needs it for its singular and plural. Every program calls it first
+// (a language chosen later is searched before it). Returns whether it was found.
+bool installEnglish(const QString& folder = QString::fromLatin1(translationsFolder));
+
 // Remembers the stored choice as the launch choice and installs the translator for it (or for
-// the system's languages) from `folder`, file prefix "dustlark_". Returns whether a
-// translation was installed; English, the source language, needs none.
+// the system's languages) from `folder`, file prefix "dustlark_", over the English catalogue.
+// Returns whether a translation for the chosen language was installed.
 bool loadAtLaunch(const QSettings& settings, const QString& folder = QString::fromLatin1(translationsFolder));
 
 // "Follow the system" first, then every language with a translation in `folder`.

@@ -28,7 +28,7 @@ TEST(CleanupSession, ConfirmationTextsNameWhatIsPermanentAndRisky)
                                 rowAt(CategoryID::logs, "/Users/a/Library/Logs/x"),
                                 imageRow("postgres", {"c1", "c2"})};
     const CleanupSession session(items);
-    EXPECT_EQ(session.permanentTitle(), "Remove 1 items for good?");
+    EXPECT_EQ(session.permanentTitle(), "Remove 1 item for good?");
     EXPECT_EQ(session.riskyLine("/Users/a"),
               "4 selected items are marked Risky: one.mov, two.mov, three.mov. They may hold data that exists nowhere else.");
     EXPECT_EQ(session.permanentText(), "Docker and Xcode remove these themselves. This can't be undone. "

@@ -193,6 +193,6 @@ TEST_F(ProjectScannerScan, UnreadableFoldersAreNotedOnProjectsAndLargeFiles)
     ::chmod(QFile::encodeName(tree.path("home/locked")).constData(), 0755);
     if (!notes)
         GTEST_SKIP() << "running as root, and a child as 'nobody' could not be started to honour folder modes";
-    const QByteArray note = "1 folders couldn't be read. Allow access when macOS asks, or give Dustlark Full Disk Access.";
+    const QByteArray note = "1 folder couldn't be read. Allow access when macOS asks, or give Dustlark Full Disk Access.";
     EXPECT_EQ(*notes, note + '|' + note);
 }

@@ -71,7 +71,7 @@ TEST(CleanupSheet, ConfirmationNamesRiskyAndPermanentItemsAndCancelKeepsTheSelec
     CleanupSheet* sheet = fixture.window().cleanupSheet();
     ASSERT_TRUE(sheet && sheet->isVisible());
     CleanupConfirmation* confirmation = sheet->confirmation();
-    EXPECT_EQ(confirmation->title()->text(), "Remove 1 items for good?");
+    EXPECT_EQ(confirmation->title()->text(), "Remove 1 item for good?");
     const QStringList texts = confirmation->texts();
     EXPECT_TRUE(texts.contains("Docker and Xcode remove these items without the Trash. This can't be undone."));
     // A Docker volume is Risky too; the names follow the category order.

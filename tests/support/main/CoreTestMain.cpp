@@ -1,4 +1,5 @@
 #include "TestEnvironment.h"
+#include "vocabulary/AppLanguage.h"
 
 #include <QCoreApplication>
 
@@ -8,6 +9,7 @@ int main(int argc, char** argv)
 {
     TestEnvironment environment;
     QCoreApplication app(argc, argv);
+    AppLanguage::installEnglish();  // singular and plural of counted texts, as the app has them
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }
