@@ -559,7 +559,16 @@
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/ui/CategoryListModel.cpp" line="87"/>
+        <location filename="../src/ui/CategoryListModel.cpp" line="80"/>
+        <source>%1 · %n worktrees</source>
+        <extracomment>Under a repository&apos;s name in Git Worktrees: %1 is its folder, %n the number of its worktrees listed</extracomment>
+        <translation>
+            <numerusform>%1 · %n worktree</numerusform>
+            <numerusform>%1 · %n worktrees</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../src/ui/CategoryListModel.cpp" line="89"/>
         <source>%n copies of %1 each</source>
         <extracomment>Section heading of a group of identical files; %n is the number of copies shown, %1 the size of one copy</extracomment>
         <translation>
@@ -568,7 +577,7 @@
         </translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryListModel.cpp" line="152"/>
+        <location filename="../src/ui/CategoryListModel.cpp" line="157"/>
         <source>One copy always stays.</source>
         <extracomment>Tooltip of the disabled checkbox of the one copy of a duplicate that must stay</extracomment>
         <translation type="unfinished"></translation>

@@ -76,7 +76,9 @@ CategoryListModel::Row CategoryListModel::sectionFor(const QString& key, const Q
     if (m_category == CategoryID::worktrees) {
         //: Section heading of worktrees whose repository is not known
         row.title = key.isEmpty() ? tr("Other worktrees") : key.section(QLatin1Char('/'), -1);
-        row.subtitle = PathRules::withTilde(key, m_model->settings()->home());
+        //: Under a repository's name in Git Worktrees: %1 is its folder, %n the number of its worktrees listed
+        row.subtitle = tr("%1 · %n worktrees", nullptr, int(members.size()))
+                           .arg(PathRules::withTilde(key, m_model->settings()->home()));
         for (int i : members)
             row.size += m_items[i].size;
         return row;
@@ -85,7 +87,10 @@ CategoryListModel::Row CategoryListModel::sectionFor(const QString& key, const Q
     row.title = first.title;
     //: Section heading of a group of identical files; %n is the number of copies shown, %1 the size of one copy
     row.subtitle = tr("%n copies of %1 each", nullptr, int(members.size())).arg(ByteCount::format(first.size));
-    row.size = first.size * members.size();
+    QList<CleanupItem> copies;
+    for (int i : members)
+        copies.append(m_items[i]);
+    row.size = CategoryResult::freeableSize(copies);  // one copy always stays
     return row;
 }
 

@@ -2,9 +2,11 @@
 
 #include "vocabulary/CleanupItem.h"
 
+#include <QHash>
 #include <QList>
 #include <QStringList>
 
+#include <algorithm>
 #include <optional>
 
 // What a scanner returns for one category.
@@ -24,11 +26,24 @@ struct CategoryResult {
     QStringList notes;
     std::optional<QString> summary;
 
-    qint64 totalSize() const
+    // What cleaning every row could free: each duplicate group counts without its largest copy,
+    // since one copy always stays. Shown as the category's total everywhere.
+    qint64 totalSize() const { return freeableSize(items); }
+
+    // The same for any list of rows (a group, a filtered list).
+    static qint64 freeableSize(const QList<CleanupItem>& rows)
     {
         qint64 total = 0;
-        for (const CleanupItem& item : items)
+        QHash<QString, qint64> largestCopy;
+        for (const CleanupItem& item : rows) {
             total += item.size;
+            if (item.duplicateGroup) {
+                qint64& largest = largestCopy[*item.duplicateGroup];
+                largest = std::max(largest, item.size);
+            }
+        }
+        for (qint64 kept : largestCopy)
+            total -= kept;
         return total;
     }
 

@@ -1,4 +1,5 @@
 #include "WindowFixture.h"
+#include "format/ByteCount.h"
 #include "support/Wait.h"
 #include "ui/CategoryItemDelegate.h"
 #include "ui/CategoryListModel.h"
@@ -84,9 +85,13 @@ TEST(CategoryPage, DuplicateCheckboxesAlwaysKeepOneCopy)
     };
     CategoryPage* page = fixture.open(CategoryID::duplicates, copies);
     ASSERT_TRUE(page);
-    // A section row over each group's copies.
+    // A section row over each group's copies; it and the category total count what can be freed,
+    // one copy of each group staying.
     EXPECT_EQ(shownTitles(page->listModel()).mid(1, 2), QStringList({"one.mov", "one.mov"}));
     EXPECT_TRUE(page->listModel()->index(3).data(CategoryListModel::IsSectionRole).toBool());
+    const qint64 copySize = copies[0].size;
+    EXPECT_EQ(page->listModel()->index(3).data(CategoryListModel::SizeTextRole).toString(), ByteCount::format(2 * copySize));
+    EXPECT_EQ(fixture.model().result(CategoryID::duplicates).totalSize(), 3 * copySize);
 
     fixture.clickCheckbox(copies[0].id);
     fixture.clickCheckbox(copies[2].id);
@@ -187,7 +192,8 @@ TEST(CategoryPage, WorktreesAreGroupedByRepository)
     CategoryPage* page = fixture.open(CategoryID::worktrees, rows);
     ASSERT_TRUE(page);
     EXPECT_EQ(shownTitles(page->listModel()), QStringList({"app", "app-fix", "app-feature", "site", "site-a"}));
-    EXPECT_EQ(page->listModel()->index(0).data(CategoryListModel::SubtitleRole).toString(), "~/src/app");
+    EXPECT_EQ(page->listModel()->index(0).data(CategoryListModel::SubtitleRole).toString(), "~/src/app · 2 worktrees");
+    EXPECT_EQ(page->listModel()->index(3).data(CategoryListModel::SubtitleRole).toString(), "~/src/site · 1 worktree");
 }
 
 TEST(CategoryPage, TenThousandRowsArePaintedByTheDelegate)
