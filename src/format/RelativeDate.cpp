@@ -1,6 +1,8 @@
 #include "format/RelativeDate.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
+#include <QTimeZone>
 
 namespace RelativeDate {
 
@@ -78,6 +80,38 @@ QString format(const QDateTime& date, const QDateTime& now)
 QString format(const QDateTime& date)
 {
     return format(date, QDateTime::currentDateTime());
+}
+
+namespace {
+
+constexpr QChar markerStart(0xE000);
+constexpr QChar markerEnd(0xE001);
+
+}  // namespace
+
+QString marker(const QDateTime& date)
+{
+    return markerStart + QString::number(date.toMSecsSinceEpoch()) + markerEnd;
+}
+
+QString expand(const QString& text, const QDateTime& now)
+{
+    if (!text.contains(markerStart))
+        return text;
+    static const QRegularExpression markers(QStringLiteral("\\x{E000}(-?\\d+)\\x{E001}"));
+    QString result;
+    qsizetype done = 0;
+    for (const QRegularExpressionMatch& match : markers.globalMatch(text)) {
+        const QDateTime date = QDateTime::fromMSecsSinceEpoch(match.captured(1).toLongLong(), QTimeZone::utc());
+        result += text.mid(done, match.capturedStart() - done) + format(date, now);
+        done = match.capturedEnd();
+    }
+    return result + text.mid(done);
+}
+
+QString expand(const QString& text)
+{
+    return expand(text, QDateTime::currentDateTime());
 }
 
 }  // namespace RelativeDate

@@ -2,6 +2,7 @@
 // cleanup may never remove every copy of a duplicated file.
 #include "model/AppModel.h"
 #include "model/SettingsStore.h"
+#include "format/RelativeDate.h"
 
 bool AppModel::canSelect(const CleanupItem& item) const
 {
@@ -191,7 +192,7 @@ QList<CleanupItem> AppModel::visibleItems(CategoryID category, const QString& se
         if (item.size < minimum)
             continue;
         if (!needle.isEmpty() && !item.title.contains(needle, Qt::CaseInsensitive)
-            && !item.detail.contains(needle, Qt::CaseInsensitive))
+            && !RelativeDate::expand(item.detail).contains(needle, Qt::CaseInsensitive))
             continue;
         shown.append(item);
     }

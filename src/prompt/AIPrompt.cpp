@@ -2,6 +2,7 @@
 
 #include "format/ByteCount.h"
 #include "vocabulary/Safety.h"
+#include "format/RelativeDate.h"
 
 #include <QCoreApplication>
 
@@ -120,7 +121,7 @@ QStringList factLines(const CleanupItem& item, const PromptContext& context)
 {
     QStringList lines{itemLine(item), categoryLine(item.category)};
     //: AI prompt line. Placeholder: the row's detail line
-    lines.append(QCoreApplication::translate("AIPrompt", "Dustlark's note: %1").arg(item.detail));
+    lines.append(QCoreApplication::translate("AIPrompt", "Dustlark's note: %1").arg(RelativeDate::expand(item.detail)));
     //: AI prompt line. Placeholder: the safety label ("Safe", "Ask AI" or "Risky")
     lines.append(QCoreApplication::translate("AIPrompt", "Dustlark's safety hint: %1").arg(Safeties::title(item.safety(context.home))));
     //: AI prompt line. Placeholder: the size on disk
@@ -169,10 +170,10 @@ QString batchItemLine(int number, const CleanupItem& item)
     const QString size = ByteCount::format(item.size);
     if (paths.isEmpty())
         //: AI prompt: one numbered row of a list. Placeholders: number; name; detail line; size
-        return QCoreApplication::translate("AIPrompt", "%1. %2 — %3 — %4").arg(QString::number(number), name, item.detail, size);
+        return QCoreApplication::translate("AIPrompt", "%1. %2 — %3 — %4").arg(QString::number(number), name, RelativeDate::expand(item.detail), size);
     //: AI prompt: one numbered row of a list. Placeholders: number; name; detail line; size; its paths joined by "; "
     return QCoreApplication::translate("AIPrompt", "%1. %2 — %3 — %4 — %5")
-        .arg(QString::number(number), name, item.detail, size, paths.join(QStringLiteral("; ")));
+        .arg(QString::number(number), name, RelativeDate::expand(item.detail), size, paths.join(QStringLiteral("; ")));
 }
 
 QStringList batchItemLines(const QList<CleanupItem>& items)

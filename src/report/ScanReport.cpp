@@ -1,6 +1,7 @@
 #include "report/ScanReport.h"
 
 #include "format/ByteCount.h"
+#include "format/RelativeDate.h"
 
 #include <QJsonArray>
 #include <QTextStream>
@@ -28,7 +29,7 @@ QJsonObject itemToJson(const CleanupItem& item, const QString& home)
     object[QStringLiteral("id")] = item.id;
     object[QStringLiteral("title")] = item.title;
     object[QStringLiteral("badge")] = optionalText(item.badge);
-    object[QStringLiteral("detail")] = item.detail;
+    object[QStringLiteral("detail")] = RelativeDate::expand(item.detail);
     object[QStringLiteral("size")] = static_cast<double>(item.size);
     object[QStringLiteral("safety")] = Safeties::rawValue(item.safety(home));
     object[QStringLiteral("lockedReason")] = optionalText(item.lockedReason);
@@ -78,7 +79,7 @@ QByteArray toText(const Results& results, const QString& home)
                    << Safeties::title(item.safety(home)).leftJustified(7) << ' ' << item.title;
             if (item.lockedReason)
                 stream << "  [" << *item.lockedReason << ']';
-            stream << "\n              " << item.detail << '\n';
+            stream << "\n              " << RelativeDate::expand(item.detail) << '\n';
         }
     }
     stream.flush();

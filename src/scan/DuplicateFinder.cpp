@@ -368,7 +368,7 @@ CleanupItem row(const Member& member, const QString& groupId, bool isOldest, con
     item.title = PathRules::withTilde(file.path, context.home);
     //: Fact in a Duplicates row's detail line; %1 is a relative date like '3 months ago'
     item.detail = QCoreApplication::translate("DuplicateFinder", "created %1")
-                      .arg(RelativeDate::format(member.date, context.now));
+                      .arg(RelativeDate::marker(member.date));
     item.size = file.allocated;
     item.removal = Removal::trash({targetOf(file)});
     item.date = member.date;

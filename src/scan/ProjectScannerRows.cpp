@@ -34,13 +34,13 @@ int trackedCount(const Artifact& artifact, const std::optional<QString>& git, co
     return ProjectScanner::trackedFiles(artifact, *git, cancellation);
 }
 
-QString buildFolderDetail(const ProjectInfo* project, int tracked, const QDateTime& now)
+QString buildFolderDetail(const ProjectInfo* project, int tracked)
 {
     QStringList facts;
     if (project && project->lastActivity)
         //: Fact in a Project Builds row's detail line; %1 is a relative date like '3 months ago'
         facts << QCoreApplication::translate("ProjectScanner", "project changed %1")
-                     .arg(RelativeDate::format(*project->lastActivity, now));
+                     .arg(RelativeDate::marker(*project->lastActivity));
     if (tracked > 0)
         //: Fact in a Project Builds row's detail line; %n is how many files in the folder git tracks
         facts << QCoreApplication::translate("ProjectScanner", "%n files in it are tracked by git", nullptr, tracked);
@@ -75,7 +75,7 @@ std::optional<CleanupItem> ProjectScanner::buildFolderRow(const Artifact& artifa
     item.category = CategoryID::projects;
     item.title = project ? project->title : nameOf(artifact.project);
     item.badge = artifact.name;
-    item.detail = buildFolderDetail(project, tracked, context.now);
+    item.detail = buildFolderDetail(project, tracked);
     item.size = size.bytes;
     item.removal = Removal::trash({*target});
     item.date = project ? project->lastActivity : std::nullopt;
@@ -101,7 +101,7 @@ std::optional<CleanupItem> ProjectScanner::largeFileRow(const LargeFile& file, c
     item.date = lastOpened(file.path);
     if (item.date)
         //: Fact in a Large Files row's detail line; %1 is a relative date like '3 months ago'
-        item.detail = QCoreApplication::translate("ProjectScanner", "opened %1").arg(RelativeDate::format(*item.date, context.now));
+        item.detail = QCoreApplication::translate("ProjectScanner", "opened %1").arg(RelativeDate::marker(*item.date));
     return item;
 }
 

@@ -91,7 +91,7 @@ QString detail(const Worktree& worktree, const std::optional<QDateTime>& date, c
     QStringList facts;
     if (date)
         //: Fact in a Git Worktrees row's detail line; %1 is a relative date like '3 months ago'
-        facts << QCoreApplication::translate("WorktreeFinder", "changed %1").arg(RelativeDate::format(*date, context.now));
+        facts << QCoreApplication::translate("WorktreeFinder", "changed %1").arg(RelativeDate::marker(*date));
     facts << changesFact(worktree, git, &context.cancellation);
     const std::optional<int> loose = !worktree.branch && git ? commitsOnNoBranch(worktree.path, *git, &context.cancellation)
                                                               : std::nullopt;

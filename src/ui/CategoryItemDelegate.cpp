@@ -249,7 +249,7 @@ void CategoryItemDelegate::paintDetail(QPainter* painter, const QStyleOptionView
         painter->drawText(rect, Qt::AlignLeft | Qt::AlignVCenter, reason);
         left += metrics.horizontalAdvance(reason);
     }
-    QString detail = item->detail;
+    QString detail = RelativeDate::expand(item->detail);
     if (item->lockedReason && !detail.isEmpty())
         detail.prepend(QStringLiteral(" · "));
     const QRect rest(left, rect.top(), rect.right() - left, rect.height());

@@ -26,7 +26,7 @@ QString describe(const SafeItemInfo& info)
 {
     QStringList parts{categoryTitle(info)};
     if (!info.detail.isEmpty())
-        parts.append(info.detail);
+        parts.append(RelativeDate::expand(info.detail));
     return parts.join(QStringLiteral(" · "));
 }
 

@@ -1,5 +1,7 @@
 #include "format/RelativeDate.h"
 
+#include <QTimeZone>
+
 #include <gtest/gtest.h>
 
 TEST(RelativeDate, WordsForEachDistance)
@@ -24,4 +26,14 @@ TEST(RelativeDate, WordsForEachDistance)
     };
     for (const auto& [date, text] : cases)
         EXPECT_EQ(RelativeDate::format(date, now), QString::fromLatin1(text)) << text;
+}
+
+// A detail line made at scan time reads its date relative to when it is shown.
+TEST(RelativeDate, MarkersInATextAreWordedWhenShown)
+{
+    const QDateTime scanned(QDate(2024, 5, 1), QTime(9, 0), QTimeZone::utc());
+    const QString detail = QStringLiteral("shop · changed %1 · %2 files").arg(RelativeDate::marker(scanned.addSecs(-60)), QStringLiteral("12"));
+    EXPECT_EQ(RelativeDate::expand(detail, scanned), "shop · changed 1 minute ago · 12 files");
+    EXPECT_EQ(RelativeDate::expand(detail, scanned.addSecs(3 * 3600)), "shop · changed 3 hours ago · 12 files");
+    EXPECT_EQ(RelativeDate::expand(QStringLiteral("no dates here"), scanned), "no dates here");
 }

@@ -1,3 +1,4 @@
+#include "format/RelativeDate.h"
 #include "platform/Platform.h"
 #include "scan/DuplicateFinder.h"
 #include "support/TempTree.h"
@@ -178,7 +179,7 @@ TEST_F(DuplicateFinderTest, CreationTimeOutranksModificationTime)
     tree.setTimes("copy", 1'600'000'000);
     const auto items = find({"copy", "original"}).items;
     ASSERT_EQ(titles(items), QStringList({"~/original", "~/copy"}));
-    EXPECT_EQ(items[0].detail, "created just now");
+    EXPECT_EQ(RelativeDate::expand(items[0].detail), "created just now");
 }
 
 TEST_F(DuplicateFinderTest, ACopyThatIsGoneOrReplacedDropsOutAndALoneSurvivorIsNoGroup)

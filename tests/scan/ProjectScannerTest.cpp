@@ -109,12 +109,12 @@ TEST_F(ProjectScannerScan, CommittedBuildFolderAsksAIAndAnUntrackedOneStaysSafe)
     ASSERT_NE(app, nullptr);
     EXPECT_EQ(app->title, "app/android");
     ASSERT_TRUE(app->date.has_value()) << "git and the working copy date the project";
-    EXPECT_EQ(app->detail, changedFact(*app) + " · 2 files in it are tracked by git");
+    EXPECT_EQ(RelativeDate::expand(app->detail, context.now), changedFact(*app) + " · 2 files in it are tracked by git");
     EXPECT_EQ(app->safety(home), Safety::askAI);
 
     const CleanupItem* lib = find(projects, tree.path("home/code/lib/build"));
     ASSERT_NE(lib, nullptr);
-    EXPECT_EQ(lib->detail, changedFact(*lib));
+    EXPECT_EQ(RelativeDate::expand(lib->detail, context.now), changedFact(*lib));
     EXPECT_EQ(lib->safety(home), Safety::safe);
 }
 
@@ -168,7 +168,7 @@ TEST_F(ProjectScannerScan, LargeFilesSayWhenOpenedOnlyIfReadAfterWriting)
     const CleanupItem* openedRow = find(large, opened);
     ASSERT_NE(openedRow, nullptr);
     EXPECT_EQ(openedRow->date, QDateTime::fromSecsSinceEpoch(jan2020 + 30 * day, QTimeZone::utc()));
-    EXPECT_EQ(openedRow->detail, "opened " + RelativeDate::format(*openedRow->date, context.now));
+    EXPECT_EQ(RelativeDate::expand(openedRow->detail, context.now), "opened " + RelativeDate::format(*openedRow->date, context.now));
     EXPECT_EQ(openedRow->safety(home), Safety::risky);
     const FileTarget target = openedRow->removal.as<Removal::Trash>()->targets.value(0);
     EXPECT_EQ(target.content, (FileTarget::ContentStamp{200'000'000, jan2020 * 1'000'000'000}));

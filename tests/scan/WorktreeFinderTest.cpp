@@ -92,10 +92,10 @@ TEST_F(WorktreeFinderTest, RowsTellWhatWorkExistsNowhereElse)
     ASSERT_EQ(ids(output), QStringList({dirty, feature, loose}));
     const CleanupItem& featureRow = output.items[1];
     const CleanupItem& looseRow = output.items[2];
-    EXPECT_EQ(output.items[0].detail, changed(output.items[0]) + "2 files not committed");
-    EXPECT_EQ(featureRow.detail, changed(featureRow) + "everything committed");
+    EXPECT_EQ(RelativeDate::expand(output.items[0].detail, context.now), changed(output.items[0]) + "2 files not committed");
+    EXPECT_EQ(RelativeDate::expand(featureRow.detail, context.now), changed(featureRow) + "everything committed");
     EXPECT_EQ(featureRow.badge, "feature");
-    EXPECT_EQ(looseRow.detail, changed(looseRow) + "everything committed · 3 commits on no branch");
+    EXPECT_EQ(RelativeDate::expand(looseRow.detail, context.now), changed(looseRow) + "everything committed · 3 commits on no branch");
     EXPECT_EQ(looseRow.badge, "No branch");
 
     EXPECT_EQ(featureRow.projectPath, repository);
@@ -179,12 +179,12 @@ TEST_F(WorktreeFinderTest, WithoutAWorkingGitRowsSayTheirChangesWereNotChecked)
     ScanOutput output = items({tree.path("no/git")});
     EXPECT_EQ(output.notes, QStringList{WorktreeFinder::gitMissingNote()});
     ASSERT_EQ(output.items.size(), 1);
-    EXPECT_EQ(output.items[0].detail, changed(output.items[0]) + "not checked for changes: git isn't installed");
+    EXPECT_EQ(RelativeDate::expand(output.items[0].detail, context.now), changed(output.items[0]) + "not checked for changes: git isn't installed");
 
     output = items({brokenGit()});
     EXPECT_TRUE(output.notes.isEmpty());
     ASSERT_EQ(output.items.size(), 1);
-    EXPECT_EQ(output.items[0].detail, changed(output.items[0]) + "not checked for changes");
+    EXPECT_EQ(RelativeDate::expand(output.items[0].detail, context.now), changed(output.items[0]) + "not checked for changes");
 
     QDir(feature).removeRecursively();
     EXPECT_TRUE(items({tree.path("no/git")}).notes.isEmpty()) << "no worktree, no note";
