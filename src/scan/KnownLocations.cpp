@@ -1,5 +1,7 @@
 #include "scan/KnownLocations.h"
 
+#include "platform/Platform.h"
+
 #include <QCoreApplication>
 #include <QStringList>
 
@@ -22,6 +24,15 @@ Location namedRow(QString path, Naming naming, std::optional<QString> detail = s
 Location perChildRow(QString path, Naming naming, std::optional<QString> detail = std::nullopt)
 {
     return Location{{std::move(path)}, std::move(naming), true, std::move(detail), {}};
+}
+
+// The rows only a Linux home has (its XDG folders), beside the macOS rows of the same table; on
+// macOS the table stays exactly as it is.
+QList<Location> withLinuxRows(QList<Location> rows, const QList<Location>& linuxRows)
+{
+    if (Platform::desktop() == Platform::Desktop::freedesktop)
+        rows += linuxRows;
+    return rows;
 }
 
 Location browserRow(const char* path, const char* productName)
@@ -59,9 +70,28 @@ QList<Location> xcode()
     };
 }
 
-QList<Location> android()
+// Android Studio and its SDK where Linux keeps them.
+static QList<Location> androidOnLinux()
 {
     return {
+        namedRow(QStringLiteral(".cache/Google/AndroidStudio*"),
+                 Naming::name(QCoreApplication::translate("KnownLocations", "Android Studio cache · "))),
+        namedRow(QStringLiteral("Android/Sdk/system-images/*/*/*"), Naming::systemImage(),
+                 QCoreApplication::translate("KnownLocations", "Android SDK system image")),
+        perChildRow(QStringLiteral("Android/Sdk/ndk"), Naming::name(QCoreApplication::translate("KnownLocations", "NDK ")),
+                    QCoreApplication::translate("KnownLocations", "Android NDK version; projects that pin it download it again")),
+        perChildRow(QStringLiteral("Android/Sdk/build-tools"),
+                    Naming::name(QCoreApplication::translate("KnownLocations", "Build tools ")),
+                    QCoreApplication::translate("KnownLocations", "Android SDK build tools version")),
+        perChildRow(QStringLiteral("Android/Sdk/platforms"),
+                    Naming::name(QCoreApplication::translate("KnownLocations", "SDK platform ")),
+                    QCoreApplication::translate("KnownLocations", "Android SDK platform")),
+    };
+}
+
+QList<Location> android()
+{
+    return withLinuxRows({
         fixedRow({QStringLiteral(".gradle/caches")},
                  //: Row title in the Android list
                  QCoreApplication::translate("KnownLocations", "Gradle caches")),
@@ -103,12 +133,38 @@ QList<Location> android()
                     Naming::name(QCoreApplication::translate("KnownLocations", "Gradle JDK · ")),
                     //: Detail line of a row of Java that Gradle downloaded
                     QCoreApplication::translate("KnownLocations", "Java downloaded by Gradle toolchains")),
+    }, androidOnLinux());
+}
+
+// The same tools' caches where Linux keeps them (XDG's ~/.cache and ~/.local/share).
+static QList<Location> packageCachesOnLinux()
+{
+    return {
+        fixedRow({QStringLiteral(".cache/yarn")}, QCoreApplication::translate("KnownLocations", "Yarn cache")),
+        fixedRow({QStringLiteral(".local/share/pnpm/store")}, QCoreApplication::translate("KnownLocations", "pnpm store"),
+                 QCoreApplication::translate("KnownLocations", "Projects link their packages from here")),
+        fixedRow({QStringLiteral(".cache/Homebrew")}, QCoreApplication::translate("KnownLocations", "Homebrew downloads")),
+        fixedRow({QStringLiteral(".cache/pip")}, QCoreApplication::translate("KnownLocations", "pip cache")),
+        fixedRow({QStringLiteral(".cache/org.swift.swiftpm")},
+                 QCoreApplication::translate("KnownLocations", "Swift Package Manager cache")),
+        fixedRow({QStringLiteral(".cache/go-build")}, QCoreApplication::translate("KnownLocations", "Go build cache")),
+        fixedRow({QStringLiteral(".cache/pypoetry")}, QCoreApplication::translate("KnownLocations", "Poetry cache"),
+                 QCoreApplication::translate("KnownLocations", "Includes Poetry's virtual environments; `poetry install` creates them again")),
+        fixedRow({QStringLiteral(".cache/node-gyp")}, QCoreApplication::translate("KnownLocations", "node-gyp headers")),
+        fixedRow({QStringLiteral(".cache/electron")}, QCoreApplication::translate("KnownLocations", "Electron downloads")),
+        fixedRow({QStringLiteral(".cache/electron-builder")},
+                 QCoreApplication::translate("KnownLocations", "electron-builder cache")),
+        fixedRow({QStringLiteral(".cache/deno")}, QCoreApplication::translate("KnownLocations", "Deno cache")),
+        fixedRow({QStringLiteral(".cache/typescript")}, QCoreApplication::translate("KnownLocations", "TypeScript cache")),
+        fixedRow({QStringLiteral(".cache/composer")}, QCoreApplication::translate("KnownLocations", "Composer cache")),
+        fixedRow({QStringLiteral(".cache/ms-playwright")}, QCoreApplication::translate("KnownLocations", "Playwright browsers"),
+                 QCoreApplication::translate("KnownLocations", "Tests need `npx playwright install` afterwards")),
     };
 }
 
 QList<Location> packageCaches()
 {
-    return {
+    return withLinuxRows({
         fixedRow({QStringLiteral(".npm/_cacache")},
                  //: Row title in the package caches list
                  QCoreApplication::translate("KnownLocations", "npm cache")),
@@ -211,7 +267,7 @@ QList<Location> packageCaches()
                  QCoreApplication::translate("KnownLocations", "Maven repository"),
                  //: Detail line of the Maven repository row
                  QCoreApplication::translate("KnownLocations", "May hold artifacts you installed locally")),
-    };
+    }, packageCachesOnLinux());
 }
 
 QList<Location> aiModels()
@@ -299,7 +355,7 @@ QList<Location> logs()
     // The crash reports have their own row; the simulators' logs belong with Xcode's data.
     appLogs.skippedChildren = {QStringLiteral("DiagnosticReports"), QStringLiteral("CrashReporter"),
                                QStringLiteral("CoreSimulator")};
-    return {
+    return withLinuxRows({
         crashReports,
         appLogs,
         fixedRow({QStringLiteral("Library/Application Support/Code/logs")},
@@ -314,7 +370,12 @@ QList<Location> logs()
         fixedRow({QStringLiteral(".npm/_logs")},
                  //: Row title in the logs list: logs npm writes when a command fails
                  QCoreApplication::translate("KnownLocations", "npm debug logs")),
-    };
+    }, {
+        // The editors' logs where Linux keeps their data.
+        fixedRow({QStringLiteral(".config/Code/logs")}, QCoreApplication::translate("KnownLocations", "VS Code logs")),
+        fixedRow({QStringLiteral(".config/Cursor/logs")}, QCoreApplication::translate("KnownLocations", "Cursor logs")),
+        fixedRow({QStringLiteral(".config/Windsurf/logs")}, QCoreApplication::translate("KnownLocations", "Windsurf logs")),
+    });
 }
 
 const QSet<QString>& claimedCacheFolders()

@@ -1,3 +1,4 @@
+#include "platform/Platform.h"
 #include "scan/KnownLocations.h"
 #include "scan/LocationScanner.h"
 #include "support/TempTree.h"
@@ -77,4 +78,28 @@ TEST(KnownLocationsTest, NoPlaceIsClaimedByTwoRows)
                 << ") lies in " << qPrintable(found[j].second) << " (" << qPrintable(Categories::rawValue(found[j].first)) << ")";
         }
     }
+}
+
+// A Linux home keeps the same tools' data in its XDG folders; the tables know those places too.
+TEST(KnownLocationsTest, ALinuxHomesCachesAreFoundWhereLinuxKeepsThem)
+{
+    if (Platform::desktop() != Platform::Desktop::freedesktop)
+        GTEST_SKIP() << "Linux places are offered only on Linux";
+    TempTree tree;
+    ScanContext context;
+    context.home = tree.dir(QStringLiteral("home"));
+    tree.file(QStringLiteral("home/.cache/pip/http/blob"), 2'000'000);
+    tree.file(QStringLiteral("home/.local/share/pnpm/store/v3/blob"), 2'000'000);
+    tree.file(QStringLiteral("home/Android/Sdk/ndk/26.1/source.properties"), 2'000'000);
+    tree.file(QStringLiteral("home/.config/Code/logs/main.log"), 2'000'000);
+    const auto titles = [&](CategoryID category, const QList<Location>& group) {
+        QStringList found;
+        for (const CleanupItem& row : LocationScanner(category, group).scan(context).at(category).items)
+            found.append(row.title);
+        return found;
+    };
+    EXPECT_EQ(titles(CategoryID::packageCaches, KnownLocations::packageCaches()),
+              QStringList({"pnpm store", "pip cache"}));
+    EXPECT_EQ(titles(CategoryID::android, KnownLocations::android()), QStringList({"NDK 26.1"}));
+    EXPECT_EQ(titles(CategoryID::logs, KnownLocations::logs()), QStringList({"VS Code logs"}));
 }
