@@ -94,7 +94,8 @@ TEST(KnownLocationsTest, ALinuxHomesCachesAreFoundWhereLinuxKeepsThem)
     tree.file(QStringLiteral("home/.config/Code/logs/main.log"), 2'000'000);
     const auto titles = [&](CategoryID category, const QList<Location>& group) {
         QStringList found;
-        for (const CleanupItem& row : LocationScanner(category, group).scan(context).at(category).items)
+        const ScanOutputs outputs = LocationScanner(category, group).scan(context);
+        for (const CleanupItem& row : outputs.at(category).items)
             found.append(row.title);
         return found;
     };
