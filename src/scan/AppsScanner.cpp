@@ -3,8 +3,8 @@
 #include "format/ByteCount.h"
 #include "format/RelativeDate.h"
 #include "machinery/Concurrency.h"
-#include "machinery/FileSizer.h"
 #include "machinery/LastOpened.h"
+#include "scan/MeasuredPaths.h"
 #include "vocabulary/PathRules.h"
 
 #include <QCoreApplication>
@@ -23,30 +23,6 @@ struct Found {
     AppsScanner::App app;
     AppsScanner::Identity identity;
 };
-
-struct Measured {
-    qint64 bytes = 0;
-    QList<FileTarget> targets;
-    bool stopped = false;
-};
-
-Measured measure(const QStringList& paths, const ScanContext& context)
-{
-    Measured measured;
-    for (const QString& path : paths) {
-        auto target = FileTarget::make(path);
-        if (!target)
-            continue;  // vanished since it was found
-        context.progress->setCurrentFolder(path);
-        const FileSizer::Measurement size = FileSizer::measure(path, context.progress.get(), &context.cancellation);
-        measured.stopped = context.isCancelled();
-        if (measured.stopped)
-            return measured;
-        measured.bytes += size.bytes;
-        measured.targets.append(*target);
-    }
-    return measured;
-}
 
 QString detail(qint64 appBytes, qint64 dataBytes, qsizetype places)
 {
@@ -80,8 +56,8 @@ std::optional<CleanupItem> row(const Found& found, const AppsScanner::Claims& cl
 {
     const AppsScanner::Leftovers data =
         AppsScanner::leftovers(found.app, found.identity, context.home, context.fullDiskAccess, claims);
-    Measured bundle = measure({found.app.path}, context);
-    const Measured leftover = measure(data.paths, context);
+    MeasuredPaths bundle = MeasuredPaths::of({found.app.path}, context);
+    const MeasuredPaths leftover = MeasuredPaths::of(data.paths, context);
     if (bundle.stopped || leftover.stopped || bundle.targets.isEmpty())
         return std::nullopt;
     CleanupItem item;

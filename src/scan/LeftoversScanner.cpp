@@ -2,8 +2,8 @@
 
 #include "format/RelativeDate.h"
 #include "machinery/Concurrency.h"
-#include "machinery/FileSizer.h"
 #include "platform/Platform.h"
+#include "scan/MeasuredPaths.h"
 
 #include <QCoreApplication>
 #include <QTimeZone>
@@ -22,32 +22,6 @@ struct Leftover {
     QStringList paths;
 };
 
-struct Measured {
-    qint64 bytes = 0;
-    qint64 latestChange = 0;  // seconds since 1970
-    QList<FileTarget> targets;
-    bool stopped = false;
-};
-
-Measured measure(const QStringList& paths, const ScanContext& context)
-{
-    Measured measured;
-    for (const QString& path : paths) {
-        auto target = FileTarget::make(path);
-        if (!target || context.isCancelled()) {
-            measured.stopped = context.isCancelled();
-            continue;
-        }
-        context.progress->setCurrentFolder(path);
-        const FileSizer::Measurement size = FileSizer::measure(path, context.progress.get(), &context.cancellation);
-        measured.stopped = context.isCancelled();
-        measured.bytes += size.bytes;
-        measured.latestChange = std::max(measured.latestChange, size.latestChange);
-        measured.targets.append(*target);
-    }
-    return measured;
-}
-
 QString hasFact(const QStringList& kinds)
 {
     if (kinds.isEmpty()) {
@@ -60,7 +34,7 @@ QString hasFact(const QStringList& kinds)
 
 std::optional<CleanupItem> row(const Leftover& leftover, const ScanContext& context)
 {
-    const Measured measured = measure(leftover.paths, context);
+    const MeasuredPaths measured = MeasuredPaths::of(leftover.paths, context);
     const QDateTime changed = QDateTime::fromSecsSinceEpoch(measured.latestChange, QTimeZone::utc());
     if (measured.stopped || measured.targets.isEmpty()
         || changed > context.now.addDays(-LeftoversScanner::quietDays))

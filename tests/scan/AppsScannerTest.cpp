@@ -76,6 +76,7 @@ TEST(AppsScanner, FindsAppsOneFolderDownAndSkipsWhatIsNoUsableApp)
     f.app("Applications/Utilities/Console Tool.app", "com.a.Tool", "Console Tool");
     f.app("Applications/Vendor/Suite/Deep.app", "com.a.Deep");
     f.app("Applications/NoID.app", "");
+    f.tree.dir("Applications/NoPlist.app/Contents/MacOS");
     f.app("Applications/.Hidden.app", "com.a.Hidden");
     f.app("Applications/Dustlark.app", AppsScanner::ownBundleID);
     f.tree.symlink("Applications/Link.app", f.app("elsewhere/Other.app", "com.a.Other"));
