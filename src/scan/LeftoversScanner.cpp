@@ -75,7 +75,8 @@ std::vector<Leftover> leftoversOf(const LeftoversScanner::Groups& groups)
 ScanOutputs LeftoversScanner::scan(const ScanContext& context) const
 {
     const QSet<QString> installed = installedIdentifiers(folders, context.home);
-    Groups groups = removed(candidates(context.home, context.fullDiskAccess), installed);
+    const QSet<QString> groupsInUse = installedGroups(folders, context.home, codesign, context.cancellation);
+    Groups groups = removed(withoutGroups(candidates(context.home, context.fullDiskAccess), groupsInUse), installed);
     const Groups flatpakGroups = flatpakLeftovers(context.home, flatpak, &context.cancellation);
     for (auto it = flatpakGroups.begin(); it != flatpakGroups.end(); ++it)
         groups[it.key()] += it.value();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "scan/AppFolders.h"
+#include "scan/AppsScanner.h"
 #include "scan/Scanner.h"
 
 #include <QMap>
@@ -21,6 +22,7 @@ public:
 
     AppFolders folders;
     std::optional<QString> flatpak = standardFlatpak();
+    std::optional<QString> codesign = AppsScanner::standardCodesign();
 
     QList<CategoryID> categories() const override { return {CategoryID::leftovers}; }
     ScanOutputs scan(const ScanContext& context) const override;
@@ -28,6 +30,14 @@ public:
     // The identifiers (lower-cased) of every installed app and of the helpers and login items
     // nested in it.
     [[nodiscard]] static QSet<QString> installedIdentifiers(const AppFolders& folders, const QString& home);
+
+    // The application groups (lower-cased) of every installed app's signature: a group
+    // container another vendor's app uses is not left over, whatever its name says.
+    [[nodiscard]] static QSet<QString> installedGroups(const AppFolders& folders, const QString& home,
+                                                       const std::optional<QString>& codesign,
+                                                       const CancellationToken& cancellation);
+    // `candidates` without the group containers of `groups`.
+    [[nodiscard]] static Groups withoutGroups(const Groups& candidates, const QSet<QString>& groups);
 
     // The Library entries that carry an identifier, grouped by it; Containers only with Full
     // Disk Access. Launch agents go with the app of the program they start.

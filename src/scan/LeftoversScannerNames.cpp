@@ -1,5 +1,6 @@
 #include "scan/LeftoversScanner.h"
 
+#include "machinery/Concurrency.h"
 #include "machinery/FileInfo.h"
 #include "scan/AppNames.h"
 #include "scan/AppsScanner.h"
@@ -81,6 +82,42 @@ QSet<QString> LeftoversScanner::installedIdentifiers(const AppFolders& folders, 
         }
     }
     return installed;
+}
+
+QSet<QString> LeftoversScanner::installedGroups(const AppFolders& folders, const QString& home,
+                                                const std::optional<QString>& codesign,
+                                                const CancellationToken& cancellation)
+{
+    if (!codesign)
+        return {};
+    std::vector<QString> bundles;
+    for (const QString& folder : folders.forInstalledIdentifiers(home)) {
+        for (const AppsScanner::App& app : AppsScanner::appsIn(folder))
+            bundles.push_back(app.path);
+    }
+    const auto groupLists = Concurrency::map(bundles, 4, cancellation,
+                                             [&](const QString& bundle) { return AppsScanner::appGroups(bundle, codesign); });
+    QSet<QString> groups;
+    for (const QStringList& list : groupLists) {
+        for (const QString& group : list)
+            groups.insert(group.toLower());
+    }
+    return groups;
+}
+
+LeftoversScanner::Groups LeftoversScanner::withoutGroups(const Groups& candidates, const QSet<QString>& groups)
+{
+    Groups result;
+    for (auto it = candidates.begin(); it != candidates.end(); ++it) {
+        QStringList paths = it.value();
+        paths.removeIf([&](const QString& path) {
+            return path.section(QLatin1Char('/'), -2, -2) == QLatin1String("Group Containers")
+                && groups.contains(path.section(QLatin1Char('/'), -1).toLower());
+        });
+        if (!paths.isEmpty())
+            result.insert(it.key(), paths);
+    }
+    return result;
 }
 
 LeftoversScanner::Groups LeftoversScanner::candidates(const QString& home, bool fullDiskAccess)

@@ -15,6 +15,7 @@ LeftoversScanner scannerFor(const AppFixture& fixture)
     LeftoversScanner scanner;
     scanner.folders = fixture.folders;
     scanner.flatpak = std::nullopt;
+    scanner.codesign = std::nullopt;
     return scanner;
 }
 
@@ -114,6 +115,23 @@ TEST(LeftoversScanner, OnlyRemovedAppsOfVendorsWithNothingInstalledAreListed)
     withoutAccess.now = QDateTime::currentDateTimeUtc().addDays(31);
     withoutAccess.fullDiskAccess = false;
     EXPECT_EQ(titlesOf(scannerFor(f).scan(withoutAccess)[CategoryID::leftovers]), QStringList{"com.gone.Viewer"});
+}
+
+TEST(LeftoversScanner, AGroupContainerAnInstalledAppSignedForIsNotLeftOver)
+{
+    AppFixture f;
+    f.app("Applications/Suite.app", "com.suite.Main");
+    f.libraryFolder("Group Containers/ABCDE12345.org.partner.shared");
+    f.libraryFolder("Group Containers/ABCDE12345.org.lost.data");
+    const ToolStandIn codesign("codesign-standin", "codesign");
+    writeFile(QFileInfo(codesign.path()).path() + "/Suite.app.entitlements",
+              "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict><key>com.apple.security.application-groups</key>"
+              "<array><string>ABCDE12345.org.partner.shared</string></array></dict></plist>");
+    LeftoversScanner scanner = scannerFor(f);
+    EXPECT_EQ(titlesOf(scanLeftovers(scanner, f)).size(), 2);
+
+    scanner.codesign = codesign.path();
+    EXPECT_EQ(titlesOf(scanLeftovers(scanner, f)), QStringList{"org.lost.data"});
 }
 
 TEST(LeftoversScanner, AnythingChangedInTheLastThirtyDaysIsLeftAlone)
