@@ -4,6 +4,7 @@
 #include "scan/Scanner.h"
 
 #include <QHash>
+#include <QSet>
 #include <QList>
 #include <QString>
 #include <QStringList>
