@@ -135,6 +135,7 @@ TEST(AppsScanner, EveryLibraryPlaceOfTheAppGoesWithItButNothingAnotherAppClaims)
         f.libraryFolder("Containers/com.foo.AppPro"), f.libraryFile("Preferences/com.foo.AppPro.plist"),
     };
     f.libraryFile("LaunchAgents/com.foo.App.notes.txt");
+    f.libraryFolder("Containers/com.foo.AppOld");  // no installed app's, and not com.foo.App's either
     f.libraryFolder("Group Containers/group.com.foo.App.sync");
 
     const ScanOutput output = scanApps(scannerFor(f), f);
