@@ -16,8 +16,12 @@ std::optional<PropertyList> PropertyList::read(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly) || file.size() > largestReadableSize)
         return std::nullopt;
-    const QByteArray data = file.readAll();
-    if (data.isEmpty())
+    return parse(file.readAll());
+}
+
+std::optional<PropertyList> PropertyList::parse(const QByteArray& data)
+{
+    if (data.isEmpty() || data.size() > largestReadableSize)
         return std::nullopt;
     plist_t root = nullptr;
     plist_from_memory(data.constData(), static_cast<uint32_t>(data.size()), &root);
@@ -43,6 +47,25 @@ std::optional<QString> PropertyList::string(const QStringList& keyPath) const
     if (!value)
         return std::nullopt;
     return QString::fromUtf8(value, static_cast<qsizetype>(length));
+}
+
+QStringList PropertyList::strings(const QString& key) const
+{
+    plist_t root = m_root.get();
+    if (plist_get_node_type(root) != PLIST_DICT)
+        return {};
+    plist_t array = plist_dict_get_item(root, key.toUtf8().constData());
+    if (!array || plist_get_node_type(array) != PLIST_ARRAY)
+        return {};
+    QStringList texts;
+    for (uint32_t i = 0; i < plist_array_get_size(array); ++i) {
+        plist_t element = plist_array_get_item(array, i);
+        uint64_t length = 0;
+        const char* value = plist_get_node_type(element) == PLIST_STRING ? plist_get_string_ptr(element, &length) : nullptr;
+        if (value)
+            texts.append(QString::fromUtf8(value, static_cast<qsizetype>(length)));
+    }
+    return texts;
 }
 
 std::optional<QString> PropertyList::string(const QString& path, const QString& key)

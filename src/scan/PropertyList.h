@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -14,11 +15,16 @@ public:
     // Absent when the file cannot be read, is larger than a property list can sensibly be,
     // or is not a property list.
     [[nodiscard]] static std::optional<PropertyList> read(const QString& path);
+    // The same from bytes already in memory (a tool's output).
+    [[nodiscard]] static std::optional<PropertyList> parse(const QByteArray& data);
 
     // The text under `keyPath` (nested dictionary keys, outermost first); absent when a key
     // is missing or the value is not a string.
     [[nodiscard]] std::optional<QString> string(const QStringList& keyPath) const;
     [[nodiscard]] std::optional<QString> string(const QString& key) const { return string(QStringList{key}); }
+    // The texts of the top-level array under `key`, skipping elements that are not texts; empty
+    // when the key is missing or holds no array.
+    [[nodiscard]] QStringList strings(const QString& key) const;
 
     // Reads the file and one top-level string in one step.
     [[nodiscard]] static std::optional<QString> string(const QString& path, const QString& key);

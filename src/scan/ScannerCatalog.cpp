@@ -1,6 +1,8 @@
 #include "scan/ScannerCatalog.h"
 
+#include "scan/AppsScanner.h"
 #include "scan/KnownLocations.h"
+#include "scan/LeftoversScanner.h"
 #include "scan/LocationScanner.h"
 #include "scan/ProjectScanner.h"
 
@@ -14,7 +16,10 @@ const std::vector<std::shared_ptr<const Scanner>>& all()
         std::make_shared<LocationScanner>(CategoryID::packageCaches, KnownLocations::packageCaches()),
         // EditorsScanner, DockerScanner
         std::make_shared<LocationScanner>(CategoryID::aiModels, KnownLocations::aiModels()),
-        // AgentsScanner, AppsScanner, LeftoversScanner, AppCachesScanner
+        // AgentsScanner
+        std::make_shared<AppsScanner>(),
+        std::make_shared<LeftoversScanner>(),
+        // AppCachesScanner
         std::make_shared<LocationScanner>(CategoryID::logs, KnownLocations::logs()),
         // BrowserCachesScanner, InstallersScanner, OldDownloadsScanner, TemporaryScanner,
         // DevicesScanner, TrashScanner

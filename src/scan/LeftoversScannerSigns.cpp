@@ -1,0 +1,138 @@
+#include "scan/LeftoversScanner.h"
+
+#include "machinery/FileInfo.h"
+#include "machinery/ProcessRunner.h"
+
+#include <QCoreApplication>
+#include <QDirIterator>
+
+#include <array>
+
+namespace {
+
+enum Kind { savedPasswords, bookmarks, browsingHistory, documents, databases, kindCount };
+
+QString kindText(Kind kind)
+{
+    switch (kind) {
+    //: Kind of personal data found in a leftover, in a list
+    case savedPasswords: return QCoreApplication::translate("LeftoversScanner", "saved passwords");
+    //: Kind of personal data found in a leftover, in a list
+    case bookmarks: return QCoreApplication::translate("LeftoversScanner", "bookmarks");
+    //: Kind of personal data found in a leftover, in a list
+    case browsingHistory: return QCoreApplication::translate("LeftoversScanner", "browsing history");
+    //: Kind of personal data found in a leftover, in a list
+    case documents: return QCoreApplication::translate("LeftoversScanner", "documents");
+    //: Kind of personal data found in a leftover, in a list
+    case databases: return QCoreApplication::translate("LeftoversScanner", "databases");
+    case kindCount: break;
+    }
+    return {};
+}
+
+const QStringList databaseExtensions = {QStringLiteral("sqlite"), QStringLiteral("sqlite3"), QStringLiteral("db"),
+                                        QStringLiteral("realm"), QStringLiteral("storedata"), QStringLiteral("kdbx"),
+                                        QStringLiteral("wallet")};
+
+// Files people write themselves; plain text is left out because caches and logs are full of it.
+const QStringList documentExtensions = {
+    QStringLiteral("pdf"), QStringLiteral("doc"), QStringLiteral("docx"), QStringLiteral("pages"),
+    QStringLiteral("numbers"), QStringLiteral("key"), QStringLiteral("xls"), QStringLiteral("xlsx"),
+    QStringLiteral("ppt"), QStringLiteral("pptx"), QStringLiteral("odt"), QStringLiteral("ods"),
+    QStringLiteral("odp"), QStringLiteral("rtf"),
+};
+
+// Only the places where apps keep what the person made; caches and settings are not looked into.
+bool holdsOwnData(const QString& path)
+{
+    return path.contains(QLatin1String("/Library/Application Support/")) || path.contains(QLatin1String("/Library/Containers/"))
+        || path.contains(QLatin1String("/.var/app/"));
+}
+
+std::optional<Kind> kindOf(const QString& name)
+{
+    if (name == QLatin1String("Login Data"))
+        return savedPasswords;
+    if (name == QLatin1String("Bookmarks"))
+        return bookmarks;
+    if (name == QLatin1String("History"))
+        return browsingHistory;
+    const QString extension = name.section(QLatin1Char('.'), -1).toLower();
+    if (!name.contains(QLatin1Char('.')))
+        return std::nullopt;
+    if (databaseExtensions.contains(extension))
+        return databases;
+    if (documentExtensions.contains(extension))
+        return documents;
+    return std::nullopt;
+}
+
+using Found = std::array<bool, kindCount>;
+
+bool allFound(const Found& found)
+{
+    return std::all_of(found.begin(), found.end(), [](bool one) { return one; });
+}
+
+void lookInto(const QString& path, Found& found, const CancellationToken* cancellation)
+{
+    if (auto kind = kindOf(path.section(QLatin1Char('/'), -1)))
+        found[*kind] = true;
+    QDirIterator entries(path, QDir::Files | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+    for (qint64 seen = 0; entries.hasNext() && !allFound(found); ++seen) {
+        if (seen % 1024 == 0 && cancellation && cancellation->isCancelled())
+            return;
+        entries.next();
+        if (auto kind = kindOf(entries.fileName()))
+            found[*kind] = true;
+    }
+}
+
+QSet<QString> installedFlatpaks(const QString& flatpak, const CancellationToken* cancellation, bool* known)
+{
+    const ProcessRunner::Result result = ProcessRunner::run(
+        flatpak, {QStringLiteral("list"), QStringLiteral("--app"), QStringLiteral("--columns=application")},
+        std::chrono::seconds(30), {}, cancellation);
+    *known = result.launched() && !result.output->timedOut && result.output->status == 0;
+    QSet<QString> installed;
+    if (!*known)
+        return installed;
+    for (const QString& line : result.output->standardOutput.split(QLatin1Char('\n')))
+        installed.insert(line.trimmed());
+    return installed;
+}
+
+}  // namespace
+
+QStringList LeftoversScanner::userDataSigns(const QStringList& paths, const CancellationToken* cancellation)
+{
+    Found found{};
+    for (const QString& path : paths) {
+        if (holdsOwnData(path) && !allFound(found))
+            lookInto(path, found, cancellation);
+    }
+    QStringList kinds;
+    for (int kind = 0; kind < kindCount; ++kind) {
+        if (found[kind])
+            kinds.append(kindText(static_cast<Kind>(kind)));
+    }
+    return kinds;
+}
+
+LeftoversScanner::Groups LeftoversScanner::flatpakLeftovers(const QString& home, const std::optional<QString>& flatpak,
+                                                           const CancellationToken* cancellation)
+{
+    if (!flatpak)
+        return {};
+    bool known = false;
+    const QSet<QString> installed = installedFlatpaks(*flatpak, cancellation, &known);
+    if (!known)
+        return {};  // without the installed list, every data folder would look abandoned
+    const QString data = home + QStringLiteral("/.var/app");
+    Groups groups;
+    for (const QString& id : FileInfo::children(data)) {
+        if (!id.startsWith(QLatin1Char('.')) && !installed.contains(id))
+            groups[id].append(data + QLatin1Char('/') + id);
+    }
+    return groups;
+}
