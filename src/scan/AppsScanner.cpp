@@ -35,14 +35,14 @@ QString detail(qint64 appBytes, qint64 dataBytes, qsizetype places)
         .arg(ByteCount::format(appBytes), ByteCount::format(dataBytes));
 }
 
-QString openedFact(const std::optional<QDateTime>& lastOpened, const QDateTime& now)
+QString openedFact(const std::optional<QDateTime>& lastOpened)
 {
     if (!lastOpened) {
         //: Fact in an uninstaller row's detail line
         return QCoreApplication::translate("AppsScanner", "never opened");
     }
     //: Fact in an uninstaller row's detail line; %1 is a relative date like "3 months ago"
-    return QCoreApplication::translate("AppsScanner", "opened %1").arg(RelativeDate::format(*lastOpened, now));
+    return QCoreApplication::translate("AppsScanner", "opened %1").arg(RelativeDate::marker(*lastOpened));
 }
 
 QString keptFact(const AppsScanner::KeptFolder& kept)
@@ -69,7 +69,7 @@ std::optional<CleanupItem> row(const Found& found, const AppsScanner::Claims& cl
         item.badge = QCoreApplication::translate("AppsScanner", "Your apps");
     }
     item.date = LastOpened::of(AppsScanner::usageProbe(found.app));
-    QStringList facts = {detail(bundle.bytes, leftover.bytes, leftover.targets.size()), openedFact(item.date, context.now)};
+    QStringList facts = {detail(bundle.bytes, leftover.bytes, leftover.targets.size()), openedFact(item.date)};
     for (const AppsScanner::KeptFolder& kept : data.kept)
         facts.append(keptFact(kept));
     item.detail = facts.join(separator);

@@ -50,7 +50,7 @@ std::optional<CleanupItem> row(const Leftover& leftover, const ScanContext& cont
     item.userData = LeftoversScanner::userDataSigns(leftover.paths, &context.cancellation);
     //: Fact in a leftovers row's detail line; %1 is a relative date like "3 months ago"
     const QString changedFact = QCoreApplication::translate("LeftoversScanner", "last changed %1")
-        .arg(RelativeDate::format(changed, context.now));
+        .arg(RelativeDate::marker(changed));
     item.detail = changedFact + separator + hasFact(item.userData);
     item.size = measured.bytes;
     item.date = changed;

@@ -237,7 +237,7 @@ TEST(AppsScanner, RowsSayWhatGoesAndWhenTheAppWasOpenedLargestFirst)
     EXPECT_EQ(first.badge, "Your apps");
     const qint64 appBytes = FileSizer::measure(mine).bytes;
     const qint64 dataBytes = FileSizer::measure(data).bytes + FileSizer::measure(prefs).bytes;
-    EXPECT_EQ(first.detail, QString("App %1 + app data %2 in 2 places · opened %3")
+    EXPECT_EQ(RelativeDate::expand(first.detail, now), QString("App %1 + app data %2 in 2 places · opened %3")
                                 .arg(ByteCount::format(appBytes), ByteCount::format(dataBytes),
                                      RelativeDate::format(QDateTime::fromSecsSinceEpoch(opened), now)));
     EXPECT_EQ(first.size, appBytes + dataBytes);
