@@ -1,5 +1,6 @@
 #include "scan/ScannerCatalog.h"
 
+#include "scan/DockerScanner.h"
 #include "scan/KnownLocations.h"
 #include "scan/LocationScanner.h"
 #include "scan/ProjectScanner.h"
@@ -12,7 +13,8 @@ const std::vector<std::shared_ptr<const Scanner>>& all()
         std::make_shared<ProjectScanner>(),
         // XcodeScanner, SimulatorScanner, AndroidScanner
         std::make_shared<LocationScanner>(CategoryID::packageCaches, KnownLocations::packageCaches()),
-        // EditorsScanner, DockerScanner
+        // EditorsScanner
+        std::make_shared<DockerScanner>(),
         std::make_shared<LocationScanner>(CategoryID::aiModels, KnownLocations::aiModels()),
         // AgentsScanner, AppsScanner, LeftoversScanner, AppCachesScanner
         std::make_shared<LocationScanner>(CategoryID::logs, KnownLocations::logs()),
