@@ -4,6 +4,7 @@
 #include "scan/KnownLocations.h"
 #include "scan/LocationScanner.h"
 #include "scan/ProjectScanner.h"
+#include "scan/SimulatorScanner.h"
 
 namespace ScannerCatalog {
 
@@ -11,7 +12,9 @@ const std::vector<std::shared_ptr<const Scanner>>& all()
 {
     static const std::vector<std::shared_ptr<const Scanner>> scanners = {
         std::make_shared<ProjectScanner>(),
-        // XcodeScanner, SimulatorScanner, AndroidScanner
+        // XcodeScanner
+        std::make_shared<SimulatorScanner>(),
+        // AndroidScanner
         std::make_shared<LocationScanner>(CategoryID::packageCaches, KnownLocations::packageCaches()),
         // EditorsScanner
         std::make_shared<DockerScanner>(),
