@@ -1,5 +1,6 @@
 #include "scan/ScannerCatalog.h"
 
+#include "scan/AndroidScanner.h"
 #include "scan/DockerScanner.h"
 #include "scan/KnownLocations.h"
 #include "scan/LocationScanner.h"
@@ -14,7 +15,7 @@ const std::vector<std::shared_ptr<const Scanner>>& all()
         std::make_shared<ProjectScanner>(),
         // XcodeScanner
         std::make_shared<SimulatorScanner>(),
-        // AndroidScanner
+        std::make_shared<AndroidScanner>(),
         std::make_shared<LocationScanner>(CategoryID::packageCaches, KnownLocations::packageCaches()),
         // EditorsScanner
         std::make_shared<DockerScanner>(),
