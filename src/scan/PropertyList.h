@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDateTime>
 #include <QString>
 #include <QStringList>
 
@@ -20,11 +21,16 @@ public:
     [[nodiscard]] std::optional<QString> string(const QStringList& keyPath) const;
     [[nodiscard]] std::optional<QString> string(const QString& key) const { return string(QStringList{key}); }
 
+    // The date under `keyPath`; absent when a key is missing or the value is not a date.
+    [[nodiscard]] std::optional<QDateTime> date(const QStringList& keyPath) const;
     // Reads the file and one top-level string in one step.
     [[nodiscard]] static std::optional<QString> string(const QString& path, const QString& key);
 
 private:
     explicit PropertyList(std::shared_ptr<void> root) : m_root(std::move(root)) {}
+
+    // The node under `keyPath`, or null.
+    [[nodiscard]] void* node(const QStringList& keyPath) const;
 
     std::shared_ptr<void> m_root;  // a plist_t, freed with plist_free
 };

@@ -6,6 +6,7 @@
 #include "scan/LocationScanner.h"
 #include "scan/ProjectScanner.h"
 #include "scan/SimulatorScanner.h"
+#include "scan/XcodeScanner.h"
 
 namespace ScannerCatalog {
 
@@ -13,7 +14,7 @@ const std::vector<std::shared_ptr<const Scanner>>& all()
 {
     static const std::vector<std::shared_ptr<const Scanner>> scanners = {
         std::make_shared<ProjectScanner>(),
-        // XcodeScanner
+        std::make_shared<XcodeScanner>(),
         std::make_shared<SimulatorScanner>(),
         std::make_shared<AndroidScanner>(),
         std::make_shared<LocationScanner>(CategoryID::packageCaches, KnownLocations::packageCaches()),
