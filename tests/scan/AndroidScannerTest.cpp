@@ -2,6 +2,9 @@
 #include "scan/AndroidScanner.h"
 #include "support/TempTree.h"
 
+#include <QCoreApplication>
+#include <QProcess>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -98,10 +101,18 @@ TEST_F(AndroidScannerTest, AnUnreadableProcessListLocksEveryEmulator)
 
 TEST(AndroidScannerRealTool, TheSystemsPsReadsCommandLines)
 {
-    // One command line for both systems: procps' ps must accept the BSD-style arguments.
+    // One command line for both systems: procps' ps must accept the BSD-style arguments and
+    // print whole command lines, however long.
+    const QString name = QStringLiteral("Dustlark_Test_") + QString::number(QCoreApplication::applicationPid()) + QString(300, QLatin1Char('x'));
+    QProcess emulator;
+    emulator.start(QStringLiteral("python3"), {QStringLiteral("-c"), QStringLiteral("import sys; sys.stdin.read()"),
+                                               QStringLiteral("emulator"), QStringLiteral("-avd"), name});
+    ASSERT_TRUE(emulator.waitForStarted());
     const auto running = AndroidScanner().runningAVDs();
+    emulator.closeWriteChannel();
+    emulator.waitForFinished();
     ASSERT_TRUE(running.has_value());
-    EXPECT_TRUE(running->isEmpty());
+    EXPECT_TRUE(running->contains(name));
 }
 
 }  // namespace
