@@ -44,16 +44,14 @@ struct PlacedDevice {
     QString runtimeKey;
 };
 
+// The name of the runtime the device list files under `key`, for the device's detail.
 QString runtimeTitle(const QString& key, const QList<SimulatorScanner::Runtime>& runtimes)
 {
-    if (auto name = SimulatorScanner::runtimeName(key))
-        return *name;
     for (const SimulatorScanner::Runtime& runtime : runtimes) {
-        if (runtime.runtimeIdentifier == key && runtime.version)
-            //: A simulator runtime whose platform can't be told; %1 is its version like '17.5'
-            return QCoreApplication::translate("SimulatorScanner", "Simulator %1").arg(*runtime.version);
+        if (runtime.runtimeIdentifier == key)
+            return SimulatorScanner::displayName(runtime);
     }
-    return key;
+    return SimulatorScanner::runtimeName(key).value_or(key);  // a runtime that is gone
 }
 
 QList<CleanupItem> deviceRows(const SimulatorScanner::DeviceList& list, const QList<SimulatorScanner::Runtime>& runtimes,

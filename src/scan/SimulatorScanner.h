@@ -69,6 +69,8 @@ public:
     // "iOS 17.5" from "com.apple.CoreSimulator.SimRuntime.iOS-17-5"; absent when the
     // identifier doesn't end in a platform and a version.
     [[nodiscard]] static std::optional<QString> runtimeName(const QString& runtimeIdentifier);
+    // The runtime's readable name: "iOS 17.5", else "Simulator 17.5", else its identifier.
+    [[nodiscard]] static QString displayName(const Runtime& runtime);
     // The runtime list's entries, keyed as the tool prints them; absent when not JSON.
     [[nodiscard]] static std::optional<QList<Runtime>> decodeRuntimes(const QByteArray& json);
 

@@ -54,12 +54,8 @@ QString deviceDetail(const SimulatorScanner::Device& device, const QString& runt
 
 QString runtimeTitle(const SimulatorScanner::Runtime& runtime)
 {
-    std::optional<QString> name = SimulatorScanner::runtimeName(runtime.runtimeIdentifier.value_or(QString()));
-    if (!name && runtime.version)
-        //: A simulator runtime whose platform can't be told; %1 is its version like '17.5'
-        name = QCoreApplication::translate("SimulatorScanner", "Simulator %1").arg(*runtime.version);
     //: Title of a simulator runtime row; %1 is its name like 'iOS 17.5'
-    return QCoreApplication::translate("SimulatorScanner", "%1 runtime").arg(name.value_or(runtime.identifier));
+    return QCoreApplication::translate("SimulatorScanner", "%1 runtime").arg(SimulatorScanner::displayName(runtime));
 }
 
 QString runtimeDetail(const SimulatorScanner::Runtime& runtime, int deviceCount, const QDateTime& now)
@@ -111,6 +107,16 @@ std::optional<SimulatorScanner::Device> SimulatorScanner::Device::decode(const Q
         return std::nullopt;
     return Device{*udid, text(json, "name"), text(json, "state"), flag(json, "isAvailable"), text(json, "availabilityError"),
                   text(json, "dataPath"), bytes(json, "dataPathSize"), text(json, "lastUsedAt")};
+}
+
+QString SimulatorScanner::displayName(const Runtime& runtime)
+{
+    if (auto name = runtimeName(runtime.runtimeIdentifier.value_or(QString())))
+        return *name;
+    if (runtime.version)
+        //: A simulator runtime whose platform can't be told; %1 is its version like '17.5'
+        return QCoreApplication::translate("SimulatorScanner", "Simulator %1").arg(*runtime.version);
+    return runtime.identifier;
 }
 
 std::optional<QDateTime> SimulatorScanner::date(const std::optional<QString>& text)

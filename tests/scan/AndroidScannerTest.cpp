@@ -105,7 +105,7 @@ TEST(AndroidScannerRealTool, TheSystemsPsReadsCommandLines)
     // print whole command lines, however long.
     const QString name = QStringLiteral("Dustlark_Test_") + QString::number(QCoreApplication::applicationPid()) + QString(300, QLatin1Char('x'));
     QProcess emulator;
-    emulator.start(QStringLiteral("python3"), {QStringLiteral("-c"), QStringLiteral("import sys; sys.stdin.read()"),
+    emulator.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), QStringLiteral("read line"),
                                                QStringLiteral("emulator"), QStringLiteral("-avd"), name});
     ASSERT_TRUE(emulator.waitForStarted());
     const auto running = AndroidScanner().runningAVDs();

@@ -171,7 +171,7 @@ TEST(ToolScannersCli, ARunningEmulatorIsLocked)
     tree.file(QStringLiteral("home/.android/avd/Idle_Phone.avd/userdata-qemu.img"), 10'000);
     // A real process whose command line reads like the emulator's.
     QProcess emulator;
-    emulator.start(QStringLiteral("python3"), {QStringLiteral("-c"), QStringLiteral("import sys; sys.stdin.read()"),
+    emulator.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), QStringLiteral("read line"),
                                                QStringLiteral("qemu-system-aarch64"), QStringLiteral("-avd"), QStringLiteral("Pixel_7_API_34")});
     ASSERT_TRUE(emulator.waitForStarted());
 
