@@ -74,7 +74,7 @@ QHash<QString, QString> creationTimes(const Docker& docker, const QList<DockerSc
         return created;
     const std::optional<QString> inspected = docker.output(
         QStringList{QStringLiteral("volume"), QStringLiteral("inspect"), QStringLiteral("--format"),
-                    QStringLiteral("{{.Name}}\\t{{.CreatedAt}}")} + names);
+                    QStringLiteral("{{.Name}}\t{{.CreatedAt}}")} + names);
     for (const QString& line : inspected.value_or(QString()).split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
         const qsizetype tab = line.indexOf(QLatin1Char('\t'));
         if (tab > 0)

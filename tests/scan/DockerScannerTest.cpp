@@ -50,7 +50,7 @@ protected:
         docker.answerWithFixture(dfCommand, QStringLiteral("docker/system-df.jsonl"));
         docker.answerWithFixture(volumesCommand, QStringLiteral("docker/system-df-volumes.json"));
         docker.answerWithFixture(QStringList{QStringLiteral("volume"), QStringLiteral("inspect"), QStringLiteral("--format"),
-                                             QStringLiteral("{{.Name}}\\t{{.CreatedAt}}"), QStringLiteral("shop_pgdata"),
+                                             QStringLiteral("{{.Name}}\t{{.CreatedAt}}"), QStringLiteral("shop_pgdata"),
                                              anonymousVolume, QStringLiteral("gone_meanwhile")},
                                  QStringLiteral("docker/volume-inspect.txt"));
         environment.candidates = QStringList{QStringLiteral("/nonexistent/docker"), docker.path()};
@@ -140,6 +140,11 @@ TEST_F(DockerScannerTest, UnusedVolumesWithTheirOriginAndCreationTime)
     EXPECT_EQ(anonymous->title, QStringLiteral("Anonymous volume 9f86d081884c"));
     EXPECT_EQ(row(output, QStringLiteral("docker:volume:api_cache")), nullptr) << "a container uses it";
     EXPECT_EQ(row(output, QStringLiteral("docker:volume:gone_meanwhile")), nullptr) << "the inspection didn't report it";
+    // docker expands no escapes in --format (a backslash and a "t" come out as they are), so the
+    // separator it is given must be a real tab.
+    const QStringList inspections = docker.calls().filter(QStringLiteral("volume inspect"));
+    ASSERT_EQ(inspections.size(), 1);
+    EXPECT_TRUE(inspections[0].contains(QStringLiteral("{{.Name}}\t{{.CreatedAt}}"))) << qPrintable(inspections[0]);
 }
 
 TEST_F(DockerScannerTest, SummaryBuildCacheAndOrder)

@@ -100,7 +100,7 @@ void describeEngine(const ToolStandIn& docker)
     docker.answerWithFixture(words("system df") + json, QStringLiteral("docker/system-df.jsonl"));
     docker.answerWithFixture(words("system df -v") + QStringList{QStringLiteral("--format"), QStringLiteral("{{json .Volumes}}")},
                              QStringLiteral("docker/system-df-volumes.json"));
-    docker.answerWithFixture({QStringLiteral("volume"), QStringLiteral("inspect"), QStringLiteral("--format"), QStringLiteral("{{.Name}}\\t{{.CreatedAt}}"),
+    docker.answerWithFixture({QStringLiteral("volume"), QStringLiteral("inspect"), QStringLiteral("--format"), QStringLiteral("{{.Name}}\t{{.CreatedAt}}"),
                               QStringLiteral("shop_pgdata"), QStringLiteral("9f86d081884c7d659a2feaa0c55ad015a3bf4f1b2b0b822cd15d6c15b0f00a08"),
                               QStringLiteral("gone_meanwhile")},
                              QStringLiteral("docker/volume-inspect.txt"));
