@@ -97,15 +97,18 @@ ScanOutput SimulatorScanner::scanSimulators(const ScanContext& context) const
     const Listing devices = list(m_environment, {QStringLiteral("list"), QStringLiteral("devices"), QStringLiteral("--json")}, context);
     const std::optional<DeviceList> deviceList = devices.failure ? std::nullopt : DeviceList::decode(devices.json);
     if (!deviceList) {
+        const QString reason = devices.failure.value_or(unreadableAnswer());
         //: Note in the Simulators category; %1 is the tool's error sentence
-        return {{}, {QCoreApplication::translate("SimulatorScanner", "Couldn't list simulator devices: %1").arg(devices.failure.value_or(unreadableAnswer()))}, {}};
+        const QString note = QCoreApplication::translate("SimulatorScanner", "Couldn't list simulator devices: %1").arg(reason);
+        return {{}, {note}, {}};
     }
     ScanOutput output;
     const Listing runtimeListing = list(m_environment, {QStringLiteral("runtime"), QStringLiteral("list"), QStringLiteral("--json")}, context);
     const auto runtimes = runtimeListing.failure ? std::nullopt : decodeRuntimes(runtimeListing.json);
     if (!runtimes) {
+        const QString reason = runtimeListing.failure.value_or(unreadableAnswer());
         //: Note in the Simulators category; %1 is the tool's error sentence. The devices are still listed.
-        output.notes << QCoreApplication::translate("SimulatorScanner", "Couldn't list simulator runtimes: %1").arg(runtimeListing.failure.value_or(unreadableAnswer()));
+        output.notes << QCoreApplication::translate("SimulatorScanner", "Couldn't list simulator runtimes: %1").arg(reason);
     }
     output.items = deviceRows(*deviceList, runtimes.value_or(QList<Runtime>()), context);
     output.items += runtimeRows(runtimes.value_or(QList<Runtime>()), *deviceList, context.now);
