@@ -1,13 +1,13 @@
 #include "actions/DockerRemoval.h"
 
 #include "actions/ToolAnswer.h"
+#include "machinery/DockerEndpoint.h"
 #include "machinery/ProcessRunner.h"
 #include "vocabulary/RemovalReasons.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QRegularExpression>
 #include <QSet>
 
 namespace DockerRemoval {
@@ -16,7 +16,6 @@ namespace {
 
 using std::chrono::seconds;
 
-constexpr seconds contextTimeLimit{20};
 constexpr seconds stateTimeLimit{60};
 constexpr seconds inspectTimeLimit{30};
 constexpr seconds removalTimeLimit{600};  // pruning a large build cache takes minutes
@@ -66,7 +65,7 @@ std::optional<QString> containerProblem(const Docker& docker, const QString& id)
     const QStringList fields = state.output.trimmed().split(QLatin1Char('|'));
     if (fields.size() != 2 || fields[0] != QLatin1String("false"))
         return RemovalReasons::changedSinceScan();
-    const std::optional<QDateTime> finished = parseTime(fields[1]);
+    const std::optional<QDateTime> finished = DockerEndpoint::parseTime(fields[1]);
     const std::optional<QDateTime> scanned = docker.scannedAt();
     if (!finished || !scanned || *finished > *scanned)
         return RemovalReasons::changedSinceScan();
@@ -149,11 +148,6 @@ RemovalOutcome removeBuildCache(const Docker& docker)
                              removalTimeLimit));
 }
 
-bool isLocal(const QString& host)
-{
-    return host.startsWith(QLatin1String("unix://"));
-}
-
 }  // namespace
 
 RemovalOutcome remove(const DockerOperation& operation, const RemovalEnvironment& environment)
@@ -161,7 +155,7 @@ RemovalOutcome remove(const DockerOperation& operation, const RemovalEnvironment
     const std::optional<QString> executable = ProcessRunner::firstExecutable(environment.tools.dockerCandidates);
     if (!executable)
         return RemovalOutcome::failed(notInstalled());
-    const std::optional<QString> host = localHost(*executable, environment);
+    const std::optional<QString> host = DockerEndpoint::localHost(*executable, environment.dockerHostVariable, environment.cancellation);
     if (!host || !environment.dockerScan || environment.dockerScan->host != *host)
         return RemovalOutcome::failed(otherSetup());
     const Docker docker(*executable, *host, environment);
@@ -172,31 +166,6 @@ RemovalOutcome remove(const DockerOperation& operation, const RemovalEnvironment
     if (const auto* volume = operation.as<DockerOperation::Volume>())
         return removeVolume(docker, *volume);
     return removeBuildCache(docker);
-}
-
-std::optional<QString> localHost(const QString& executable, const RemovalEnvironment& environment)
-{
-    if (environment.dockerHostVariable)
-        return isLocal(*environment.dockerHostVariable) ? environment.dockerHostVariable : std::nullopt;
-    const ToolAnswer context = ToolAnswer::ask(
-        executable, {QStringLiteral("context"), QStringLiteral("inspect"), QStringLiteral("--format"), QStringLiteral("{{.Endpoints.docker.Host}}")},
-        contextTimeLimit, environment.cancellation);
-    const QString host = context.output.trimmed();
-    if (!context.succeeded || !isLocal(host))
-        return std::nullopt;
-    return host;
-}
-
-std::optional<QDateTime> parseTime(const QString& text)
-{
-    // Qt reads at most milliseconds; Docker writes up to nanoseconds.
-    static const QRegularExpression fraction(QStringLiteral("(\\.\\d{3})\\d+"));
-    QString trimmed = text.trimmed();
-    trimmed.replace(fraction, QStringLiteral("\\1"));
-    const QDateTime time = QDateTime::fromString(trimmed, Qt::ISODateWithMs);
-    if (!time.isValid())
-        return std::nullopt;
-    return time;
 }
 
 }  // namespace DockerRemoval

@@ -1,6 +1,7 @@
 #include "actions/RemovalEnvironment.h"
 
 #include "actions/SystemTrash.h"
+#include "machinery/DockerEndpoint.h"
 #include "platform/Platform.h"
 #include "vocabulary/SharedScanFolders.h"
 
@@ -13,9 +14,7 @@ RemovalEnvironment RemovalEnvironment::current()
     environment.otherVolumeFolders = SharedScanFolders::current();
     environment.tools = ToolLocations::standard(environment.home);
     environment.dockerScan = DockerScanRecord::last();
-    const QString dockerHost = qEnvironmentVariable("DOCKER_HOST");
-    if (!dockerHost.isEmpty())
-        environment.dockerHostVariable = dockerHost;
+    environment.dockerHostVariable = DockerEndpoint::hostVariable();
     return environment;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "actions/DockerScanRecord.h"
+#include "machinery/DockerScanRecord.h"
 #include "actions/TrashOperation.h"
 #include "machinery/CancellationToken.h"
 #include "machinery/ToolLocations.h"

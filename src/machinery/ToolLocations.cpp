@@ -24,6 +24,8 @@ ToolLocations ToolLocations::standard(const QString& home)
     if (isLinux())
         tools.dockerCandidates.append(QStringLiteral("/usr/bin/docker"));  // distribution packages
     tools.xcrun = QStringLiteral("/usr/bin/xcrun");
+    tools.xcodeSelect = QStringLiteral("/usr/bin/xcode-select");
+    tools.ps = QStringLiteral("/bin/ps");  // procps' ps on Linux takes the same arguments
     tools.osascript = QStringLiteral("/usr/bin/osascript");
     return tools;
 }

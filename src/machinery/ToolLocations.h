@@ -5,10 +5,12 @@
 
 // Where the command-line tools Dustlark runs are installed: data that differs by system (macOS
 // lists exactly the documented places; Linux adds its distribution's). Replaceable so that tests
-// can let stand-in scripts play docker, xcrun and osascript. Plain value.
+// can let stand-in scripts play docker, xcrun, xcode-select, ps and osascript. Plain value.
 struct ToolLocations {
     QStringList dockerCandidates;  // the first executable one is used
     QString xcrun;
+    QString xcodeSelect;  // tells which Xcode is selected for builds
+    QString ps;           // lists every process with its full command line
     QString osascript;
 
     // The documented install places, with the home folder's own docker.

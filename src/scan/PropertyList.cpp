@@ -1,6 +1,7 @@
 #include "scan/PropertyList.h"
 
 #include <QFile>
+#include <QTimeZone>
 
 #include <plist/plist.h>
 
@@ -30,17 +31,23 @@ std::optional<PropertyList> PropertyList::parse(const QByteArray& data)
     return PropertyList(std::shared_ptr<void>(root, [](void* node) { plist_free(static_cast<plist_t>(node)); }));
 }
 
-std::optional<QString> PropertyList::string(const QStringList& keyPath) const
+void* PropertyList::node(const QStringList& keyPath) const
 {
     plist_t node = m_root.get();
     for (const QString& key : keyPath) {
         if (plist_get_node_type(node) != PLIST_DICT)
-            return std::nullopt;
+            return nullptr;
         node = plist_dict_get_item(node, key.toUtf8().constData());
         if (!node)
-            return std::nullopt;
+            return nullptr;
     }
-    if (plist_get_node_type(node) != PLIST_STRING)
+    return node;
+}
+
+std::optional<QString> PropertyList::string(const QStringList& keyPath) const
+{
+    plist_t node = this->node(keyPath);
+    if (!node || plist_get_node_type(node) != PLIST_STRING)
         return std::nullopt;
     uint64_t length = 0;
     const char* value = plist_get_string_ptr(node, &length);
@@ -66,6 +73,18 @@ QStringList PropertyList::strings(const QString& key) const
             texts.append(QString::fromUtf8(value, static_cast<qsizetype>(length)));
     }
     return texts;
+}
+
+std::optional<QDateTime> PropertyList::date(const QStringList& keyPath) const
+{
+    plist_t node = this->node(keyPath);
+    if (!node || plist_get_node_type(node) != PLIST_DATE)
+        return std::nullopt;
+    int32_t seconds = 0;
+    int32_t microseconds = 0;
+    plist_get_date_val(node, &seconds, &microseconds);  // since 2001-01-01 00:00:00 UTC
+    static const QDateTime epoch2001(QDate(2001, 1, 1), QTime(0, 0), QTimeZone::utc());
+    return epoch2001.addMSecs(qint64(seconds) * 1000 + microseconds / 1000);
 }
 
 std::optional<QString> PropertyList::string(const QString& path, const QString& key)

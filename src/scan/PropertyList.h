@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QString>
 #include <QStringList>
 
@@ -26,11 +27,16 @@ public:
     // when the key is missing or holds no array.
     [[nodiscard]] QStringList strings(const QString& key) const;
 
+    // The date under `keyPath`; absent when a key is missing or the value is not a date.
+    [[nodiscard]] std::optional<QDateTime> date(const QStringList& keyPath) const;
     // Reads the file and one top-level string in one step.
     [[nodiscard]] static std::optional<QString> string(const QString& path, const QString& key);
 
 private:
     explicit PropertyList(std::shared_ptr<void> root) : m_root(std::move(root)) {}
+
+    // The node under `keyPath`, or null.
+    [[nodiscard]] void* node(const QStringList& keyPath) const;
 
     std::shared_ptr<void> m_root;  // a plist_t, freed with plist_free
 };

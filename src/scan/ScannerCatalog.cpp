@@ -1,10 +1,14 @@
 #include "scan/ScannerCatalog.h"
 
+#include "scan/AndroidScanner.h"
 #include "scan/AppsScanner.h"
+#include "scan/DockerScanner.h"
 #include "scan/KnownLocations.h"
 #include "scan/LeftoversScanner.h"
 #include "scan/LocationScanner.h"
 #include "scan/ProjectScanner.h"
+#include "scan/SimulatorScanner.h"
+#include "scan/XcodeScanner.h"
 
 namespace ScannerCatalog {
 
@@ -12,9 +16,12 @@ const std::vector<std::shared_ptr<const Scanner>>& all()
 {
     static const std::vector<std::shared_ptr<const Scanner>> scanners = {
         std::make_shared<ProjectScanner>(),
-        // XcodeScanner, SimulatorScanner, AndroidScanner
+        std::make_shared<XcodeScanner>(),
+        std::make_shared<SimulatorScanner>(),
+        std::make_shared<AndroidScanner>(),
         std::make_shared<LocationScanner>(CategoryID::packageCaches, KnownLocations::packageCaches()),
-        // EditorsScanner, DockerScanner
+        // EditorsScanner
+        std::make_shared<DockerScanner>(),
         std::make_shared<LocationScanner>(CategoryID::aiModels, KnownLocations::aiModels()),
         // AgentsScanner
         std::make_shared<AppsScanner>(),

@@ -1,5 +1,6 @@
 #include "actions/ToolStandIn.h"
 
+#include <QCryptographicHash>
 #include <QFile>
 
 #include <gtest/gtest.h>
@@ -25,6 +26,8 @@ QString keyOf(const QStringList& arguments)
         if (!kept)
             c = QLatin1Char('_');
     }
+    if (key.size() > 200)  // too long for a file name: the scripts use its digest too
+        return QString::fromLatin1(QCryptographicHash::hash(key.toLatin1(), QCryptographicHash::Md5).toHex());
     return key;
 }
 
@@ -49,6 +52,11 @@ void ToolStandIn::answer(const QStringList& arguments, const QString& output, in
     write(fileFor(arguments, ".status"), QByteArray::number(status));
     if (!error.isEmpty())
         write(fileFor(arguments, ".err"), error.toUtf8());
+}
+
+void ToolStandIn::hang(const QStringList& arguments) const
+{
+    write(fileFor(arguments, ".hang"), {});
 }
 
 void ToolStandIn::answerEveryCall(const QString& output, int status, const QString& error) const

@@ -14,6 +14,8 @@ public:
     QString path() const { return m_path; }
     // For the arguments (after docker's "--host H"), print `output` and exit with `status`.
     void answer(const QStringList& arguments, const QString& output, int status = 0, const QString& error = {}) const;
+    // For the arguments, hang until the caller's time limit stops the tool.
+    void hang(const QStringList& arguments) const;
     // For the osascript stand-in, which gives one answer to every call.
     void answerEveryCall(const QString& output, int status, const QString& error) const;
     // The same with a canned output file from tests/fixtures.

@@ -1,4 +1,4 @@
-#include "actions/DockerScanRecord.h"
+#include "machinery/DockerScanRecord.h"
 
 #include <mutex>
 

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "machinery/CancellationToken.h"
+
+#include <QDateTime>
+#include <QString>
+
+#include <optional>
+
+// Which Docker engine the docker tool talks to, decided the same way by the scan and by the
+// removal that later compares the two. Blocks the calling worker thread while the tool runs.
+namespace DockerEndpoint {
+
+// The local endpoint (a "unix://" address) of the tool at `executable`: `hostVariable`
+// (DOCKER_HOST) when set, without running the tool, else the current context's endpoint.
+// Absent when the endpoint is another computer or can't be read (failure, time-out).
+[[nodiscard]] std::optional<QString> localHost(const QString& executable, const std::optional<QString>& hostVariable,
+                                               const CancellationToken* cancellation = nullptr);
+
+// DOCKER_HOST of this process when set and not empty.
+[[nodiscard]] std::optional<QString> hostVariable();
+
+// Docker's RFC 3339 time text ("2024-05-01T10:20:30.123456789Z") as a date; absent when
+// unreadable.
+[[nodiscard]] std::optional<QDateTime> parseTime(const QString& text);
+
+}  // namespace DockerEndpoint

@@ -1,0 +1,159 @@
+#include "actions/ToolStandIn.h"
+#include "scan/SimulatorScanner.h"
+#include "support/TempTree.h"
+
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QStringList listDevices = {QStringLiteral("simctl"), QStringLiteral("list"), QStringLiteral("devices"), QStringLiteral("--json")};
+const QStringList listRuntimes = {QStringLiteral("simctl"), QStringLiteral("runtime"), QStringLiteral("list"), QStringLiteral("--json")};
+const QString iPhone15 = QStringLiteral("sim:device:5D3F2A10-7C1B-4E0A-9B7E-1F2C3D4E5F60");
+const QString iPad = QStringLiteral("sim:device:A1B2C3D4-0000-4000-8000-00000000BEEF");
+const QString iOS17 = QStringLiteral("sim:runtime:C8E1F3A2-4B5D-4C6E-8F70-9A1B2C3D4E5F");
+const QString watchOS10 = QStringLiteral("sim:runtime:3A5C7E9F-2B4D-4F6A-8C0E-1D3F5B7A9C2E");
+
+QString fixture(const QString& name)
+{
+    QFile file(QStringLiteral(DUSTLARK_FIXTURES "/") + name);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+// Xcode selected, two runtimes installed (one bundled with Xcode) and one gone, devices on
+// the installed one and on the gone one; the devices' data folders are real folders.
+class SimulatorScannerTest : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        xcodeSelect.answer({QStringLiteral("-p")}, fixture(QStringLiteral("xcode-select/print-path.txt")));
+        xcrun.answer(listDevices, fixture(QStringLiteral("simctl/scan-devices.json")).replace(QStringLiteral("@HOME@"), home.root()));
+        xcrun.answerWithFixture(listRuntimes, QStringLiteral("simctl/scan-runtimes.json"));
+        home.file(QStringLiteral("Library/Developer/CoreSimulator/Devices/5D3F2A10-7C1B-4E0A-9B7E-1F2C3D4E5F60/data/app.db"), 300'000);
+        environment.xcrun = xcrun.path();
+        environment.xcodeSelect = xcodeSelect.path();
+        context.home = home.root();
+        context.now = QDateTime::fromString(QStringLiteral("2024-06-02T12:00:00Z"), Qt::ISODate);
+    }
+
+    ScanOutput scan() const { return SimulatorScanner(environment).scanSimulators(context); }
+
+    static const CleanupItem& row(const ScanOutput& output, const QString& id)
+    {
+        for (const CleanupItem& item : output.items) {
+            if (item.id == id)
+                return item;
+        }
+        static const CleanupItem none;
+        ADD_FAILURE() << "no row " << qPrintable(id);
+        return none;
+    }
+
+    ToolStandIn xcrun{QStringLiteral("xcrun-standin"), QStringLiteral("xcrun")};
+    ToolStandIn xcodeSelect{QStringLiteral("canned-standin"), QStringLiteral("xcode-select")};
+    TempTree home;
+    SimulatorScanner::Environment environment;
+    ScanContext context;
+};
+
+TEST_F(SimulatorScannerTest, WithoutAFullXcodeOnlyTheNoteAndNoSimulatorTool)
+{
+    xcodeSelect.answer({QStringLiteral("-p")}, fixture(QStringLiteral("xcode-select/print-path-command-line-tools.txt")));
+    const ScanOutput expected{{}, {QStringLiteral("Xcode isn't installed, so there are no simulators to manage.")}, {}};
+    EXPECT_EQ(scan(), expected);
+    environment.xcodeSelect = QStringLiteral("/nonexistent/xcode-select");  // as on Linux
+    EXPECT_EQ(scan(), expected);
+    EXPECT_TRUE(xcrun.calls().isEmpty());
+}
+
+TEST_F(SimulatorScannerTest, DeviceRowsCarryTheirRuntimeUseAndLock)
+{
+    const ScanOutput output = scan();
+    EXPECT_TRUE(output.notes.isEmpty()) << qPrintable(output.notes.join(QLatin1Char('\n')));
+
+    const CleanupItem& phone = row(output, iPhone15);
+    EXPECT_EQ(phone.title, QStringLiteral("iPhone 15"));
+    EXPECT_EQ(phone.badge, QStringLiteral("Device"));
+    EXPECT_EQ(phone.detail, QStringLiteral("removing it keeps iOS 17.5 · used last month"));
+    EXPECT_GE(phone.size, 300'000) << "the data folder measured on disk, not the tool's figure";
+    EXPECT_LT(phone.size, 2'147'483'648);
+    EXPECT_FALSE(phone.isLocked());
+    EXPECT_EQ(phone.safety(home.root()), Safety::askAI);
+
+    const CleanupItem& tablet = row(output, iPad);
+    EXPECT_EQ(tablet.lockedReason, QStringLiteral("Running. Shut it down to remove it."));
+    // The removal carries the exact instant the scan saw, so a later use is noticed.
+    EXPECT_EQ(tablet.removal, (Removal{Removal::SimulatorDevice{QStringLiteral("A1B2C3D4-0000-4000-8000-00000000BEEF"),
+                                                                QDateTime::fromString(QStringLiteral("2024-06-01T17:40:02.250Z"), Qt::ISODateWithMs)}}));
+}
+
+TEST_F(SimulatorScannerTest, DevicesOfAGoneRuntimeSayWhyTheyCantRun)
+{
+    const ScanOutput output = scan();
+    const CleanupItem& withReason = row(output, QStringLiteral("sim:device:0E9D8C7B-6A5F-4E3D-2C1B-0A9F8E7D6C5B"));
+    EXPECT_EQ(withReason.badge, QStringLiteral("Unavailable"));
+    EXPECT_EQ(withReason.detail, QStringLiteral("removing it keeps iOS 16.4 · never used · can't run: its iOS is gone "
+                                                "(runtime profile not found using \"System\" match policy)"));
+    const CleanupItem& withoutReason = row(output, QStringLiteral("sim:device:7F0E1D2C-3B4A-4958-8776-655443322110"));
+    EXPECT_EQ(withoutReason.detail, QStringLiteral("removing it keeps iOS 16.4 · never used · can't run: its iOS is gone (runtime is missing)"));
+    EXPECT_EQ(withoutReason.size, 0) << "neither a data folder nor a size";
+    EXPECT_EQ(output.items.size(), 7) << "four devices (one without a udid skipped) and three runtimes";
+}
+
+TEST_F(SimulatorScannerTest, RuntimeRowsAndTheirLocks)
+{
+    const ScanOutput output = scan();
+
+    const CleanupItem& iOS = row(output, iOS17);
+    EXPECT_EQ(iOS.title, QStringLiteral("iOS 17.5 runtime"));
+    EXPECT_EQ(iOS.badge, QStringLiteral("Runtime"));
+    EXPECT_EQ(iOS.size, 7'423'467'520);
+    EXPECT_EQ(iOS.detail, QStringLiteral("Build 21F79 · used 18 hours ago · 2 devices stop working without it; getting it back is a 7.42 GB download"));
+    EXPECT_EQ(iOS.lockedReason, QStringLiteral("A simulator on it is running. Shut it down to remove it."));
+    EXPECT_EQ(iOS.removal, (Removal{Removal::SimulatorRuntime{QStringLiteral("C8E1F3A2-4B5D-4C6E-8F70-9A1B2C3D4E5F")}}));
+
+    const CleanupItem& watch = row(output, watchOS10);
+    EXPECT_EQ(watch.detail, QStringLiteral("Build 21T575 · no devices use it"));
+    EXPECT_EQ(watch.lockedReason, QStringLiteral("Installed with Xcode; remove it in Xcode Settings › Components."));
+
+    const CleanupItem& custom = row(output, QStringLiteral("sim:runtime:E2D4C6B8-A0F1-4E3D-9C5B-7A8F6E4D2C1B"));
+    EXPECT_EQ(custom.title, QStringLiteral("Simulator 2.0 runtime"));
+    EXPECT_FALSE(custom.isLocked());
+}
+
+TEST_F(SimulatorScannerTest, AnUnreadableDeviceListLeavesOnlyANote)
+{
+    const auto noteOnly = [this](const QString& reason) {
+        const ScanOutput output = scan();
+        EXPECT_TRUE(output.items.isEmpty());
+        EXPECT_EQ(output.notes, QStringList{QStringLiteral("Couldn't list simulator devices: ") + reason});
+    };
+    xcrun.answer(listDevices, QStringLiteral("{\"devices\" : {\"com.apple.CoreSimulator.SimRuntime.iOS-17-5\" : [ {\"udid\""));
+    noteOnly(QStringLiteral("The tool's answer isn't valid JSON."));
+    xcrun.answer(listDevices, QString(), 1, QStringLiteral("An error was encountered processing the command (domain=com.apple.CoreSimulator.SimError, code=405)"));
+    noteOnly(QStringLiteral("An error was encountered processing the command (domain=com.apple.CoreSimulator.SimError, code=405)"));
+    environment.listTimeLimit = std::chrono::milliseconds(300);
+    xcrun.hang(listDevices);
+    noteOnly(QStringLiteral("The tool didn't answer in time."));
+}
+
+TEST_F(SimulatorScannerTest, AnUnreadableRuntimeListKeepsTheDevices)
+{
+    xcrun.answer(listRuntimes, QStringLiteral("not json"));
+    const ScanOutput output = scan();
+    EXPECT_EQ(output.notes, QStringList{QStringLiteral("Couldn't list simulator runtimes: The tool's answer isn't valid JSON.")});
+    EXPECT_EQ(output.items.size(), 4);
+    EXPECT_EQ(row(output, iPhone15).detail, QStringLiteral("removing it keeps iOS 17.5 · used last month"));
+}
+
+TEST(SimulatorRuntimeName, FromTheIdentifiersLastComponent)
+{
+    EXPECT_EQ(SimulatorScanner::runtimeName(QStringLiteral("com.apple.CoreSimulator.SimRuntime.iOS-17-5")), QStringLiteral("iOS 17.5"));
+    EXPECT_EQ(SimulatorScanner::runtimeName(QStringLiteral("com.apple.CoreSimulator.SimRuntime.watchOS-10-5")), QStringLiteral("watchOS 10.5"));
+    EXPECT_EQ(SimulatorScanner::runtimeName(QStringLiteral("com.apple.CoreSimulator.SimRuntime.iOS-18-0-1")), QStringLiteral("iOS 18.0.1"));
+    EXPECT_FALSE(SimulatorScanner::runtimeName(QStringLiteral("com.example.CustomRuntime")).has_value());
+    EXPECT_FALSE(SimulatorScanner::runtimeName(QStringLiteral("com.apple.CoreSimulator.SimRuntime.iOS-beta")).has_value());
+}
+
+}  // namespace
