@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDateTime>
 #include <QString>
 #include <QStringList>
 
@@ -20,10 +21,19 @@ public:
     [[nodiscard]] std::optional<QString> string(const QStringList& keyPath) const;
     [[nodiscard]] std::optional<QString> string(const QString& key) const { return string(QStringList{key}); }
 
+    // The whole number under `keyPath`; absent when missing or not an integer.
+    [[nodiscard]] std::optional<qint64> integer(const QStringList& keyPath) const;
+    [[nodiscard]] std::optional<qint64> integer(const QString& key) const { return integer(QStringList{key}); }
+    // The date under `keyPath`; absent when missing or not a date.
+    [[nodiscard]] std::optional<QDateTime> date(const QStringList& keyPath) const;
+    [[nodiscard]] std::optional<QDateTime> date(const QString& key) const { return date(QStringList{key}); }
+
     // Reads the file and one top-level string in one step.
     [[nodiscard]] static std::optional<QString> string(const QString& path, const QString& key);
 
 private:
+    void* node(const QStringList& keyPath) const;  // a plist_t inside m_root, or null
+
     explicit PropertyList(std::shared_ptr<void> root) : m_root(std::move(root)) {}
 
     std::shared_ptr<void> m_root;  // a plist_t, freed with plist_free
