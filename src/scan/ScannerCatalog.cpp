@@ -1,8 +1,13 @@
 #include "scan/ScannerCatalog.h"
 
+#include "scan/DevicesScanner.h"
+#include "scan/InstallersScanner.h"
 #include "scan/KnownLocations.h"
 #include "scan/LocationScanner.h"
+#include "scan/OldDownloadsScanner.h"
 #include "scan/ProjectScanner.h"
+#include "scan/TemporaryScanner.h"
+#include "scan/TrashScanner.h"
 
 namespace ScannerCatalog {
 
@@ -16,8 +21,12 @@ const std::vector<std::shared_ptr<const Scanner>>& all()
         std::make_shared<LocationScanner>(CategoryID::aiModels, KnownLocations::aiModels()),
         // AgentsScanner, AppsScanner, LeftoversScanner, AppCachesScanner
         std::make_shared<LocationScanner>(CategoryID::logs, KnownLocations::logs()),
-        // BrowserCachesScanner, InstallersScanner, OldDownloadsScanner, TemporaryScanner,
-        // DevicesScanner, TrashScanner
+        // BrowserCachesScanner
+        std::make_shared<InstallersScanner>(),
+        std::make_shared<OldDownloadsScanner>(),
+        std::make_shared<TemporaryScanner>(),
+        std::make_shared<DevicesScanner>(),
+        std::make_shared<TrashScanner>(),
     };
     return scanners;
 }
