@@ -17,7 +17,8 @@
 namespace {
 
 constexpr qint64 secondsPerDay = 86'400;
-// Levels below the root that a busy folder may be entered to: root/a and root/a/b.
+// Busy folders down to two levels below the root are entered (root/a and root/a/b), so old
+// entries down to root/a/b/c are found.
 constexpr int deepestEnteredLevel = 2;
 // The state device.plist gives a simulator that is shut down.
 constexpr qint64 simulatorShutDown = 1;
@@ -107,7 +108,7 @@ void OldEntrySearch::consider(const QString& path, int level, TemporaryScanner::
         return;
     if (*newest < m_cutoff)
         group.entries.append({path, *newest, isFolder, isDevice});
-    else if (isFolder && !isDevice && level < deepestEnteredLevel)
+    else if (isFolder && !isDevice && level <= deepestEnteredLevel)
         visit(path, level + 1);
 }
 

@@ -60,7 +60,8 @@ public:
 
     // The groups of old entries under `root`: entries whose newest change is before `now` minus
     // `days`. Hidden, "com.apple." and "NSIRD_" names, symbolic links and entries of other users
-    // are never taken; a folder that is not old is entered, down to two levels below the root.
+    // are never taken; a folder that is not old is entered, if it lies at most two levels below
+    // the root.
     [[nodiscard]] static QList<Group> oldEntries(const QString& root, int days, const QDateTime& now,
                                                  const CancellationToken* cancellation = nullptr);
 
