@@ -77,6 +77,7 @@ TEST_F(TrashScannerTest, WithoutFullDiskAccessTheRowStaysWithItsSizeUnknown)
 TEST_F(TrashScannerTest, UnreadableEntriesAreCountedAsFarAsReadable)
 {
     put(QStringLiteral("readable.txt"), 10'000);
+    put(QStringLiteral("also-readable.txt"), 10'000);
     put(QStringLiteral("folder/hidden.txt"), 10'000);
     ::chmod(QFile::encodeName(trash + QStringLiteral("/folder")).constData(), 0);
 
@@ -86,6 +87,6 @@ TEST_F(TrashScannerTest, UnreadableEntriesAreCountedAsFarAsReadable)
             .join(QLatin1Char('|')).toUtf8();
     });
     ASSERT_TRUE(seen.has_value()) << "could not run without privileges";
-    EXPECT_EQ(*seen, "1|1 files|Some items in the Trash couldn't be read, so its size counts only the rest. "
+    EXPECT_EQ(*seen, "1|2 files|Some items in the Trash couldn't be read, so its size counts only the rest. "
                      "Empty Trash removes them too.");
 }
