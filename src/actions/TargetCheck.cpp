@@ -1,8 +1,8 @@
 #include "actions/TargetCheck.h"
 
-#include "actions/Fingerprint.h"
 #include "actions/MovedTargets.h"
 #include "actions/SecurePath.h"
+#include "machinery/Fingerprint.h"
 #include "platform/Platform.h"
 #include "vocabulary/AllowedPlace.h"
 #include "vocabulary/FileStatus.h"

@@ -30,4 +30,13 @@ QStringList children(const QString& directory)
     return names;
 }
 
+bool canList(const QString& directory)
+{
+    DIR* listing = ::opendir(QFile::encodeName(directory).constData());
+    if (!listing)
+        return false;
+    ::closedir(listing);
+    return true;
+}
+
 }  // namespace FileInfo

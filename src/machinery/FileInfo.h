@@ -10,4 +10,7 @@ namespace FileInfo {
 // when the folder is missing or cannot be read.
 [[nodiscard]] QStringList children(const QString& directory);
 
+// Whether `directory` can be opened for listing: tells an empty folder from one we may not read.
+[[nodiscard]] bool canList(const QString& directory);
+
 }  // namespace FileInfo

@@ -87,8 +87,8 @@ void AppModel::finishCleanup(std::optional<qint64> freeAfter)
     session->setFreeAfter(freeAfter);
     m_stats->recordCleanup(session->movedToTrash(), session->removedByTools(), session->removedCount());
     refreshSystemState();
-    refreshTrash();
     session->setPhase(CleanupSession::Phase::finished);
+    refreshTrash();  // after the phase, so the Trash row may be scanned again
     // Images whose containers went show their new state; rescans wait until the run has ended.
     if (session->removedContainers())
         rescan(CategoryID::docker);
@@ -175,6 +175,9 @@ void AppModel::emptyTrash()
 
 void AppModel::refreshTrash()
 {
+    // The Trash row is the Trash scanner's own; scanning it again keeps row and figure in step.
+    if (result(CategoryID::trash).state == CategoryResult::State::done)
+        rescan(CategoryID::trash);
     QPointer<AppModel> self(this);
     onWorker([self, measure = m_services.measureTrash, home = m_settings->home()] {
         const std::optional<qint64> bytes = measure ? measure(home) : std::nullopt;

@@ -61,6 +61,10 @@ bool isDataless(const struct stat& info);
 // symbolic link); absent when it has none or the path cannot be read.
 std::optional<QDateTime> birthTime(const QString& path);
 
+// The system's own per-user temporary folder (confstr's per-user temporary-directory name on
+// macOS); absent where the system keeps none of its own.
+std::optional<QString> userTempFolder();
+
 // Modification, status-change and access times of a status record in nanoseconds since 1970,
 // at the file system's own precision (the fields are named differently on each system).
 qint64 modificationNanoseconds(const struct stat& info);

@@ -155,6 +155,11 @@ std::optional<QDateTime> birthTime(const QString& path)
     return QDateTime::fromMSecsSinceEpoch(milliseconds, QTimeZone::utc());
 }
 
+std::optional<QString> userTempFolder()
+{
+    return std::nullopt;  // Linux keeps no per-user temporary folder; $TMPDIR is the person's choice
+}
+
 std::optional<qint64> availableCapacity(const QString& path)
 {
     const auto info = volumeInfo(path);

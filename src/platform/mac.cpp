@@ -105,6 +105,15 @@ std::optional<QDateTime> birthTime(const QString& path)
     return QDateTime::fromMSecsSinceEpoch(milliseconds, QTimeZone::utc());
 }
 
+std::optional<QString> userTempFolder()
+{
+    char buffer[1024];
+    const size_t length = ::confstr(_CS_DARWIN_USER_TEMP_DIR, buffer, sizeof buffer);
+    if (length == 0 || length > sizeof buffer)
+        return std::nullopt;  // unknown, or longer than any real path
+    return QFile::decodeName(buffer);
+}
+
 std::optional<qint64> availableCapacity(const QString& path)
 {
     return volumeNumber(path, kCFURLVolumeAvailableCapacityForImportantUsageKey);

@@ -46,11 +46,11 @@ void* PropertyList::node(const QStringList& keyPath) const
 
 std::optional<QString> PropertyList::string(const QStringList& keyPath) const
 {
-    plist_t node = this->node(keyPath);
-    if (!node || plist_get_node_type(node) != PLIST_STRING)
+    plist_t found = node(keyPath);
+    if (!found || plist_get_node_type(found) != PLIST_STRING)
         return std::nullopt;
     uint64_t length = 0;
-    const char* value = plist_get_string_ptr(node, &length);
+    const char* value = plist_get_string_ptr(found, &length);
     if (!value)
         return std::nullopt;
     return QString::fromUtf8(value, static_cast<qsizetype>(length));
@@ -75,16 +75,26 @@ QStringList PropertyList::strings(const QString& key) const
     return texts;
 }
 
+std::optional<qint64> PropertyList::integer(const QStringList& keyPath) const
+{
+    plist_t found = node(keyPath);
+    if (!found || plist_get_node_type(found) != PLIST_UINT)
+        return std::nullopt;
+    uint64_t value = 0;
+    plist_get_uint_val(found, &value);
+    return static_cast<qint64>(value);
+}
+
 std::optional<QDateTime> PropertyList::date(const QStringList& keyPath) const
 {
-    plist_t node = this->node(keyPath);
-    if (!node || plist_get_node_type(node) != PLIST_DATE)
+    plist_t found = node(keyPath);
+    if (!found || plist_get_node_type(found) != PLIST_DATE)
         return std::nullopt;
     int32_t seconds = 0;
     int32_t microseconds = 0;
-    plist_get_date_val(node, &seconds, &microseconds);  // since 2001-01-01 00:00:00 UTC
-    static const QDateTime epoch2001(QDate(2001, 1, 1), QTime(0, 0), QTimeZone::utc());
-    return epoch2001.addMSecs(qint64(seconds) * 1000 + microseconds / 1000);
+    plist_get_date_val(found, &seconds, &microseconds);  // since 2001-01-01 00:00:00 UTC
+    const QDateTime reference(QDate(2001, 1, 1), QTime(0, 0), QTimeZone::utc());
+    return reference.addMSecs(qint64(seconds) * 1000 + microseconds / 1000);
 }
 
 std::optional<QString> PropertyList::string(const QString& path, const QString& key)

@@ -27,12 +27,19 @@ public:
     // when the key is missing or holds no array.
     [[nodiscard]] QStringList strings(const QString& key) const;
 
-    // The date under `keyPath`; absent when a key is missing or the value is not a date.
+    // The whole number under `keyPath`; absent when missing or not an integer.
+    [[nodiscard]] std::optional<qint64> integer(const QStringList& keyPath) const;
+    [[nodiscard]] std::optional<qint64> integer(const QString& key) const { return integer(QStringList{key}); }
+    // The date under `keyPath`; absent when missing or not a date.
     [[nodiscard]] std::optional<QDateTime> date(const QStringList& keyPath) const;
+    [[nodiscard]] std::optional<QDateTime> date(const QString& key) const { return date(QStringList{key}); }
+
     // Reads the file and one top-level string in one step.
     [[nodiscard]] static std::optional<QString> string(const QString& path, const QString& key);
 
 private:
+    void* node(const QStringList& keyPath) const;  // a plist_t inside m_root, or null
+
     explicit PropertyList(std::shared_ptr<void> root) : m_root(std::move(root)) {}
 
     // The node under `keyPath`, or null.

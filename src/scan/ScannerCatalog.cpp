@@ -2,12 +2,17 @@
 
 #include "scan/AndroidScanner.h"
 #include "scan/AppsScanner.h"
+#include "scan/DevicesScanner.h"
 #include "scan/DockerScanner.h"
+#include "scan/InstallersScanner.h"
 #include "scan/KnownLocations.h"
 #include "scan/LeftoversScanner.h"
 #include "scan/LocationScanner.h"
+#include "scan/OldDownloadsScanner.h"
 #include "scan/ProjectScanner.h"
 #include "scan/SimulatorScanner.h"
+#include "scan/TemporaryScanner.h"
+#include "scan/TrashScanner.h"
 #include "scan/XcodeScanner.h"
 
 namespace ScannerCatalog {
@@ -28,8 +33,12 @@ const std::vector<std::shared_ptr<const Scanner>>& all()
         std::make_shared<LeftoversScanner>(),
         // AppCachesScanner
         std::make_shared<LocationScanner>(CategoryID::logs, KnownLocations::logs()),
-        // BrowserCachesScanner, InstallersScanner, OldDownloadsScanner, TemporaryScanner,
-        // DevicesScanner, TrashScanner
+        // BrowserCachesScanner
+        std::make_shared<InstallersScanner>(),
+        std::make_shared<OldDownloadsScanner>(),
+        std::make_shared<TemporaryScanner>(),
+        std::make_shared<DevicesScanner>(),
+        std::make_shared<TrashScanner>(),
     };
     return scanners;
 }

@@ -16,4 +16,19 @@ QString trashFolder(const QString& home)
     return base + QStringLiteral("/Trash/files");
 }
 
+QStringList systemTempFolders()
+{
+    if (Platform::desktop() == Platform::Desktop::finder) {
+        QStringList folders = {QStringLiteral("/private/tmp")};
+        if (const auto own = Platform::userTempFolder())
+            folders.append(*own);
+        return folders;
+    }
+    QStringList folders = {QStringLiteral("/tmp"), QStringLiteral("/var/tmp")};
+    const QByteArray chosen = qgetenv("TMPDIR");
+    if (!chosen.isEmpty())
+        folders.append(QFile::decodeName(chosen));
+    return folders;
+}
+
 }  // namespace SystemPlaces

@@ -1,4 +1,4 @@
-#include "actions/Fingerprint.h"
+#include "machinery/Fingerprint.h"
 #include "actions/Remover.h"
 #include "actions/TargetCheck.h"
 #include "actions/TrashFixture.h"

@@ -1,4 +1,4 @@
-#include "actions/Fingerprint.h"
+#include "machinery/Fingerprint.h"
 
 #include "platform/Platform.h"
 

@@ -1,0 +1,152 @@
+// The report tool over a fixture home: a full scan ends every registered scanner's categories,
+// and the everyday categories show exactly the rows the fixture calls for. The second test gives
+// the tool fresh, empty /tmp and /var/tmp in a private mount namespace (unshare(1), as root), so
+// what other programs keep there never reaches the rows.
+#include "scan/ScannerCatalog.h"
+#include "support/TempTree.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr qint64 day = 86'400;
+constexpr int namespaceRefused = 77;
+
+struct ToolRun {
+    int exitCode = -1;
+    QJsonArray categories;
+    QByteArray standardError;
+};
+
+ToolRun run(const QString& program, const QStringList& arguments, const QProcessEnvironment& environment)
+{
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(program, arguments);
+    if (!process.waitForFinished(120'000))
+        process.kill();
+    process.waitForFinished();
+    ToolRun result{process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1, {}, process.readAllStandardError()};
+    result.categories = QJsonDocument::fromJson(process.readAllStandardOutput()).object().value("categories").toArray();
+    return result;
+}
+
+QJsonObject category(const QJsonArray& categories, const QString& raw)
+{
+    for (const QJsonValue& each : categories) {
+        if (each["id"].toString() == raw)
+            return each.toObject();
+    }
+    return {};
+}
+
+QStringList rowsOf(const QJsonArray& categories, const QString& raw)
+{
+    QStringList rows;
+    for (const QJsonValue& item : category(categories, raw)["items"].toArray())
+        rows.append(item["title"].toString() + " | " + item["badge"].toString() + " | " + item["safety"].toString());
+    rows.sort();
+    return rows;
+}
+
+// Writes a file of `size` bytes (a hole when `sparse`) whose times lie `days` in the past.
+void put(const QString& path, qint64 days, qint64 size = 10, bool sparse = false)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    if (sparse)
+        file.resize(size);
+    else
+        file.write(QByteArray(size, 'x'));
+    file.close();
+    const qint64 when = QDateTime::currentSecsSinceEpoch() - days * day;
+    const struct timespec times[2] = {{when, 0}, {when, 0}};
+    ::utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times, 0);
+}
+
+}  // namespace
+
+TEST(EverydayCli, AFullScanEndsEveryRegisteredCategoryDone)
+{
+    TempTree tree;
+    const QString home = tree.dir("home");
+    tree.file("home/Downloads/Setup.dmg", 10);
+    tree.file("home/tmp/scratch.txt", 10);
+    const ToolRun result = run(DUSTLARK_CLI, {"scan", "--home", home, "--json"}, QProcessEnvironment::systemEnvironment());
+    ASSERT_EQ(result.exitCode, 0) << result.standardError.constData();
+
+    int registered = 0;
+    for (const auto& scanner : ScannerCatalog::all()) {
+        for (CategoryID filled : scanner->categories()) {
+            ++registered;
+            const QString raw = Categories::rawValue(filled);
+            EXPECT_EQ(category(result.categories, raw)["state"].toString(), "done") << qPrintable(raw);
+        }
+    }
+    EXPECT_GE(registered, 5);
+}
+
+TEST(EverydayCli, TheEverydayCategoriesShowExactlyTheFixtureRows)
+{
+    const QString unshare = QStandardPaths::findExecutable(QStringLiteral("unshare"));
+    if (::geteuid() != 0 || unshare.isEmpty() || !QFileInfo(QStringLiteral("/dev/shm")).isDir())
+        GTEST_SKIP() << "fresh /tmp and /var/tmp need root, unshare(1) and /dev/shm for the fixture";
+    // The fixture lives on /dev/shm, since /tmp is replaced for the tool.
+    QTemporaryDir fixture(QStringLiteral("/dev/shm/dustlark-everyday-XXXXXX"));
+    ASSERT_TRUE(fixture.isValid());
+    const QString home = fixture.path() + QStringLiteral("/home");
+    put(home + "/tmp/notes-31.txt", 31);
+    put(home + "/tmp/notes-10.txt", 10);
+    put(home + "/Downloads/report-91.pdf", 91);
+    put(home + "/Downloads/report-89.pdf", 89);
+    put(home + "/Downloads/Setup.dmg", 400);
+    put(home + "/Downloads/movie.mov", 400, 300'000'000, true);
+    put(home + "/Library/iTunes/iPad Software Updates/iPad_17.ipsw", 20, 2'000'000);
+    put(home + "/Library/Application Support/MobileSync/Backup/0001/Manifest.db", 20, 20'000);
+    put(home + "/.local/share/Trash/files/junk.txt", 1, 5'000);
+
+    const qint64 now = QDateTime::currentSecsSinceEpoch();
+    const QString script = QStringLiteral(
+        "mount -t tmpfs dustlark /tmp && mount -t tmpfs dustlark /var/tmp || exit 77\n"
+        "mkdir /tmp/old-build && touch -d @%1 /tmp/old-build/out.o /tmp/old-build\n"
+        "touch -d @%2 /tmp/recent.log\n"
+        "touch -d @%1 /var/tmp/a.log /var/tmp/b.log\n"
+        "exec \"$0\" \"$@\"\n").arg(now - 4 * day).arg(now - 2 * day);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(QStringLiteral("TMPDIR"));
+    environment.insert(QStringLiteral("XDG_DATA_HOME"), home + QStringLiteral("/.local/share"));
+    QStringList arguments = {"--mount", "--propagation", "private", "sh", "-c", script, DUSTLARK_CLI, "scan", "--home", home};
+    for (const char* raw : {"temporary", "oldDownloads", "installers", "devices", "trash", "largeFiles"})
+        arguments << "--category" << raw;
+    const ToolRun result = run(unshare, arguments << "--json", environment);
+    if (result.exitCode == namespaceRefused)
+        GTEST_SKIP() << "this system refuses a private tmpfs mount: " << result.standardError.constData();
+    ASSERT_EQ(result.exitCode, 0) << result.standardError.constData();
+
+    const QJsonArray& found = result.categories;
+    EXPECT_EQ(rowsOf(found, "temporary"), QStringList({"2 old files in tmp | System temp | safe",
+                                                       "notes-31.txt | Your temp folder | askAI",
+                                                       "old-build | System temp | safe"}));
+    EXPECT_EQ(rowsOf(found, "oldDownloads"), QStringList({"report-91.pdf |  | askAI"}));
+    EXPECT_EQ(rowsOf(found, "installers"), QStringList({"Setup.dmg |  | askAI"}));
+    EXPECT_EQ(rowsOf(found, "largeFiles"), QStringList({"~/Downloads/movie.mov |  | risky"}));
+    EXPECT_EQ(rowsOf(found, "devices"), QStringList({"iPad_17.ipsw |  | safe", "iPhone or iPad backup | Backup | risky"}));
+    EXPECT_EQ(rowsOf(found, "trash"), QStringList({"Trash |  | risky"}));
+    EXPECT_EQ(category(found, "trash")["items"][0]["removal"].toString(), "emptyTrash");
+    for (const char* raw : {"temporary", "oldDownloads", "installers", "devices", "trash"})
+        EXPECT_EQ(category(found, raw)["state"].toString(), "done") << raw;
+}
