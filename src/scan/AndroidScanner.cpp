@@ -38,14 +38,14 @@ std::vector<QString> emulatorFolders(const QString& home)
     return folders;
 }
 
-QString emulatorDetail(qint64 latestChange, const QDateTime& now)
+QString emulatorDetail(qint64 latestChange)
 {
     //: Detail line of an Android emulator row
     QString detail = QCoreApplication::translate("AndroidScanner", "Android emulator with its apps and data");
     if (latestChange > 0) {
         const QDateTime changed = QDateTime::fromSecsSinceEpoch(latestChange, QTimeZone::utc());
         //: Fact in an Android emulator's detail line; %1 is a relative date like '3 months ago'
-        detail += QStringLiteral(" · ") + QCoreApplication::translate("AndroidScanner", "changed %1").arg(RelativeDate::format(changed, now));
+        detail += QStringLiteral(" · ") + QCoreApplication::translate("AndroidScanner", "changed %1").arg(RelativeDate::marker(changed));
     }
     return detail;
 }
@@ -116,7 +116,7 @@ std::optional<CleanupItem> AndroidScanner::emulatorRow(const QString& avd, bool 
     row.title = emulatorName(avd).replace(QLatin1Char('_'), QLatin1Char(' '));
     //: Badge of an Android emulator row
     row.badge = QCoreApplication::translate("AndroidScanner", "Emulator");
-    row.detail = emulatorDetail(size.latestChange, context.now);
+    row.detail = emulatorDetail(size.latestChange);
     row.size = size.bytes;
     row.removal = Removal::trash(targets);
     if (size.latestChange > 0)

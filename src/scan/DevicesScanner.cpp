@@ -35,13 +35,13 @@ BackupFacts factsOf(const QString& folder)
     return {name, list->date(QStringLiteral("Last Backup Date"))};
 }
 
-QString backupDetail(const BackupFacts& facts, const QDateTime& now)
+QString backupDetail(const BackupFacts& facts)
 {
     if (!facts.lastBackup)
         //: Detail of a device backup whose date can't be read
         return QCoreApplication::translate("DevicesScanner", "date unknown");
     //: Detail of a device backup; %1 is a relative date like '2 years ago'
-    return QCoreApplication::translate("DevicesScanner", "backed up %1").arg(RelativeDate::format(*facts.lastBackup, now));
+    return QCoreApplication::translate("DevicesScanner", "backed up %1").arg(RelativeDate::marker(*facts.lastBackup));
 }
 
 QList<CleanupItem> backupRows(const QString& backups, const ScanContext& context)
@@ -76,7 +76,7 @@ std::optional<CleanupItem> DevicesScanner::backupRow(const QString& folder, cons
     item.title = facts.deviceName.value_or(QCoreApplication::translate("DevicesScanner", "iPhone or iPad backup"));
     //: Badge of a device backup row
     item.badge = QCoreApplication::translate("DevicesScanner", "Backup");
-    item.detail = backupDetail(facts, context.now);
+    item.detail = backupDetail(facts);
     item.date = facts.lastBackup;
     item.size = FileSizer::measure(folder, context.progress.get(), &context.cancellation).bytes;
     item.removal = Removal::trash({*target});

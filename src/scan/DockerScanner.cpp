@@ -100,7 +100,7 @@ void addListings(const Docker& docker, const ScanContext& context, ScanOutput& o
 {
     if (const auto use = readContainerUse(docker); use && !context.isCancelled()) {
         if (const auto images = docker.output(command("image ls --no-trunc", "{{json .}}")))
-            output.items += DockerScanner::imageRows(DockerScanner::decodeLines<DockerScanner::Image>(*images), *use, context.now);
+            output.items += DockerScanner::imageRows(DockerScanner::decodeLines<DockerScanner::Image>(*images), *use);
     }
     if (context.isCancelled())
         return;

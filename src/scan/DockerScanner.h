@@ -99,8 +99,7 @@ public:
 
     // The rows, one per kind of Docker object.
     [[nodiscard]] static CleanupItem containerRow(const Container& container);
-    [[nodiscard]] static QList<CleanupItem> imageRows(const QList<Image>& images, const ContainerUse& use,
-                                                      const QDateTime& now);
+    [[nodiscard]] static QList<CleanupItem> imageRows(const QList<Image>& images, const ContainerUse& use);
     [[nodiscard]] static std::optional<CleanupItem> buildCacheRow(const QList<DiskUsageRow>& usage);
     [[nodiscard]] static QStringList summaryParts(const QList<DiskUsageRow>& usage);
     // `created` maps the names the volume inspection reported to their creation time texts.

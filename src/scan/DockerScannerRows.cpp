@@ -28,12 +28,12 @@ QStringList references(const DockerScanner::Image& image)
     return {image.repository + QLatin1Char(':') + image.tag};
 }
 
-QString imageDetail(const DockerScanner::Image& image, const QStringList& stopped, const QDateTime& now)
+QString imageDetail(const DockerScanner::Image& image, const QStringList& stopped)
 {
     QStringList facts;
     if (const auto created = DockerScanner::date(image.createdAt.value_or(QString()))) {
         //: Docker image detail; %1 is the image's age like '3 months ago'
-        facts << QCoreApplication::translate("DockerScanner", "Created %1").arg(RelativeDate::format(*created, now));
+        facts << QCoreApplication::translate("DockerScanner", "Created %1").arg(RelativeDate::marker(*created));
     }
     const QString names = stopped.join(QStringLiteral(", "));
     if (stopped.size() == 1) {
@@ -46,7 +46,7 @@ QString imageDetail(const DockerScanner::Image& image, const QStringList& stoppe
     return facts.join(separator);
 }
 
-CleanupItem imageRow(const DockerScanner::Image& image, const QStringList& stopped, const QDateTime& now)
+CleanupItem imageRow(const DockerScanner::Image& image, const QStringList& stopped)
 {
     const QStringList names = references(image);
     //: Title of a Docker image without a name
@@ -54,7 +54,7 @@ CleanupItem imageRow(const DockerScanner::Image& image, const QStringList& stopp
     //: Badge of a Docker image
     CleanupItem row = dockerRow(QStringLiteral("docker:image:") + image.id, title, QCoreApplication::translate("DockerScanner", "Image"),
                                 {DockerOperation::Image{image.id, stopped, names}});
-    row.detail = imageDetail(image, stopped, now);
+    row.detail = imageDetail(image, stopped);
     row.size = DockerScanner::parseSize(image.size.value_or(QString()));
     return row;
 }
@@ -120,7 +120,7 @@ CleanupItem DockerScanner::containerRow(const Container& container)
     return row;
 }
 
-QList<CleanupItem> DockerScanner::imageRows(const QList<Image>& images, const ContainerUse& use, const QDateTime& now)
+QList<CleanupItem> DockerScanner::imageRows(const QList<Image>& images, const ContainerUse& use)
 {
     QList<CleanupItem> rows;
     QSet<QString> seen;
@@ -129,7 +129,7 @@ QList<CleanupItem> DockerScanner::imageRows(const QList<Image>& images, const Co
             continue;  // one image listed under several tags
         seen.insert(image.id);
         if (!use.runningImages.contains(image.id))
-            rows.append(imageRow(image, use.stoppedByImage.value(image.id), now));
+            rows.append(imageRow(image, use.stoppedByImage.value(image.id)));
     }
     return rows;
 }

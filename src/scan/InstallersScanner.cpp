@@ -77,7 +77,7 @@ void InstallerSearch::addRow(const QString& path, const struct stat& info)
     const QString folder = PathRules::withTilde(path.section(QLatin1Char('/'), 0, -2), m_context.home);
     //: Fact in an Installers row's detail, after its folder; %1 is a relative date like '3 months ago'
     const QString changed = QCoreApplication::translate("InstallersScanner", "changed %1")
-                                .arg(RelativeDate::format(*item.date, m_context.now));
+                                .arg(RelativeDate::marker(*item.date));
     item.detail = folder + QStringLiteral(" · ") + changed;
     rows.append(item);
 }

@@ -55,7 +55,7 @@ std::optional<CleanupItem> OldDownloadsScanner::row(const QString& path, const S
     item.date = QDateTime::fromSecsSinceEpoch(*newest, QTimeZone::utc());
     //: Detail of an Old Downloads row; %1 is a relative date like '5 months ago'
     item.detail = QCoreApplication::translate("OldDownloadsScanner", "last changed %1")
-                      .arg(RelativeDate::format(*item.date, context.now));
+                      .arg(RelativeDate::marker(*item.date));
     if (S_ISDIR(info->st_mode))
         //: Badge of an Old Downloads row that is a folder
         item.badge = QCoreApplication::translate("OldDownloadsScanner", "Folder");

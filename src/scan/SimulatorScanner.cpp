@@ -66,19 +66,18 @@ QList<CleanupItem> deviceRows(const SimulatorScanner::DeviceList& list, const QL
         const qint64 size = placed.device.dataPath
             ? FileSizer::measure(*placed.device.dataPath, context.progress.get(), &context.cancellation).bytes
             : placed.device.dataPathSize.value_or(0);
-        return SimulatorScanner::item(placed.device, runtimeTitle(placed.runtimeKey, runtimes), size, context.now);
+        return SimulatorScanner::item(placed.device, runtimeTitle(placed.runtimeKey, runtimes), size);
     });
     return QList<CleanupItem>(rows.begin(), rows.end());
 }
 
-QList<CleanupItem> runtimeRows(const QList<SimulatorScanner::Runtime>& runtimes, const SimulatorScanner::DeviceList& list,
-                               const QDateTime& now)
+QList<CleanupItem> runtimeRows(const QList<SimulatorScanner::Runtime>& runtimes, const SimulatorScanner::DeviceList& list)
 {
     QList<CleanupItem> rows;
     for (const SimulatorScanner::Runtime& runtime : runtimes) {
         const QList<SimulatorScanner::Device> devices = list.devices.value(runtime.runtimeIdentifier.value_or(QString()));
         const bool running = std::any_of(devices.begin(), devices.end(), [](const auto& device) { return device.isRunning(); });
-        rows.append(SimulatorScanner::item(runtime, static_cast<int>(devices.size()), running, now));
+        rows.append(SimulatorScanner::item(runtime, static_cast<int>(devices.size()), running));
     }
     return rows;
 }
@@ -111,7 +110,7 @@ ScanOutput SimulatorScanner::scanSimulators(const ScanContext& context) const
         output.notes << QCoreApplication::translate("SimulatorScanner", "Couldn't list simulator runtimes: %1").arg(reason);
     }
     output.items = deviceRows(*deviceList, runtimes.value_or(QList<Runtime>()), context);
-    output.items += runtimeRows(runtimes.value_or(QList<Runtime>()), *deviceList, context.now);
+    output.items += runtimeRows(runtimes.value_or(QList<Runtime>()), *deviceList);
     return output;
 }
 

@@ -75,9 +75,9 @@ public:
     [[nodiscard]] static std::optional<QList<Runtime>> decodeRuntimes(const QByteArray& json);
 
     // The device's row. `runtime` names the runtime the device needs; `size` is its data's.
-    [[nodiscard]] static CleanupItem item(const Device& device, const QString& runtime, qint64 size, const QDateTime& now);
+    [[nodiscard]] static CleanupItem item(const Device& device, const QString& runtime, qint64 size);
     // The runtime's row, given how many devices use it and whether one of them runs.
-    [[nodiscard]] static CleanupItem item(const Runtime& runtime, int deviceCount, bool running, const QDateTime& now);
+    [[nodiscard]] static CleanupItem item(const Runtime& runtime, int deviceCount, bool running);
 
     // The lastUsedAt text as a date; the remover reads it the same way.
     [[nodiscard]] static std::optional<QDateTime> date(const std::optional<QString>& text);

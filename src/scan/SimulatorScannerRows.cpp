@@ -28,20 +28,20 @@ std::optional<qint64> bytes(const QJsonObject& json, const char* key)
     return value.isDouble() ? std::optional(value.toInteger()) : std::nullopt;
 }
 
-QString usedFact(const std::optional<QDateTime>& lastUsed, const QDateTime& now)
+QString usedFact(const std::optional<QDateTime>& lastUsed)
 {
     if (!lastUsed)
         //: Fact in a simulator device's detail line
         return QCoreApplication::translate("SimulatorScanner", "never used");
     //: Fact in a simulator's detail line; %1 is a relative date like '3 months ago'
-    return QCoreApplication::translate("SimulatorScanner", "used %1").arg(RelativeDate::format(*lastUsed, now));
+    return QCoreApplication::translate("SimulatorScanner", "used %1").arg(RelativeDate::marker(*lastUsed));
 }
 
-QString deviceDetail(const SimulatorScanner::Device& device, const QString& runtime, const QDateTime& now)
+QString deviceDetail(const SimulatorScanner::Device& device, const QString& runtime)
 {
     //: Fact in a simulator device's detail line; %1 is the runtime's name like 'iOS 17.5'
     QStringList facts = {QCoreApplication::translate("SimulatorScanner", "removing it keeps %1").arg(runtime),
-                         usedFact(SimulatorScanner::date(device.lastUsedAt), now)};
+                         usedFact(SimulatorScanner::date(device.lastUsedAt))};
     if (!device.canRun()) {
         //: Why a simulator device can't run, in parentheses of "can't run: its iOS is gone (%1)"
         const QString missing = QCoreApplication::translate("SimulatorScanner", "runtime is missing");
@@ -58,14 +58,14 @@ QString runtimeTitle(const SimulatorScanner::Runtime& runtime)
     return QCoreApplication::translate("SimulatorScanner", "%1 runtime").arg(SimulatorScanner::displayName(runtime));
 }
 
-QString runtimeDetail(const SimulatorScanner::Runtime& runtime, int deviceCount, const QDateTime& now)
+QString runtimeDetail(const SimulatorScanner::Runtime& runtime, int deviceCount)
 {
     QStringList facts;
     if (runtime.build)
         //: Fact in a simulator runtime's detail line; %1 is a build like '21F79'
         facts << QCoreApplication::translate("SimulatorScanner", "Build %1").arg(*runtime.build);
     if (const auto lastUsed = SimulatorScanner::date(runtime.lastUsedAt))
-        facts << usedFact(lastUsed, now);
+        facts << usedFact(lastUsed);
     if (deviceCount > 0) {
         const QString size = ByteCount::format(runtime.sizeBytes.value_or(0));
         //: Fact in a simulator runtime's detail line; %1 is a number of devices, %2 a size like '7.4 GB'
@@ -125,7 +125,7 @@ std::optional<QDateTime> SimulatorScanner::date(const std::optional<QString>& te
     return date.isValid() ? std::optional(date) : std::nullopt;
 }
 
-CleanupItem SimulatorScanner::item(const Device& device, const QString& runtime, qint64 size, const QDateTime& now)
+CleanupItem SimulatorScanner::item(const Device& device, const QString& runtime, qint64 size)
 {
     CleanupItem row;
     row.id = QStringLiteral("sim:device:") + device.udid;
@@ -135,7 +135,7 @@ CleanupItem SimulatorScanner::item(const Device& device, const QString& runtime,
     const QString usable = QCoreApplication::translate("SimulatorScanner", "Device");
     //: Badge of a simulator device that can't run, because its runtime is gone
     row.badge = device.canRun() ? usable : QCoreApplication::translate("SimulatorScanner", "Unavailable");
-    row.detail = deviceDetail(device, runtime, now);
+    row.detail = deviceDetail(device, runtime);
     row.size = size;
     row.date = date(device.lastUsedAt);
     if (device.isRunning())
@@ -145,7 +145,7 @@ CleanupItem SimulatorScanner::item(const Device& device, const QString& runtime,
     return row;
 }
 
-CleanupItem SimulatorScanner::item(const Runtime& runtime, int deviceCount, bool running, const QDateTime& now)
+CleanupItem SimulatorScanner::item(const Runtime& runtime, int deviceCount, bool running)
 {
     CleanupItem row;
     row.id = QStringLiteral("sim:runtime:") + runtime.identifier;
@@ -153,7 +153,7 @@ CleanupItem SimulatorScanner::item(const Runtime& runtime, int deviceCount, bool
     row.title = runtimeTitle(runtime);
     //: Badge of a simulator runtime
     row.badge = QCoreApplication::translate("SimulatorScanner", "Runtime");
-    row.detail = runtimeDetail(runtime, deviceCount, now);
+    row.detail = runtimeDetail(runtime, deviceCount);
     row.size = runtime.sizeBytes.value_or(0);
     row.date = date(runtime.lastUsedAt);
     row.lockedReason = runtimeLock(runtime, running);

@@ -31,11 +31,11 @@ QString rootBadge(const TemporaryScanner::Root& root)
     return QCoreApplication::translate("TemporaryScanner", "Your temp folder");
 }
 
-QString lastChanged(qint64 seconds, const QDateTime& now)
+QString lastChanged(qint64 seconds)
 {
     //: Detail of a Temporary Files row; %1 is a relative date like '5 days ago'
     return QCoreApplication::translate("TemporaryScanner", "last changed %1")
-        .arg(RelativeDate::format(QDateTime::fromSecsSinceEpoch(seconds, QTimeZone::utc()), now));
+        .arg(RelativeDate::marker(QDateTime::fromSecsSinceEpoch(seconds, QTimeZone::utc())));
 }
 
 // A row's measured parts; absent when an entry vanished or the scan was stopped.
@@ -57,7 +57,7 @@ std::optional<Measured> measure(const QList<TemporaryScanner::Entry>& entries, c
     return measured;
 }
 
-CleanupItem baseRow(const QString& id, const Measured& measured, qint64 newest, const ScanContext& context)
+CleanupItem baseRow(const QString& id, const Measured& measured, qint64 newest)
 {
     CleanupItem row;
     row.id = id;
@@ -65,7 +65,7 @@ CleanupItem baseRow(const QString& id, const Measured& measured, qint64 newest, 
     row.size = measured.bytes;
     row.removal = Removal::trash(measured.targets);
     row.date = QDateTime::fromSecsSinceEpoch(newest, QTimeZone::utc());
-    row.detail = lastChanged(newest, context.now);
+    row.detail = lastChanged(newest);
     return row;
 }
 
@@ -88,7 +88,7 @@ std::optional<CleanupItem> entryRow(const TemporaryScanner::Entry& entry, const 
     const std::optional<Measured> measured = measure({entry}, context);
     if (!measured)
         return std::nullopt;
-    CleanupItem row = baseRow(entry.path, *measured, entry.newestChange, context);
+    CleanupItem row = baseRow(entry.path, *measured, entry.newestChange);
     row.title = nameOf(entry.path);
     row.badge = rootBadge(root);
     if (entry.isSimulatorDevice) {
@@ -113,7 +113,7 @@ std::optional<CleanupItem> fileGroupRow(const TemporaryScanner::Group& group, co
     qint64 newest = 0;
     for (const TemporaryScanner::Entry& file : files)
         newest = std::max(newest, file.newestChange);
-    CleanupItem row = baseRow(idPrefixOfFileGroup + group.folder, *measured, newest, context);
+    CleanupItem row = baseRow(idPrefixOfFileGroup + group.folder, *measured, newest);
     //: Title of a Temporary Files row that gathers the old files of one folder; %1 is the folder's name
     row.title = QCoreApplication::translate("TemporaryScanner", "%n old files in %1", nullptr, int(files.size()))
                     .arg(nameOf(group.folder));

@@ -1,3 +1,4 @@
+#include "format/RelativeDate.h"
 #include "actions/ToolStandIn.h"
 #include "scan/AndroidScanner.h"
 #include "support/TempTree.h"
@@ -58,7 +59,7 @@ TEST_F(AndroidScannerTest, EmulatorsGoWithTheirSettingsFileBesideTheLocations)
     const CleanupItem& tablet = row(output, QStringLiteral(".android/avd/Small_Tablet.avd"));
     EXPECT_EQ(tablet.title, QStringLiteral("Small Tablet"));
     EXPECT_EQ(tablet.badge, QStringLiteral("Emulator"));
-    EXPECT_EQ(tablet.detail, QStringLiteral("Android emulator with its apps and data · changed 3 days ago"));
+    EXPECT_EQ(RelativeDate::expand(tablet.detail, now), QStringLiteral("Android emulator with its apps and data · changed 3 days ago"));
     EXPECT_EQ(tablet.removal.paths(), (QStringList{home.path(QStringLiteral(".android/avd/Small_Tablet.avd")),
                                                    home.path(QStringLiteral(".android/avd/Small_Tablet.ini"))}));
     EXPECT_GE(tablet.size, 500'000);

@@ -1,3 +1,4 @@
+#include "format/RelativeDate.h"
 #include "actions/ToolStandIn.h"
 #include "machinery/DockerScanRecord.h"
 #include "machinery/ToolLocations.h"
@@ -91,7 +92,7 @@ TEST_F(DockerScannerTest, ImagesFollowWhatTheContainersRun)
     const CleanupItem* web = row(output, QStringLiteral("docker:image:") + webImage);
     ASSERT_NE(web, nullptr);
     EXPECT_EQ(web->title, QStringLiteral("web:dev"));
-    EXPECT_EQ(web->detail, QStringLiteral("Created last week · also removes stopped containers web-test, scratchpad"));
+    EXPECT_EQ(RelativeDate::expand(web->detail, context.now), QStringLiteral("Created last week · also removes stopped containers web-test, scratchpad"));
     EXPECT_EQ(web->removal, Removal::docker({DockerOperation::Image{webImage, {QStringLiteral("web-test"), QStringLiteral("scratchpad")},
                                                                     {QStringLiteral("web:dev")}}}));
     EXPECT_EQ(web->size, 1'200'000'000);
@@ -101,7 +102,7 @@ TEST_F(DockerScannerTest, ImagesFollowWhatTheContainersRun)
 
     const CleanupItem* db = row(output, QStringLiteral("docker:image:") + dbImage);
     ASSERT_NE(db, nullptr);
-    EXPECT_EQ(db->detail, QStringLiteral("Created 2 months ago · also removes stopped container old-db"));
+    EXPECT_EQ(RelativeDate::expand(db->detail, context.now), QStringLiteral("Created 2 months ago · also removes stopped container old-db"));
     const CleanupItem* untagged = row(output, QStringLiteral("docker:image:") + untaggedImage);
     ASSERT_NE(untagged, nullptr);
     EXPECT_EQ(untagged->title, QStringLiteral("Untagged image"));

@@ -1,3 +1,4 @@
+#include "format/RelativeDate.h"
 #include "scan/InstallersScanner.h"
 #include "scan/OldDownloadsScanner.h"
 #include "support/TempTree.h"
@@ -65,7 +66,7 @@ TEST_F(DownloadsScannersTest, OldDownloadsAreNinetyDaysQuietAndLeaveInstallersAn
     for (const CleanupItem& item : output.items) {
         EXPECT_EQ(item.badge, item.title == QLatin1String("unpacked") ? std::optional<QString>("Folder") : std::nullopt);
         EXPECT_EQ(item.safety(context.home), Safety::askAI);
-        EXPECT_TRUE(item.detail.startsWith(QLatin1String("last changed "))) << qPrintable(item.detail);
+        EXPECT_TRUE(RelativeDate::expand(item.detail).startsWith(QLatin1String("last changed "))) << qPrintable(item.detail);
     }
 }
 
@@ -110,7 +111,7 @@ TEST_F(DownloadsScannersTest, InstallersAreFoundByExtensionOutsideAppsAndLinks)
     EXPECT_TRUE(output.notes.isEmpty());
     for (const CleanupItem& item : output.items) {
         if (item.title == QLatin1String("Deep.mpkg")) {
-            EXPECT_EQ(item.detail, "~/Downloads/a/b · changed 3 days ago");
+            EXPECT_EQ(RelativeDate::expand(item.detail, context.now), "~/Downloads/a/b · changed 3 days ago");
         }
     }
     EXPECT_TRUE(InstallersScanner::isInstaller(QStringLiteral("A.Pkg")));

@@ -1,3 +1,4 @@
+#include "format/RelativeDate.h"
 #include "actions/ToolStandIn.h"
 #include "scan/SimulatorScanner.h"
 #include "support/TempTree.h"
@@ -75,7 +76,7 @@ TEST_F(SimulatorScannerTest, DeviceRowsCarryTheirRuntimeUseAndLock)
     const CleanupItem& phone = row(output, iPhone15);
     EXPECT_EQ(phone.title, QStringLiteral("iPhone 15"));
     EXPECT_EQ(phone.badge, QStringLiteral("Device"));
-    EXPECT_EQ(phone.detail, QStringLiteral("removing it keeps iOS 17.5 · used last month"));
+    EXPECT_EQ(RelativeDate::expand(phone.detail, context.now), QStringLiteral("removing it keeps iOS 17.5 · used last month"));
     EXPECT_GE(phone.size, 300'000) << "the data folder measured on disk, not the tool's figure";
     EXPECT_LT(phone.size, 2'147'483'648);
     EXPECT_FALSE(phone.isLocked());
@@ -109,7 +110,7 @@ TEST_F(SimulatorScannerTest, RuntimeRowsAndTheirLocks)
     EXPECT_EQ(iOS.title, QStringLiteral("iOS 17.5 runtime"));
     EXPECT_EQ(iOS.badge, QStringLiteral("Runtime"));
     EXPECT_EQ(iOS.size, 7'423'467'520);
-    EXPECT_EQ(iOS.detail, QStringLiteral("Build 21F79 · used 18 hours ago · 2 devices stop working without it; getting it back is a 7.42 GB download"));
+    EXPECT_EQ(RelativeDate::expand(iOS.detail, context.now), QStringLiteral("Build 21F79 · used 18 hours ago · 2 devices stop working without it; getting it back is a 7.42 GB download"));
     EXPECT_EQ(iOS.lockedReason, QStringLiteral("A simulator on it is running. Shut it down to remove it."));
     EXPECT_EQ(iOS.removal, (Removal{Removal::SimulatorRuntime{QStringLiteral("C8E1F3A2-4B5D-4C6E-8F70-9A1B2C3D4E5F")}}));
 
@@ -144,7 +145,7 @@ TEST_F(SimulatorScannerTest, AnUnreadableRuntimeListKeepsTheDevices)
     const ScanOutput output = scan();
     EXPECT_EQ(output.notes, QStringList{QStringLiteral("Couldn't list simulator runtimes: The tool's answer isn't valid JSON.")});
     EXPECT_EQ(output.items.size(), 4);
-    EXPECT_EQ(row(output, iPhone15).detail, QStringLiteral("removing it keeps iOS 17.5 · used last month"));
+    EXPECT_EQ(RelativeDate::expand(row(output, iPhone15).detail, context.now), QStringLiteral("removing it keeps iOS 17.5 · used last month"));
 }
 
 TEST(SimulatorRuntimeName, FromTheIdentifiersLastComponent)
