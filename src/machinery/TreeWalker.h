@@ -90,6 +90,12 @@ public:
 //   `cancellation` at the same rhythm.
 // Sizes are the users' business: `status().st_blocks * 512` is what a file takes on disk.
 //
+// How the users fit: FileSizer sums in enterFolder and visitItem with `hardLinksOnce`; a
+// per-folder tally (storage) pushes in enterFolder and pops into its parent in leaveFolder;
+// a per-file record (fingerprint) takes the path relative to the root from `pathBytes()` and
+// may open the file with `openat(folderDescriptor(), name, O_NOFOLLOW)`; a bounded walk
+// returns Stop from any callback once it has seen enough.
+//
 // Thread-safety: a TreeWalker belongs to the thread that runs it; separate walkers may run at
 // once. Only `progress` is shared, and it guards itself.
 class TreeWalker {
