@@ -131,10 +131,10 @@ int scan(const QString& root)
     QSet<QString> groups;
     for (const CleanupItem& item : outcome.items)
         groups.insert(item.duplicateGroup.value_or(QString()));
-    std::printf("dustlark candidates=%lld groups=%lld rows=%lld bytesRead=%lld wholeFiles=%lld "
-                "walk=%.3f find=%.3f\n",
+    std::printf("dustlark candidates=%lld groups=%lld rows=%lld bytesRead=%lld tailFiles=%lld "
+                "wholeFiles=%lld walk=%.3f find=%.3f\n",
                 qint64(files.size()), qint64(groups.size()), qint64(outcome.items.size()),
-                outcome.stats.bytesRead, outcome.stats.filesReadWhole, walk, find);
+                outcome.stats.bytesRead, outcome.stats.filesReadTail, outcome.stats.filesReadWhole, walk, find);
     return 0;
 }
 

@@ -1,24 +1,11 @@
 #pragma once
 
+#include "machinery/FileKey.h"
 #include "machinery/ScanContext.h"
 
 #include <QString>
 
-#include <cstdint>
-
 class ScanProgress;
-
-// A file's identity on its volume; two entries with the same key are hard links of one file.
-struct FileKey {
-    qint32 device = 0;
-    quint64 inode = 0;
-    bool operator==(const FileKey&) const = default;
-};
-
-inline size_t qHash(const FileKey& key, size_t seed = 0) noexcept
-{
-    return qHashMulti(seed, key.device, key.inode);
-}
 
 // Measures a file or folder tree: bytes allocated on disk (blocks x 512), hard links once per
 // measurement, symbolic links never followed, no other volume entered. Thread-safe; every

@@ -247,15 +247,22 @@ private:
         return *read == to - from;
     }
 
-    // Adds the groups of one shared head to `groups`; false when cancelled part-way.
+    // Adds the groups of one shared head to `groups`; false when cancelled part-way. Files are
+    // read whole only when their last 64 KiB match another's too; the survivors are finished
+    // in their original order so the groups come out as a whole-file pass alone makes them.
     bool splitWhole(std::vector<Head>& sameHead, std::vector<Group>& groups)
     {
         if (sameHead.front().file->size <= headLength) {
             groups.push_back({sameHead.front().digest, files(sameHead)});
             return true;
         }
+        const std::optional<QSet<const File*>> sharingTail = filesSharingTail(sameHead);
+        if (!sharingTail)
+            return false;
         std::vector<Head> whole;
         for (Head& head : sameHead) {
+            if (!sharingTail->contains(head.file))
+                continue;
             if (m_context.isCancelled())
                 return false;
             if (auto digest = finishWhole(head))
@@ -266,6 +273,44 @@ private:
                 groups.push_back({bucket.front().digest, files(bucket)});
         }
         return true;
+    }
+
+    // The files whose last 64 KiB match another file's; absent when cancelled. Below two
+    // heads' length the rest of a file is no longer than its tail, so all are kept unread.
+    std::optional<QSet<const File*>> filesSharingTail(const std::vector<Head>& sameHead)
+    {
+        QSet<const File*> sharing;
+        if (sameHead.front().file->size <= 2 * headLength) {
+            for (const Head& head : sameHead)
+                sharing.insert(head.file);
+            return sharing;
+        }
+        std::vector<Head> tails;
+        for (const Head& head : sameHead) {
+            if (m_context.isCancelled())
+                return std::nullopt;
+            if (auto digest = tailDigest(*head.file))
+                tails.push_back({head.file, *digest, {}});
+        }
+        for (const auto& bucket : bucketBy(std::move(tails), [](const Head& h) { return h.digest; })) {
+            for (const Head& tail : bucket) {
+                if (bucket.size() >= 2)
+                    sharing.insert(tail.file);
+            }
+        }
+        return sharing;
+    }
+
+    std::optional<QString> tailDigest(const File& file)
+    {
+        ReadHandle handle(file.path);
+        HashState hash = newHash();
+        if (!hash || !handle.isOpen() || !handle.isStill(file))
+            return std::nullopt;
+        ++m_stats.filesReadTail;
+        if (!readExactly(handle.fd(), file.size - headLength, file.size, hash))
+            return std::nullopt;
+        return finishHash(hash);
     }
 
     std::vector<OrderedGroup> ordered(std::vector<Group> groups)
@@ -385,6 +430,7 @@ Stats& operator+=(Stats& total, const Stats& part)
     total.bytesRead += part.bytesRead;
     total.filesRead += part.filesRead;
     total.filesReadWhole += part.filesReadWhole;
+    total.filesReadTail += part.filesReadTail;
     total.sharedStorage += part.sharedStorage;
     return total;
 }

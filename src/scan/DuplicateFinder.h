@@ -26,10 +26,11 @@ struct File {
 };
 
 // What one run read, so callers (and tests) can see that whole files are read only when
-// another file shares their size and first 64 KiB.
+// another file shares their size, first 64 KiB and last 64 KiB.
 struct Stats {
     qint64 bytesRead = 0;
     qint64 filesRead = 0;       // files whose first 64 KiB were hashed
+    qint64 filesReadTail = 0;   // files whose last 64 KiB were hashed
     qint64 filesReadWhole = 0;  // files read past their first 64 KiB
     qint64 sharedStorage = 0;   // identical copies left out because they share a kept copy's blocks
 };

@@ -1,5 +1,6 @@
 #include "scan/ProjectInfo.h"
 
+#include "machinery/TreeWalker.h"
 #include "platform/Platform.h"
 #include "scan/WalkNames.h"
 #include "vocabulary/FileStatus.h"
@@ -10,7 +11,6 @@
 
 #include <algorithm>
 #include <climits>
-#include <fts.h>
 #include <string_view>
 #include <sys/stat.h>
 
@@ -18,8 +18,7 @@ namespace {
 
 // Files in the project folder and two levels of folders below it count; deeper folders are
 // not entered.
-constexpr short deepestEnteredLevel = 2;
-constexpr qint64 cancellationBatch = 4096;
+constexpr int deepestEnteredLevel = 2;
 
 QDateTime fromNanoseconds(qint64 nanoseconds)
 {
@@ -42,14 +41,44 @@ QString parentOf(const QString& path)
     return slash <= 0 ? QStringLiteral("/") : path.left(slash);
 }
 
-bool isEnteredFolder(const FTSENT* entry)
+bool isEnteredFolder(const TreeEntry& entry)
 {
-    if (entry->fts_level == FTS_ROOTLEVEL)
+    if (entry.depth() == 0)
         return true;
-    const std::string_view name(entry->fts_name, entry->fts_namelen);
-    return entry->fts_level <= deepestEnteredLevel && name.front() != '.'
+    const std::string_view name = entry.name();
+    return entry.depth() <= deepestEnteredLevel && name.front() != '.'
         && !WalkNames::contains(WalkNames::buildFolders, name);
 }
+
+// The newest file time in the shallow part of a project, giving up after `limit` entries.
+class NewestFile : public TreeVisitor {
+public:
+    explicit NewestFile(qint64 limit) : m_limit(limit) {}
+
+    std::optional<qint64> newest;  // nanoseconds since 1970
+
+    Verdict enterFolder(const TreeEntry& entry) override
+    {
+        if (!counted())
+            return Verdict::Stop;
+        return isEnteredFolder(entry) ? Verdict::Enter : Verdict::Skip;
+    }
+
+    Verdict visitItem(const TreeEntry& entry) override
+    {
+        if (!counted())
+            return Verdict::Stop;
+        if (S_ISREG(entry.status().st_mode))
+            newest = std::max(newest.value_or(LLONG_MIN), Platform::modificationNanoseconds(entry.status()));
+        return Verdict::Enter;
+    }
+
+private:
+    bool counted() { return ++m_entries <= m_limit; }
+
+    qint64 m_limit;
+    qint64 m_entries = 0;
+};
 
 std::optional<QDateTime> newer(const std::optional<QDateTime>& a, const std::optional<QDateTime>& b)
 {
@@ -131,23 +160,10 @@ std::optional<QString> ProjectInfo::gitFileTarget(const QString& workingCopy)
 std::optional<QDateTime> ProjectInfo::newestChange(const QString& workingCopy, qint64 limit,
                                                    const CancellationToken* cancellation)
 {
-    QByteArray root = QFile::encodeName(workingCopy);
-    char* roots[] = {root.data(), nullptr};
-    FTS* tree = ::fts_open(roots, FTS_PHYSICAL | FTS_NOCHDIR | FTS_XDEV, nullptr);
-    if (!tree)
-        return std::nullopt;
-    std::optional<qint64> newest;
-    qint64 entries = 0;
-    while (FTSENT* entry = ::fts_read(tree)) {
-        if (entry->fts_info == FTS_DP)
-            continue;
-        if (++entries > limit || (entries % cancellationBatch == 0 && cancellation && cancellation->isCancelled()))
-            break;
-        if (entry->fts_info == FTS_D && !isEnteredFolder(entry))
-            ::fts_set(tree, entry, FTS_SKIP);
-        else if (entry->fts_info == FTS_F)
-            newest = std::max(newest.value_or(LLONG_MIN), Platform::modificationNanoseconds(*entry->fts_statp));
-    }
-    ::fts_close(tree);
+    TreeWalker::Options options;
+    options.cancellation = cancellation;
+    NewestFile visitor(limit);
+    TreeWalker(options).walk(QFile::encodeName(workingCopy), visitor);
+    const std::optional<qint64>& newest = visitor.newest;
     return newest ? std::optional(fromNanoseconds(*newest)) : std::nullopt;
 }

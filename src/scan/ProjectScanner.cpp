@@ -113,6 +113,10 @@ ScanOutputs ProjectScanner::scan(const ScanContext& context) const
         outputs[CategoryID::projects].notes.append(unreadableNote(walk.unreadable()));
         outputs[CategoryID::largeFiles].notes.append(unreadableNote(walk.unreadable()));
     }
+    if (walk.undecodable() > 0) {
+        outputs[CategoryID::projects].notes.append(undecodableNote(walk.undecodable()));
+        outputs[CategoryID::largeFiles].notes.append(undecodableNote(walk.undecodable()));
+    }
     outputs[CategoryID::duplicates].items = DuplicateFinder::items(walk.duplicateCandidates(), context);
     outputs[CategoryID::worktrees] = WorktreeFinder::items(walk.mainRepositories(), context, m_gitCandidates);
     return outputs;
@@ -136,6 +140,15 @@ QStringList ProjectScanner::distinctRoots(const QStringList& roots, const QStrin
 std::optional<QDateTime> ProjectScanner::lastOpened(const QString& path)
 {
     return LastOpened::of(path);
+}
+
+QString ProjectScanner::undecodableNote(qint64 entries)
+{
+    const int count = entries > INT_MAX ? INT_MAX : int(entries);
+    //: Note above Project Builds and Large Files; %n is the number of files and folders whose names aren't valid text
+    return QCoreApplication::translate("ProjectScanner",
+        "%n files or folders were left out because their names can't be read as text. Rename them to include them.",
+        nullptr, count);
 }
 
 QString ProjectScanner::unreadableNote(qint64 folders)

@@ -51,6 +51,8 @@ public:
 
     // The note of the Project Builds and Large Files lists when folders couldn't be read.
     [[nodiscard]] static QString unreadableNote(qint64 folders);
+    // The note about entries the walk left out because their names cannot be read as text.
+    [[nodiscard]] static QString undecodableNote(qint64 entries);
 
 private:
     QStringList m_gitCandidates;

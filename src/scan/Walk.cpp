@@ -1,5 +1,6 @@
 #include "scan/Walk.h"
 
+#include "machinery/TreeWalker.h"
 #include "platform/Platform.h"
 #include "scan/KnownLocations.h"
 #include "scan/WalkNames.h"
@@ -9,14 +10,12 @@
 
 #include <QFile>
 
-#include <fts.h>
+#include <fcntl.h>
 #include <string>
 #include <string_view>
 #include <sys/stat.h>
 
 namespace {
-
-constexpr qint64 progressBatch = 4096;
 
 QString decoded(std::string_view bytes)
 {
@@ -81,23 +80,25 @@ DuplicateFinder::File duplicateCandidate(const QString& path, const struct stat&
 
 }  // namespace
 
-// One traversal of one root. Paths stay the bytes fts gives; they become QStrings only for
-// the few entries that end up in a result.
-class Walk::Pass {
+// One traversal of one root. Paths are built for folders (the rules compare them) and for the
+// few files big enough to end up in a result; they become QStrings only for results.
+class Walk::Pass : public TreeVisitor {
 public:
     Pass(Walk& walk, const QString& root);
     void run();
 
+    Verdict enterFolder(const TreeEntry& entry) override;
+    Verdict visitItem(const TreeEntry& entry) override;
+    void problem(const TreeEntry& entry, TreeProblem kind, int error) override;
+
 private:
-    Action handle(const FTSENT* entry);
-    Action visitDirectory(const FTSENT* entry);
-    void noteRepository(std::string_view path, std::string_view name);
+    Verdict visitDirectory(const TreeEntry& entry);
+    void noteRepository(const TreeEntry& entry, std::string_view path);
     bool isSkippedInPlace(std::string_view path, std::string_view name) const;
     bool skipsBuildFolder(std::string_view path, std::string_view name);
     void showProgress(std::string_view path) const;
-    void visitFile(const FTSENT* entry);
+    void visitFile(const TreeEntry& entry);
     bool liesInHiddenFolder(std::string_view path) const;
-    bool countEntry();
 
     Walk& m_walk;
     QByteArray m_root;
@@ -106,8 +107,6 @@ private:
     QByteArray m_goPackages;
     QSet<QByteArray> m_safeFolders;
     std::string m_probe;  // reused buffer for the ".git" test
-    dev_t m_device = 0;
-    qint64 m_entries = 0;
 };
 
 Walk::Pass::Pass(Walk& walk, const QString& root)
@@ -123,66 +122,59 @@ Walk::Pass::Pass(Walk& walk, const QString& root)
 
 void Walk::Pass::run()
 {
-    char* roots[] = {m_root.data(), nullptr};
-    FTS* tree = ::fts_open(roots, FTS_PHYSICAL | FTS_NOCHDIR | FTS_XDEV, nullptr);
-    if (!tree)
-        return;
-    while (FTSENT* entry = ::fts_read(tree)) {
-        if (entry->fts_info == FTS_DP)
-            continue;
-        const Action action = countEntry() ? handle(entry) : Action::Stop;
-        if (action == Action::Stop)
-            break;
-        if (action == Action::Skip)
-            ::fts_set(tree, entry, FTS_SKIP);
-    }
-    ::fts_close(tree);
-    if (m_walk.m_context.progress && m_entries % progressBatch != 0)
-        m_walk.m_context.progress->addEntries(m_entries % progressBatch);
+    TreeWalker::Options options;
+    options.progress = m_walk.m_context.progress.get();
+    options.cancellation = &m_walk.m_context.cancellation;
+    TreeWalker(options).walk(m_root, *this);
 }
 
-Walk::Action Walk::Pass::handle(const FTSENT* entry)
+TreeVisitor::Verdict Walk::Pass::enterFolder(const TreeEntry& entry)
 {
-    if (entry->fts_level == FTS_ROOTLEVEL)
-        m_device = entry->fts_statp->st_dev;  // the volume the walk stays on
-    switch (entry->fts_info) {
-    case FTS_D:
-        return entry->fts_level > FTS_ROOTLEVEL ? visitDirectory(entry) : Action::Continue;
-    case FTS_DNR:
-    case FTS_ERR:
-        ++m_walk.m_unreadable;
-        return Action::Continue;
-    case FTS_F:
+    if (entry.depth() == 0)
+        return Verdict::Enter;
+    if (!entry.nameDecodes()) {
+        ++m_walk.m_undecodable;  // nothing in it could be shown or removed by its path
+        return Verdict::Skip;
+    }
+    return visitDirectory(entry);
+}
+
+TreeVisitor::Verdict Walk::Pass::visitItem(const TreeEntry& entry)
+{
+    if (S_ISREG(entry.status().st_mode))
         visitFile(entry);
-        return Action::Continue;
-    default:
-        return Action::Continue;  // links, sockets, devices, entries that could not be examined
-    }
+    return Verdict::Enter;  // links, sockets and devices are not the walk's business
 }
 
-Walk::Action Walk::Pass::visitDirectory(const FTSENT* entry)
+// Entries whose status cannot be read are passed over, as if they had vanished.
+void Walk::Pass::problem(const TreeEntry&, TreeProblem kind, int)
 {
-    if (entry->fts_statp->st_dev != m_device)
-        return Action::Skip;  // a mount point: another volume
-    const std::string_view path(entry->fts_path, entry->fts_pathlen);
-    const std::string_view name(entry->fts_name, entry->fts_namelen);
-    noteRepository(path, name);
+    if (kind != TreeProblem::CannotExamine)
+        ++m_walk.m_unreadable;
+}
+
+TreeVisitor::Verdict Walk::Pass::visitDirectory(const TreeEntry& entry)
+{
+    const QByteArray pathBytes = entry.pathBytes();
+    const std::string_view path(pathBytes.constData(), static_cast<size_t>(pathBytes.size()));
+    const std::string_view name = entry.name();
+    noteRepository(entry, path);
     if (isSkippedInPlace(path, name) || skipsBuildFolder(path, name))
-        return Action::Skip;
-    if (entry->fts_level <= 2)
+        return Verdict::Skip;
+    if (entry.depth() <= 2)
         showProgress(path);
-    return Action::Continue;
+    return Verdict::Enter;
 }
 
 // A working copy is a folder holding ".git"; only a ".git" folder (not an extra worktree's
 // ".git" file) makes it a main repository.
-void Walk::Pass::noteRepository(std::string_view path, std::string_view name)
+void Walk::Pass::noteRepository(const TreeEntry& entry, std::string_view path)
 {
-    if (name == ".git")
+    if (entry.name() == ".git")
         return;
-    m_probe.assign(path).append("/.git");
+    m_probe.assign(entry.name()).append("/.git");
     struct stat info {};
-    if (::lstat(m_probe.c_str(), &info) != 0)
+    if (::fstatat(entry.folderDescriptor(), m_probe.c_str(), &info, AT_SYMLINK_NOFOLLOW) != 0)
         return;
     const QString folder = decoded(path);
     if (!m_walk.insideRepository(folder))
@@ -227,21 +219,24 @@ void Walk::Pass::showProgress(std::string_view path) const
         m_walk.m_context.progress->setCurrentFolder(PathRules::withTilde(decoded(path), m_walk.m_context.home));
 }
 
-void Walk::Pass::visitFile(const FTSENT* entry)
+void Walk::Pass::visitFile(const TreeEntry& entry)
 {
-    const struct stat& info = *entry->fts_statp;
-    if (info.st_size < Thresholds::duplicateMinimumSize || info.st_dev != m_device)
+    const struct stat& info = entry.status();
+    if (info.st_size < Thresholds::duplicateMinimumSize)
         return;
-    const std::string_view path(entry->fts_path, entry->fts_pathlen);
-    if (liesInHiddenFolder(path))
+    const QByteArray pathBytes = entry.pathBytes();
+    if (liesInHiddenFolder(std::string_view(pathBytes.constData(), static_cast<size_t>(pathBytes.size()))))
         return;
-    const QString file = decoded(path);
+    if (!entry.nameDecodes()) {
+        ++m_walk.m_undecodable;
+        return;
+    }
+    const QString file = QFile::decodeName(pathBytes);
     if (KnownLocations::isInSyncedHomeFolder(file, m_walk.m_context.home) || Platform::isDataless(info))
         return;
     if (!m_walk.insideRepository(file))
         m_walk.m_duplicateCandidates.append(duplicateCandidate(file, info));
-    const std::string_view name(entry->fts_name, entry->fts_namelen);
-    if (info.st_size >= Thresholds::largeFileSize && !isInstaller(name))
+    if (info.st_size >= Thresholds::largeFileSize && !isInstaller(entry.name()))
         m_walk.m_largeFiles.append({file, static_cast<qint64>(info.st_blocks) * 512});
 }
 
@@ -256,16 +251,6 @@ bool Walk::Pass::liesInHiddenFolder(std::string_view path) const
         return false;
     const std::string_view folders = relative.substr(0, lastSlash);
     return folders.front() == '.' || folders.find("/.") != std::string_view::npos;
-}
-
-// Counts one entry; at every full batch publishes it and answers whether to go on.
-bool Walk::Pass::countEntry()
-{
-    if (++m_entries % progressBatch != 0)
-        return true;
-    if (m_walk.m_context.progress)
-        m_walk.m_context.progress->addEntries(progressBatch);
-    return !m_walk.m_context.isCancelled();
 }
 
 Walk::Walk(ScanContext context) : m_context(std::move(context)) {}

@@ -35,6 +35,9 @@ public:
     [[nodiscard]] const QList<DuplicateFinder::File>& duplicateCandidates() const { return m_duplicateCandidates; }
     // Folders and entries that could not be read.
     [[nodiscard]] qint64 unreadable() const { return m_unreadable; }
+    // Folders and big files left out because their names do not survive decoding to text:
+    // such an entry could be neither shown nor found again by its path.
+    [[nodiscard]] qint64 undecodable() const { return m_undecodable; }
     // During a walk, the repositories enclosing the current position; afterwards whatever
     // was still on that stack. mainRepositories() is the complete list.
     [[nodiscard]] const QStringList& repositories() const { return m_repositories; }
@@ -63,6 +66,7 @@ private:
     QList<LargeFile> m_largeFiles;
     QList<DuplicateFinder::File> m_duplicateCandidates;
     qint64 m_unreadable = 0;
+    qint64 m_undecodable = 0;
     QStringList m_repositories;
     QStringList m_mainRepositories;
     QSet<QString> m_foundPaths;

@@ -118,25 +118,41 @@ TEST_F(DuplicateFinderTest, TheFirstPassBoundaryIsExactly64KiB)
     EXPECT_EQ(differ.stats.filesReadWhole, 2);
 }
 
-// Same size everywhere: "same" is a true copy of "original", "tail" shares their first 64 KiB
-// but differs later, "other" differs at once and must never be read past its head.
-TEST_F(DuplicateFinderTest, OnlyFilesSharingTheirHeadAreReadWholeAndOnlyOnce)
+// Same size everywhere: "same" is a true copy of "original", "middle" shares their first and
+// last 64 KiB but differs between, "tail" differs in its last bytes, "other" differs at once.
+// Only files that share head and tail are read whole, and no byte of them twice.
+TEST_F(DuplicateFinderTest, OnlyFilesSharingHeadAndTailAreReadWhole)
 {
     constexpr qint64 size = 3 * 1'048'576 + 17;  // several chunks and a ragged end
     const QByteArray content = randomContent(size);
     tree.file("original", content);
     tree.file("same", content);
-    QByteArray tail = content;
-    tail[size - 2] = char(tail[size - 2] ^ 0x40);
-    tree.file("tail", tail);
+    QByteArray changed = content;
+    changed[size / 2] = char(changed[size / 2] ^ 0x40);
+    tree.file("middle", changed);
+    changed = content;
+    changed[size - 2] = char(changed[size - 2] ^ 0x40);
+    tree.file("tail", changed);
     tree.file("other", randomContent(size));
 
-    const auto outcome = find({"original", "tail", "other", "same"});
+    const auto outcome = find({"original", "middle", "tail", "other", "same"});
     EXPECT_EQ(titles(outcome.items), QStringList({"~/original", "~/same"}));
-    EXPECT_EQ(outcome.stats.filesRead, 4);
-    EXPECT_EQ(outcome.stats.filesReadWhole, 3);
-    // Heads once each, the rest of the three head-sharing files once each: nothing twice.
-    EXPECT_EQ(outcome.stats.bytesRead, 4 * head + 3 * (size - head));
+    EXPECT_EQ(outcome.stats.filesRead, 5);
+    EXPECT_EQ(outcome.stats.filesReadTail, 4);
+    EXPECT_EQ(outcome.stats.filesReadWhole, 3) << "the tail pass spares \"tail\", never \"middle\"";
+    EXPECT_EQ(outcome.stats.bytesRead, 5 * head + 4 * head + 3 * (size - head));
+}
+
+// Up to two heads' length the rest of a file is no longer than its tail: no tail pass.
+TEST_F(DuplicateFinderTest, ShortFilesSkipTheTailPass)
+{
+    const QByteArray content = randomContent(2 * head);
+    tree.file("a", content);
+    tree.file("b", content);
+    const auto outcome = find({"a", "b"});
+    EXPECT_EQ(outcome.items.size(), 2);
+    EXPECT_EQ(outcome.stats.filesReadTail, 0);
+    EXPECT_EQ(outcome.stats.bytesRead, 2 * 2 * head);
 }
 
 TEST_F(DuplicateFinderTest, ThreeCopiesMakeOneGroupOldestFirst)

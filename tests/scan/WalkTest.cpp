@@ -141,6 +141,29 @@ TEST_F(WalkFiles, UnreadableFoldersAreCountedAndTheWalkGoesOn)
     EXPECT_EQ(*result, "1 scan/open/big");
 }
 
+// A name that is not valid text could be neither shown nor found again by its path: such
+// folders are not entered and such files not offered; the walk says how many it left out.
+TEST_F(WalkFiles, NamesThatAreNotTextAreLeftOutAndCounted)
+{
+    tree.sparseFile(QStringLiteral("scan/caf\u00e9/big"), 2'000'000);
+    const QByteArray scan = QFile::encodeName(tree.dir("scan"));
+    const QByteArray badFolder = scan + "/bad\xff";
+    const QByteArray badFile = scan + "/caf\xe9.bin";  // Latin-1 bytes, not UTF-8
+    ASSERT_EQ(::mkdir(badFolder.constData(), 0755), 0);
+    for (const QByteArray& file : {badFolder + "/big", badFile, scan + "/small\xff"}) {
+        const int descriptor = ::open(file.constData(), O_WRONLY | O_CREAT, 0644);
+        ASSERT_EQ(::ftruncate(descriptor, file.endsWith("\xff") ? 10 : 2'000'000), 0);
+        ::close(descriptor);
+    }
+    const Walk walk = walked({"scan"});
+    for (const QByteArray& file : {badFolder + "/big", badFile, scan + "/small\xff"})
+        ::unlink(file.constData());  // QDir cannot name them to clean up
+    ::rmdir(badFolder.constData());
+
+    EXPECT_EQ(candidates(walk), QStringList({QStringLiteral("scan/caf\u00e9/big")}));
+    EXPECT_EQ(walk.undecodable(), 2) << "the folder and the big file; a small file was never a candidate";
+}
+
 using WalkProgress = WalkFixture;
 
 TEST_F(WalkProgress, CountsEveryEntryAndShowsShallowFoldersFromHome)

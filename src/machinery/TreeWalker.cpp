@@ -1,0 +1,319 @@
+#include "machinery/TreeWalker.h"
+
+#include "machinery/ScanProgress.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <dirent.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int folderFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+
+bool isDotEntry(const char* name)
+{
+    return name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'));
+}
+
+// The root without trailing slashes; "/" becomes empty so that children read "/name".
+std::string withoutTrailingSlashes(const QByteArray& root)
+{
+    std::string path(root.constData(), static_cast<size_t>(root.size()));
+    while (!path.empty() && path.back() == '/')
+        path.pop_back();
+    return path;
+}
+
+std::string lastComponent(const std::string& path)
+{
+    if (path.empty())
+        return "/";
+    const size_t slash = path.rfind('/');
+    return slash == std::string::npos ? path : path.substr(slash + 1);
+}
+
+}  // namespace
+
+// One folder on the way down: its listing, read whole when it was opened, and the descriptor
+// that entries are examined through (null while closed to stay under the limit).
+struct TreeWalker::Level {
+    std::string name;
+    struct stat status {};
+    DIR* listing = nullptr;
+    std::string names;  // the listing, each name followed by '\0'
+    size_t next = 0;    // offset of the next name to walk
+    size_t pathLength = 0;
+    int reopenError = 0;  // set when the folder could not be reopened after a close
+
+    int descriptor() const { return listing ? ::dirfd(listing) : -1; }
+    bool done() const { return next >= names.size(); }
+};
+
+QByteArray TreeEntry::pathBytes() const
+{
+    if (m_depth == 0)
+        return m_walker->m_root;
+    QByteArray path;
+    path.reserve(static_cast<qsizetype>(m_walker->m_path.size() + m_name.size() + 1));
+    path.append(m_walker->m_path.data(), static_cast<qsizetype>(m_walker->m_path.size()));
+    path.append('/');
+    path.append(m_name.data(), static_cast<qsizetype>(m_name.size()));
+    return path;
+}
+
+QString TreeEntry::path() const
+{
+    return QFile::decodeName(pathBytes());
+}
+
+QByteArray TreeEntry::folderPathBytes() const
+{
+    if (m_depth > 0)
+        return m_walker->m_path.empty() ? QByteArray("/") : QByteArray::fromStdString(m_walker->m_path);
+    const std::string root = withoutTrailingSlashes(m_walker->m_root);
+    const size_t slash = root.rfind('/');
+    if (slash == std::string::npos)
+        return QByteArray(".");
+    return slash == 0 ? QByteArray("/") : QByteArray::fromStdString(root.substr(0, slash));
+}
+
+bool TreeEntry::nameDecodes() const
+{
+    if (std::all_of(m_name.begin(), m_name.end(), [](char c) { return (c & 0x80) == 0; }))
+        return true;
+    const QByteArray bytes = QByteArray::fromRawData(m_name.data(), static_cast<qsizetype>(m_name.size()));
+    return QFile::encodeName(QFile::decodeName(bytes)) == bytes;
+}
+
+TreeWalker::TreeWalker(Options options) : m_options(options)
+{
+    m_options.descriptorLimit = std::max(1, m_options.descriptorLimit);
+}
+
+TreeWalker::~TreeWalker()
+{
+    for (const auto& level : m_levels) {
+        if (level->listing)
+            ::closedir(level->listing);
+    }
+}
+
+TreeWalker::Result TreeWalker::walk(const QByteArray& root, TreeVisitor& visitor)
+{
+    m_root = root;
+    if (examineRoot(visitor)) {
+        while (!m_levels.empty() && m_end == End::Finished)
+            walkNext(visitor);
+    }
+    if (m_options.progress && m_entries % progressBatch != 0)
+        m_options.progress->addEntries(m_entries % progressBatch);
+    return {m_end, m_entries};
+}
+
+// The root is the one entry looked up by path; a link there is reported as a link.
+bool TreeWalker::examineRoot(TreeVisitor& visitor)
+{
+    const std::string rootName = lastComponent(withoutTrailingSlashes(m_root));
+    struct stat status {};
+    const bool examined = ::lstat(m_root.constData(), &status) == 0;
+    const int error = errno;
+    countEntry();
+    const TreeEntry entry(*this, rootName, status, 0, AT_FDCWD);
+    if (!examined) {
+        visitor.problem(entry, TreeProblem::CannotExamine, error);
+        return false;
+    }
+    m_device = status.st_dev;
+    if (!S_ISDIR(status.st_mode)) {
+        if (visitor.visitItem(entry) == TreeVisitor::Verdict::Stop)
+            m_end = End::Stopped;
+        return false;
+    }
+    handleFolder(visitor, entry);
+    return true;
+}
+
+void TreeWalker::walkNext(TreeVisitor& visitor)
+{
+    Level& top = *m_levels.back();
+    if (top.done()) {
+        leave(visitor);
+        return;
+    }
+    const std::string_view name(top.names.data() + top.next);
+    top.next += name.size() + 1;
+    if (!top.listing && !ensureOpen(m_levels.size() - 1)) {
+        top.reopenError = errno;       // reported as the folder is left, with its own path
+        top.next = top.names.size();  // the rest of this folder cannot be reached any more
+        return;
+    }
+    handleEntry(visitor, top, name);
+}
+
+void TreeWalker::handleEntry(TreeVisitor& visitor, const Level& folder, std::string_view name)
+{
+    const int descriptor = folder.descriptor();
+    const int depth = static_cast<int>(m_levels.size());
+    if (!countEntry()) {
+        m_end = End::Cancelled;
+        return;
+    }
+    struct stat status {};
+    if (::fstatat(descriptor, name.data(), &status, AT_SYMLINK_NOFOLLOW) != 0) {
+        const int error = errno;
+        visitor.problem(TreeEntry(*this, name, status, depth, descriptor), TreeProblem::CannotExamine, error);
+        return;
+    }
+    if (status.st_dev != m_device)
+        return;  // a mount point: another volume is never entered or counted
+    const TreeEntry entry(*this, name, status, depth, descriptor);
+    if (S_ISDIR(status.st_mode))
+        handleFolder(visitor, entry);
+    else if (!(m_options.hardLinksOnce && isRepeatedLink(status))
+             && visitor.visitItem(entry) == TreeVisitor::Verdict::Stop)
+        m_end = End::Stopped;
+}
+
+void TreeWalker::handleFolder(TreeVisitor& visitor, const TreeEntry& entry)
+{
+    switch (visitor.enterFolder(entry)) {
+    case TreeVisitor::Verdict::Stop:
+        m_end = End::Stopped;
+        return;
+    case TreeVisitor::Verdict::Skip:
+        return;
+    case TreeVisitor::Verdict::Enter:
+        descend(visitor, entry);
+        return;
+    }
+}
+
+void TreeWalker::descend(TreeVisitor& visitor, const TreeEntry& entry)
+{
+    auto level = std::make_unique<Level>();
+    level->name = std::string(entry.name());
+    level->status = entry.status();
+    const bool isRoot = entry.depth() == 0;
+    if (!openLevel(*level, isRoot ? AT_FDCWD : m_levels.back()->descriptor())) {
+        const int error = errno;
+        visitor.problem(entry, TreeProblem::CannotOpen, error);
+        visitor.leaveFolder(entry);
+        return;
+    }
+    listLevel(*level, entry, visitor);
+    if (isRoot)
+        m_path = withoutTrailingSlashes(m_root);
+    else
+        m_path.append("/").append(level->name);
+    level->pathLength = m_path.size();
+    m_levels.push_back(std::move(level));
+    ++m_open;
+    keepUnderLimit();
+}
+
+// Opens the folder relative to its parent and checks it is the folder that was examined: a
+// folder swapped for a link fails on O_NOFOLLOW, one swapped for another folder on its inode.
+bool TreeWalker::openLevel(Level& level, int parent)
+{
+    const bool isRoot = parent == AT_FDCWD;
+    const int descriptor = ::openat(parent, isRoot ? m_root.constData() : level.name.c_str(), folderFlags);
+    if (descriptor < 0)
+        return false;
+    struct stat opened {};
+    if (::fstat(descriptor, &opened) != 0 || opened.st_dev != level.status.st_dev
+        || opened.st_ino != level.status.st_ino) {
+        ::close(descriptor);
+        errno = ESTALE;
+        return false;
+    }
+    level.listing = ::fdopendir(descriptor);
+    if (!level.listing) {
+        const int error = errno;
+        ::close(descriptor);
+        errno = error;
+        return false;
+    }
+    return true;
+}
+
+void TreeWalker::listLevel(Level& level, const TreeEntry& entry, TreeVisitor& visitor)
+{
+    errno = 0;
+    while (const dirent* item = ::readdir(level.listing)) {
+        if (!isDotEntry(item->d_name))
+            level.names.append(item->d_name, std::strlen(item->d_name) + 1);
+        errno = 0;
+    }
+    if (errno != 0)
+        visitor.problem(entry, TreeProblem::CannotList, errno);
+}
+
+void TreeWalker::leave(TreeVisitor& visitor)
+{
+    const std::unique_ptr<Level> level = std::move(m_levels.back());
+    m_levels.pop_back();
+    if (level->listing) {
+        ::closedir(level->listing);
+        --m_open;
+    }
+    if (!m_levels.empty())
+        m_path.resize(m_levels.back()->pathLength);
+    const int parent = m_levels.empty() ? AT_FDCWD : m_levels.back()->descriptor();
+    const TreeEntry entry(*this, level->name, level->status, static_cast<int>(m_levels.size()), parent);
+    if (level->reopenError != 0)
+        visitor.problem(entry, TreeProblem::CannotOpen, level->reopenError);
+    visitor.leaveFolder(entry);
+}
+
+// Reopens a folder closed for the limit, name by name from its nearest open ancestor (the
+// root by its path), each checked against the status it had when first opened.
+bool TreeWalker::ensureOpen(size_t index)
+{
+    Level& level = *m_levels[index];
+    if (level.listing)
+        return true;
+    if (index > 0 && !ensureOpen(index - 1))
+        return false;
+    if (!openLevel(level, index == 0 ? AT_FDCWD : m_levels[index - 1]->descriptor()))
+        return false;
+    ++m_open;
+    keepUnderLimit();
+    return true;
+}
+
+// Closes the shallowest open folders, never the current one, until the limit holds.
+void TreeWalker::keepUnderLimit()
+{
+    for (size_t index = 0; m_open > m_options.descriptorLimit && index + 1 < m_levels.size(); ++index) {
+        Level& level = *m_levels[index];
+        if (!level.listing)
+            continue;
+        ::closedir(level.listing);
+        level.listing = nullptr;
+        --m_open;
+    }
+}
+
+bool TreeWalker::isRepeatedLink(const struct stat& status)
+{
+    if (status.st_nlink < 2)
+        return false;
+    const qsizetype before = m_linked.size();
+    m_linked.insert(FileKey::of(status));
+    return m_linked.size() == before;
+}
+
+// Counts one entry; at every full batch publishes it and answers whether to go on.
+bool TreeWalker::countEntry()
+{
+    if (++m_entries % progressBatch != 0)
+        return true;
+    if (m_options.progress)
+        m_options.progress->addEntries(progressBatch);
+    return !(m_options.cancellation && m_options.cancellation->isCancelled());
+}

@@ -1,0 +1,153 @@
+#pragma once
+
+#include "machinery/CancellationToken.h"
+#include "machinery/FileKey.h"
+
+#include <QByteArray>
+#include <QSet>
+#include <QString>
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <sys/stat.h>
+#include <vector>
+
+class ScanProgress;
+class TreeWalker;
+
+// One entry as the walk meets it. Valid only during the callback that receives it.
+class TreeEntry {
+public:
+    [[nodiscard]] std::string_view name() const { return m_name; }
+    // The entry's own status (never a link's target).
+    [[nodiscard]] const struct stat& status() const { return *m_status; }
+    // 0 for the root, 1 for what lies directly in it, and so on.
+    [[nodiscard]] int depth() const { return m_depth; }
+    // The open folder that holds the entry, for lookups relative to it (`fstatat`, `openat`)
+    // instead of by path from the root. AT_FDCWD for the root. Valid in enterFolder and
+    // visitItem; in leaveFolder and problem it may be -1 (closed to stay under the limit).
+    [[nodiscard]] int folderDescriptor() const { return m_folder; }
+    [[nodiscard]] FileKey key() const { return FileKey::of(*m_status); }
+    // The path, built only when asked for: the root as given, then "/" and each name.
+    [[nodiscard]] QByteArray pathBytes() const;
+    [[nodiscard]] QString path() const;
+    // The path of the folder holding the entry (the root's own parent for the root).
+    [[nodiscard]] QByteArray folderPathBytes() const;
+    // Whether the name survives decoding to text and encoding back; a name that does not
+    // cannot be shown or handed to a later step by path, so users leave such entries out.
+    [[nodiscard]] bool nameDecodes() const;
+
+private:
+    friend class TreeWalker;
+    TreeEntry(const TreeWalker& walker, std::string_view name, const struct stat& status, int depth, int folder)
+        : m_walker(&walker), m_name(name), m_status(&status), m_depth(depth), m_folder(folder) {}
+
+    const TreeWalker* m_walker;
+    std::string_view m_name;
+    const struct stat* m_status;
+    int m_depth;
+    int m_folder;
+};
+
+// What went wrong with one entry; the walk goes on after each.
+enum class TreeProblem {
+    CannotExamine,  // its status could not be read (vanished, no permission): no other callback
+    CannotOpen,     // a folder that could not be opened, or was replaced before it was opened
+    CannotList,     // a folder whose listing failed part way (what was listed is still walked)
+};
+
+// The callbacks of one walk. Every one runs on the walking thread.
+class TreeVisitor {
+public:
+    enum class Verdict { Enter, Skip, Stop };
+    virtual ~TreeVisitor() = default;
+
+    // Pre-order: a folder, the root included. Enter descends, Skip leaves it out, Stop ends
+    // the walk. Every folder that got Enter is later given to leaveFolder, also when it could
+    // not be opened (after problem), so tallies kept on a stack stay balanced.
+    virtual Verdict enterFolder(const TreeEntry&) { return Verdict::Enter; }
+    // Post-order: the folder's whole subtree has been walked (or it could not be read).
+    virtual void leaveFolder(const TreeEntry&) {}
+    // Anything that is not a folder: files, symbolic links (never followed), devices,
+    // sockets. Stop ends the walk; Enter and Skip both go on.
+    virtual Verdict visitItem(const TreeEntry&) { return Verdict::Enter; }
+    virtual void problem(const TreeEntry&, TreeProblem, int error) { (void)error; }
+};
+
+// A depth-first walk of one tree by folder descriptors: each folder is opened relative to its
+// parent (`openat` with O_NOFOLLOW | O_DIRECTORY), listed whole, and each entry examined with
+// `fstatat` relative to it, so no entry is ever looked up by its path from the root and the
+// working folder never changes. The walk
+// - never follows a symbolic link, and never enters a folder that was swapped for another one
+//   (or for a link) between its status and its opening: the opened folder must have the
+//   device and inode the status showed;
+// - stays on the root's volume: entries of another device (mount points) are not reported;
+// - keeps at most `descriptorLimit` folders open: past that depth the shallowest open folder is
+//   closed and reopened later, name by name from its nearest open ancestor, checked again;
+// - reports hard-linked non-folders once per walk when `hardLinksOnce` is set (by FileKey);
+// - counts every examined entry, adds them to `progress` in batches of 4096 and polls
+//   `cancellation` at the same rhythm.
+// Sizes are the users' business: `status().st_blocks * 512` is what a file takes on disk.
+//
+// How the users fit: FileSizer sums in enterFolder and visitItem with `hardLinksOnce`; a
+// per-folder tally (storage) pushes in enterFolder and pops into its parent in leaveFolder;
+// a per-file record (fingerprint) takes the path relative to the root from `pathBytes()` and
+// may open the file with `openat(folderDescriptor(), name, O_NOFOLLOW)`; a bounded walk
+// returns Stop from any callback once it has seen enough.
+//
+// Thread-safety: a TreeWalker belongs to the thread that runs it; separate walkers may run at
+// once. Only `progress` is shared, and it guards itself.
+class TreeWalker {
+public:
+    struct Options {
+        ScanProgress* progress = nullptr;
+        const CancellationToken* cancellation = nullptr;
+        bool hardLinksOnce = false;
+        int descriptorLimit = 24;  // several walks run side by side; deeper trees reopen
+    };
+
+    enum class End { Finished, Cancelled, Stopped };
+    struct Result {
+        End end = End::Finished;
+        qint64 entries = 0;  // entries examined, the root included
+    };
+
+    explicit TreeWalker(Options options);
+    TreeWalker(const TreeWalker&) = delete;
+    TreeWalker& operator=(const TreeWalker&) = delete;
+    ~TreeWalker();
+
+    // Walks `root` (an entry of any kind; a link is reported as a link). A root that cannot be
+    // examined gives problem(CannotExamine) and nothing else. Call once per walker.
+    Result walk(const QByteArray& root, TreeVisitor& visitor);
+
+    static constexpr qint64 progressBatch = 4096;
+
+private:
+    friend class TreeEntry;
+    struct Level;
+
+    bool examineRoot(TreeVisitor& visitor);
+    void walkNext(TreeVisitor& visitor);
+    void handleEntry(TreeVisitor& visitor, const Level& folder, std::string_view name);
+    void handleFolder(TreeVisitor& visitor, const TreeEntry& entry);
+    void descend(TreeVisitor& visitor, const TreeEntry& entry);
+    bool openLevel(Level& level, int parent);
+    static void listLevel(Level& level, const TreeEntry& entry, TreeVisitor& visitor);
+    void leave(TreeVisitor& visitor);
+    bool ensureOpen(size_t index);
+    void keepUnderLimit();
+    bool isRepeatedLink(const struct stat& status);
+    bool countEntry();
+
+    Options m_options;
+    QByteArray m_root;
+    std::string m_path;  // the current folder's path; entries add "/" and their name on demand
+    std::vector<std::unique_ptr<Level>> m_levels;  // by pointer: entries view names in them
+    dev_t m_device = 0;
+    QSet<FileKey> m_linked;
+    qint64 m_entries = 0;
+    int m_open = 0;
+    End m_end = End::Finished;
+};
