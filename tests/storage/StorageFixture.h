@@ -23,11 +23,12 @@ public:
         return request;
     }
 
-    // Allocated bytes of the given paths by `du -s -B1`, a file with several links once.
+    // Allocated bytes of the given paths by `du -s -x -B1`: a file with several links once, no
+    // other volume entered.
     static qint64 du(const QStringList& paths)
     {
         QProcess process;
-        process.start(QStringLiteral("du"), QStringList{QStringLiteral("-s"), QStringLiteral("-B1")} + paths);
+        process.start(QStringLiteral("du"), QStringList{QStringLiteral("-s"), QStringLiteral("-x"), QStringLiteral("-B1")} + paths);
         process.waitForFinished(60'000);
         qint64 sum = 0;
         for (const QByteArray& line : process.readAllStandardOutput().split('\n'))
