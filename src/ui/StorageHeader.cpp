@@ -38,6 +38,13 @@ StorageHeader::StorageHeader(AppModel* model, const QString& title, const QStrin
     refresh();
 }
 
+void StorageHeader::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (!m_model->storageReport() && !m_model->isAnalyzingStorage())
+        m_model->startStorageAnalysis();
+}
+
 void StorageHeader::refresh()
 {
     const bool running = m_model->isAnalyzingStorage();

@@ -91,3 +91,17 @@ TEST(AppModelStorage, TheRealAnalysisMeasuresTheSettingsHome)
     EXPECT_GE(report.total(StorageBucket::photos), 300'000);
     EXPECT_EQ(fixture.stats().stats().lastStorage->notMeasured, 10'000'000 - report.measured());
 }
+
+TEST(AppModelStorage, AFolderOnTheSafeListHidesTheRowsInsideIt)
+{
+    ModelFixture fixture;
+    const CleanupItem inside = rowAt(CategoryID::projects, "/Users/a/code/shop/node_modules");
+    const CleanupItem beside = rowAt(CategoryID::projects, "/Users/a/codex/node_modules");
+    ScanOutputs outputs;
+    outputs[CategoryID::projects].items = {inside, beside};
+    fixture.model().apply(outputs, false);
+    fixture.model().addFolderToSafeList("/Users/a/code");
+    EXPECT_EQ(fixture.model().result(CategoryID::projects).items, QList<CleanupItem>{beside});
+    EXPECT_TRUE(fixture.settings().safeFolders().contains("/Users/a/code"));
+    EXPECT_EQ(fixture.model().toast(), "“code” is on the Safe List.");
+}

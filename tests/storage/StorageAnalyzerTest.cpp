@@ -169,3 +169,38 @@ TEST_F(StorageAnalyzerTest, ProgressCountsEveryEntryAndCancellingGivesNoReport)
     stopped.cancellation.cancel();
     EXPECT_FALSE(StorageAnalyzer::analyze(stopped));
 }
+
+TEST_F(StorageAnalyzerTest, ALinuxHomeKeepsItsTrashAndAppDataInTheirOwnBuckets)
+{
+    if (Platform::desktop() != Platform::Desktop::freedesktop)
+        GTEST_SKIP() << "the Linux rows apply on a freedesktop system";
+    file(".local/share/Trash/files/old.zip", 90'000);
+    file(".local/share/Trash/info/old.zip.trashinfo", 100);
+    file(".local/share/app/state.db", 40'000);
+    file(".local/bin/tool", 20'000);
+    file(".cache/pip/wheel.whl", 30'000);
+    file(".config/app/settings.json", 1'000);
+    file(".var/app/org.example.App/data.bin", 50'000);
+    const StorageReport report = analyzed();
+    EXPECT_EQ(report.total(StorageBucket::trash), duOf(".local/share/Trash"));
+    EXPECT_EQ(report.total(StorageBucket::appData), duOf(".cache") + duOf(".config") + duOf(".local/share") -
+                                                        duOf(".local/share/Trash") + duOf(".var/app"));
+    EXPECT_EQ(report.total(StorageBucket::archives), 0) << "a zip in the Trash is Trash";
+}
+
+TEST_F(StorageAnalyzerTest, APackageOfSmallFilesIsListedWholeNeverWhatLiesInside)
+{
+    const QByteArray resources = QFile::encodeName(tree.dir(QStringLiteral("Applications/Tool.app/Contents/Resources")));
+    const QByteArray content(100'000, 'x');
+    for (int i = 0; i < 1'000; ++i) {
+        const int descriptor = ::open(resources + "/r" + QByteArray::number(i), O_WRONLY | O_CREAT, 0644);
+        ASSERT_EQ(::write(descriptor, content.constData(), content.size()), content.size());
+        ::close(descriptor);
+    }
+    const StorageReport report = analyzed();
+    ASSERT_EQ(report.largeFolders.size(), 1);
+    EXPECT_EQ(report.largeFolders.first().path, applications + "/Tool.app");
+    EXPECT_EQ(report.largeFolders.first().kind, StorageBucket::apps);
+    EXPECT_EQ(report.largeFolders.first().fileCount, 1'000);
+    EXPECT_EQ(report.largeFolders.first().bytes, du({applications + "/Tool.app"}));
+}
