@@ -49,22 +49,24 @@ void StorageHeader::refresh()
 {
     const bool running = m_model->isAnalyzingStorage();
     //: Button of the storage screens while an analysis runs
-    m_button->setText(running ? tr("Stop")
-                      //: Button of the storage screens: measure the disk again
-                      : m_model->storageReport() ? tr("Measure Again")
-                                                 //: Button of the storage screens before any analysis
-                                                 : tr("Measure Disk"));
+    const QString stop = tr("Stop");
+    //: Button of the storage screens: measure the disk again
+    const QString again = tr("Measure Again");
+    //: Button of the storage screens before any analysis
+    const QString first = tr("Measure Disk");
+    m_button->setText(running ? stop : m_model->storageReport() ? again : first);
     if (running) {
         m_progressTimer.start();
         pollProgress();
     } else {
         m_progressTimer.stop();
         const auto& report = m_model->storageReport();
-        m_status->setText(report
+        if (report)
             //: Status line of the storage screens; %1 is a relative date ("5 minutes ago")
-            ? tr("Measured %1.").arg(RelativeDate::format(report->date))
+            m_status->setText(tr("Measured %1.").arg(RelativeDate::format(report->date)));
+        else
             //: Status line of the storage screens before any analysis
-            : tr("Not measured yet. Measuring reads your home folder; it changes nothing."));
+            m_status->setText(tr("Not measured yet. Measuring reads your home folder; it changes nothing."));
     }
     refreshNotes();
 }

@@ -92,8 +92,13 @@ QWidget* StoragePage::makeOverview()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(20);
     m_ring->setFixedSize(250, 250);
-    //: Column headings of the storage legend: kind of data, its size, its share of the used space
-    m_legend = makeList(overview, {tr("Kind"), tr("Size"), tr("Share")});
+    //: Column heading of the storage legend: the kind of data
+    const QString kind = tr("Kind");
+    //: Column heading of the storage legend: the kind's size
+    const QString size = tr("Size");
+    //: Column heading of the storage legend: the kind's share of the used space
+    const QString part = tr("Share");
+    m_legend = makeList(overview, {kind, size, part});
     m_legend->setIconSize(QSize(12, 12));
     m_legend->setFixedHeight(250);
     connect(m_legend, &QTreeWidget::itemClicked, this, &StoragePage::legendChosen);
@@ -108,8 +113,13 @@ QWidget* StoragePage::makeDrillDown()
     auto* top = new QHBoxLayout;
     top->addWidget(m_back);
     top->addWidget(m_place, 1);
-    //: Column headings of the storage drill-down: a folder or file, its size, how many files it holds
-    m_details = makeList(drill, {tr("Name"), tr("Size"), tr("Files")});
+    //: Column heading of the storage drill-down: a folder or file
+    const QString name = tr("Name");
+    //: Column heading of the storage drill-down: its size
+    const QString size = tr("Size");
+    //: Column heading of the storage drill-down: how many files it holds
+    const QString files = tr("Files");
+    m_details = makeList(drill, {name, size, files});
     m_details->setItemDelegateForColumn(detailSize, m_bars);
     m_details->setContextMenuPolicy(Qt::CustomContextMenu);
     m_details->header()->setSectionResizeMode(detailSize, QHeaderView::Fixed);
@@ -149,7 +159,8 @@ void StoragePage::refreshRing()
     const auto& report = m_model->storageReport();
     if (!report) {
         //: Middle of the storage ring before any analysis
-        m_ring->setSegments({}, QStringLiteral("—"), tr("not measured"));
+        const QString caption = tr("not measured");
+        m_ring->setSegments({}, QStringLiteral("—"), caption);
         return;
     }
     for (const auto& [bucket, bytes] : report->sortedBuckets()) {
