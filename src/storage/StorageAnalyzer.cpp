@@ -33,10 +33,12 @@ std::vector<QByteArray> entriesOf(const QByteArray& folder)
     return entries;
 }
 
-std::optional<dev_t> deviceOf(const QByteArray& path)
+// The device of `path` itself, or of what it points to when `follow` (a home given through a
+// symbolic link still has its entries on the volume it points to).
+std::optional<dev_t> deviceOf(const QByteArray& path, bool follow = false)
 {
     struct stat status {};
-    if (::lstat(path.constData(), &status) != 0)
+    if ((follow ? ::stat(path.constData(), &status) : ::lstat(path.constData(), &status)) != 0)
         return std::nullopt;
     return status.st_dev;
 }
@@ -91,7 +93,7 @@ std::vector<QByteArray> roots(const Request& request)
     if (!applications.isEmpty() && deviceOf(applications))
         roots.push_back(applications);
     const QByteArray home = QFile::encodeName(request.home);
-    const auto device = deviceOf(home);
+    const auto device = deviceOf(home, true);
     if (!device)
         return roots;
     appendEntries(roots, home, *device, [](const QByteArray& name) { return name == "Library"; });

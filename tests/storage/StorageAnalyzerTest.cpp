@@ -6,6 +6,7 @@
 #include "storage/StorageWalker.h"
 
 #include <QFile>
+#include <QTemporaryDir>
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -203,4 +204,19 @@ TEST_F(StorageAnalyzerTest, APackageOfSmallFilesIsListedWholeNeverWhatLiesInside
     EXPECT_EQ(report.largeFolders.first().kind, StorageBucket::apps);
     EXPECT_EQ(report.largeFolders.first().fileCount, 1'000);
     EXPECT_EQ(report.largeFolders.first().bytes, du({applications + "/Tool.app"}));
+}
+
+TEST_F(StorageAnalyzerTest, AHomeGivenThroughASymbolicLinkIsMeasured)
+{
+    file("Documents/a.pdf", 40'000);
+    // The link lies on another volume than the home, as /home may on a Linux system.
+    QTemporaryDir elsewhere(QStringLiteral("/dev/shm/dustlark-XXXXXX"));
+    if (!elsewhere.isValid())
+        GTEST_SKIP() << "needs /dev/shm, a second file system";
+    StorageAnalyzer::Request linked = request();
+    linked.home = elsewhere.filePath(QStringLiteral("home"));
+    ASSERT_EQ(::symlink(QFile::encodeName(home).constData(), QFile::encodeName(linked.home).constData()), 0);
+    const auto report = StorageAnalyzer::analyze(linked);
+    ASSERT_TRUE(report);
+    EXPECT_EQ(report->total(StorageBucket::documents), duOf("Documents/a.pdf"));
 }
