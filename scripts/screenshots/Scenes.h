@@ -15,6 +15,7 @@ struct Scene {
 // The scenes of each screen, one file each.
 QList<Scene> categoryScenes();
 QList<Scene> pageScenes();
+QList<Scene> storageScenes();
 
 // The window with a sheet laid over it the way macOS shows one: centred under the toolbar.
 QImage withSheet(QWidget& window, QWidget& sheet);

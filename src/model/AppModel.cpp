@@ -6,6 +6,7 @@
 #include "machinery/FileSizer.h"
 #include "model/SettingsStore.h"
 #include "model/StatsStore.h"
+#include "model/StorageTask.h"
 #include "platform/Platform.h"
 #include "scan/ScannerCatalog.h"
 #include "vocabulary/SharedScanFolders.h"
@@ -37,6 +38,11 @@ AppModel::Services AppModel::defaultServices()
             return std::nullopt;
         return measurement.bytes;
     };
+    services.analyzeStorage = [](const StorageAnalyzer::Request& request) { return StorageAnalyzer::analyze(request); };
+    services.diskUsed = [](const QString& home) -> std::optional<qint64> {
+        const auto disk = DiskSpace::current(home);
+        return disk ? std::optional<qint64>(disk->total - disk->available) : std::nullopt;
+    };
     return services;
 }
 
@@ -50,6 +56,8 @@ AppModel::~AppModel()
 {
     for (auto& [id, scan] : m_scans)
         scan.task->cancel();
+    for (auto& [generation, task] : m_storageTasks)
+        task->cancel();
     stopCleanup();
     joinCleanupThread();
 }
@@ -110,6 +118,7 @@ void AppModel::startScan()
     RunningScan scan{makeTask(m_services.scanners(), id), 0, m_services.now()};
     scan.outputsLeft = scan.task->scannerCount();
     m_progress->reset();
+    startStorageAnalysis();
     clearSelection();
     m_results.clear();
     for (CategoryID category : Categories::allCases())
@@ -126,10 +135,12 @@ void AppModel::startScan()
         finishScan(id);
 }
 
+// Stops the storage analysis too: it was started by the scan or walks beside it.
 void AppModel::stopScan()
 {
     for (auto& [id, scan] : m_scans)
         scan.task->cancel();
+    stopStorageAnalysis();
 }
 
 void AppModel::rescan(CategoryID category)

@@ -2,6 +2,7 @@
 
 #include "model/CleanupSession.h"
 #include "model/ScanTask.h"
+#include "storage/StorageAnalyzer.h"
 #include "vocabulary/CategoryResult.h"
 #include "vocabulary/ScanFilter.h"
 #include "vocabulary/SizeFilter.h"
@@ -19,6 +20,7 @@
 
 class SettingsStore;
 class StatsStore;
+class StorageTask;
 
 // The one owner of what the screens show: per-category results, the selection, the running
 // scan and rescans, and the system figures. Scanners run on worker threads and hand their
@@ -45,6 +47,10 @@ public:
         std::function<std::optional<QString>()> emptyTrash;
         // Bytes in the Trash now; absent when it can't be measured. Runs on a worker thread.
         std::function<std::optional<qint64>(const QString& home)> measureTrash;
+        // The storage analysis; absent when cancelled. Runs on the analysis's worker thread.
+        std::function<std::optional<StorageReport>(const StorageAnalyzer::Request&)> analyzeStorage;
+        // Bytes in use on the home's volume; absent when unknown. Runs on a worker thread.
+        std::function<std::optional<qint64>(const QString& home)> diskUsed;
     };
     static Services defaultServices();
 
@@ -70,6 +76,16 @@ public:
     CategoryResult result(CategoryID category) const;
     std::shared_ptr<ScanProgress> progress() const { return m_progress; }
     const SystemState& systemState() const { return m_systemState; }
+
+    // --- Storage (AppModelStorage.cpp)
+    // Starts an analysis of the home, replacing one that runs; a full scan starts one too.
+    void startStorageAnalysis();
+    void stopStorageAnalysis();
+    bool isAnalyzingStorage() const;
+    // The last finished analysis; kept until the next one finishes.
+    const std::optional<StorageReport>& storageReport() const { return m_storageReport; }
+    // Puts a folder on the Safe List: nothing inside it is shown by scans any more.
+    void addFolderToSafeList(const QString& path);
 
     // --- Selection
     bool isSelected(const QString& id) const { return m_selection.contains(id); }
@@ -129,6 +145,7 @@ signals:
     void selectionChanged();
     void systemStateChanged();
     void toastChanged(const QString& text);
+    void storageChanged();
 
 private:
     struct RunningScan {
@@ -164,6 +181,11 @@ private:
     template <typename Work>
     void onWorker(Work work);
 
+    void storageFinished(quint64 generation, const std::optional<StorageReport>& report);
+
+    std::map<quint64, std::unique_ptr<StorageTask>> m_storageTasks;  // the current one and stopped ones
+    quint64 m_storageGeneration = 0;                                  // the current one's key
+    std::optional<StorageReport> m_storageReport;
     SystemState m_systemState;
     QString m_toast;
     std::unique_ptr<CleanupSession> m_cleanup;

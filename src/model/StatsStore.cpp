@@ -229,3 +229,8 @@ void StatsStore::recordStorage(const QMap<QString, qint64>& totals, qint64 notMe
     m_stats.lastStorage = StorageSummary{m_clock(), totals, notMeasured};
     didChange();
 }
+
+void StatsStore::recordStorage(const StorageReport& report)
+{
+    recordStorage(report.rawTotals(), report.notMeasured());
+}

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "vocabulary/CategoryID.h"
+#include "storage/StorageReport.h"
 #include "vocabulary/CategoryResult.h"
 
 #include <QDateTime>
@@ -83,6 +84,8 @@ public:
     void recordCleanup(qint64 movedToTrash, qint64 removedByTools, qint64 items);
     // One storage analysis: bytes per bucket raw value and the bytes it could not attribute.
     void recordStorage(const QMap<QString, qint64>& totals, qint64 notMeasured);
+    // The same from a report: its totals and the used space it could not attribute.
+    void recordStorage(const StorageReport& report);
     void save();
 
 signals:

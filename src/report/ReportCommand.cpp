@@ -1,6 +1,9 @@
 #include "report/ReportCommand.h"
 
+#include "actions/DiskSpace.h"
+#include "actions/SystemAccess.h"
 #include "model/SettingsStore.h"
+#include "report/StorageReportOutput.h"
 #include "report/ScanRunner.h"
 #include "scan/ScannerCatalog.h"
 #include "vocabulary/ScanFilter.h"
@@ -75,6 +78,34 @@ ScanReport::Results scan(const ReportOptions& options, const Protection& protect
     return results;
 }
 
+std::optional<StorageReport> storage(const ReportOptions& options)
+{
+    StorageAnalyzer::Request request;
+    request.home = standardized(options.home.value_or(QDir::homePath()));
+    request.fullDiskAccess = SystemAccess::hasFullDiskAccess(request.home);
+    request.diskUsed = [home = request.home]() -> std::optional<qint64> {
+        const auto disk = DiskSpace::current(home);
+        return disk ? std::optional<qint64>(disk->total - disk->available) : std::nullopt;
+    };
+    return StorageAnalyzer::analyze(request);
+}
+
+namespace {
+
+int printStorage(const ReportOptions& options)
+{
+    const auto report = storage(options);
+    if (!report)
+        return 1;
+    const QByteArray out = options.json
+        ? QJsonDocument(StorageReportOutput::toJson(*report)).toJson(QJsonDocument::Indented)
+        : StorageReportOutput::toText(*report);
+    std::fwrite(out.constData(), 1, static_cast<size_t>(out.size()), stdout);
+    return 0;
+}
+
+}  // namespace
+
 int run(const QStringList& arguments)
 {
     QString error;
@@ -83,6 +114,8 @@ int run(const QStringList& arguments)
         std::fprintf(stderr, "%s\n", qPrintable(error));
         return 2;
     }
+    if (options->command == ReportOptions::Command::storage)
+        return printStorage(*options);
     // With --home the fixture home stands alone: the person's Safe List does not apply.
     QSettings settings(QStringLiteral("Dustlark"), QStringLiteral("Dustlark"));
     const Protection protection = options->home ? Protection{} : storedProtection(&settings);

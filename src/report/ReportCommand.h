@@ -2,6 +2,7 @@
 
 #include "report/ReportOptions.h"
 #include "report/ScanReport.h"
+#include "storage/StorageAnalyzer.h"
 
 #include <QSet>
 #include <QSettings>
@@ -21,6 +22,10 @@ struct Protection {
 Protection storedProtection(QSettings* settings);
 
 ScanReport::Results scan(const ReportOptions& options, const Protection& protection);
+
+// The storage analysis of `options.home` (the person's home by default) with the volume's used
+// space; absent only if it was cancelled.
+std::optional<StorageReport> storage(const ReportOptions& options);
 
 // Runs the command and returns the exit status; output goes to stdout, errors to stderr.
 int run(const QStringList& arguments);

@@ -4,24 +4,29 @@
 
 QString ReportOptions::usage()
 {
-    return QStringLiteral("usage: dustlark-cli scan [--home DIR] [--root DIR]... [--category RAW]... [--json]");
+    return QStringLiteral("usage: dustlark-cli scan [--home DIR] [--root DIR]... [--category RAW]... [--json]"
+                          " | storage [--home DIR] [--json]");
 }
 
 std::optional<ReportOptions> ReportOptions::parse(const QStringList& arguments, QString* error)
 {
-    if (arguments.isEmpty() || arguments.first() != QLatin1String("scan")) {
+    const QString command = arguments.value(0);
+    if (command != QLatin1String("scan") && command != QLatin1String("storage")) {
         *error = usage();
         return std::nullopt;
     }
     ReportOptions options;
+    options.command = command == QLatin1String("storage") ? Command::storage : Command::scan;
     for (int i = 1; i < arguments.size(); ++i) {
         const QString& argument = arguments.at(i);
         if (argument == QLatin1String("--json")) {
             options.json = true;
             continue;
         }
-        const bool takesValue = argument == QLatin1String("--home") || argument == QLatin1String("--root")
-            || argument == QLatin1String("--category");
+        // The storage analysis walks the whole home: scan folders and categories don't apply.
+        const bool takesValue = argument == QLatin1String("--home")
+            || (options.command == Command::scan
+                && (argument == QLatin1String("--root") || argument == QLatin1String("--category")));
         if (!takesValue) {
             //: Error of the report tool; %1 is the argument it did not understand
             *error = QCoreApplication::translate("ReportOptions", "Unknown argument \"%1\".").arg(argument) + QLatin1Char(' ') + usage();

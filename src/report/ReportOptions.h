@@ -8,8 +8,12 @@
 
 #include <optional>
 
-// The report tool's command line: scan [--home DIR] [--root DIR]... [--category RAW]... [--json]
+// The report tool's command line: scan [--home DIR] [--root DIR]... [--category RAW]... [--json],
+// or storage [--home DIR] [--json].
 struct ReportOptions {
+    enum class Command { scan, storage };
+
+    Command command = Command::scan;
     std::optional<QString> home;
     QStringList roots;
     QList<CategoryID> categories;  // empty: every category

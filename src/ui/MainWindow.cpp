@@ -5,10 +5,12 @@
 #include "model/AppModel.h"
 #include "ui/CategoryPage.h"
 #include "ui/CleanupSheet.h"
+#include "ui/LargeFoldersPage.h"
 #include "ui/OverviewPage.h"
 #include "ui/QuitRequests.h"
 #include "ui/SafeListPage.h"
 #include "ui/Sidebar.h"
+#include "ui/StoragePage.h"
 #include "ui/Toast.h"
 
 #include <QAction>
@@ -45,6 +47,8 @@ MainWindow::MainWindow(AppModel* model, QWidget* parent)
     overview->setOpenFullDiskAccess([] { SystemAccess::openFullDiskAccessSettings(); });
     setScreenPage(Kind::overview, overview);
     setScreenPage(Kind::safeList, new SafeListPage(m_model, this));
+    setScreenPage(Kind::storage, new StoragePage(m_model, this));
+    setScreenPage(Kind::largeFolders, new LargeFoldersPage(m_model, this));
 
     connect(m_sidebar, &Sidebar::destinationChosen, this, &MainWindow::choose);
     connect(m_model, &AppModel::resultsChanged, this, &MainWindow::updateSidebarCategory);

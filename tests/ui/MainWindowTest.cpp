@@ -66,6 +66,9 @@ TEST(MainWindow, ScanShowsProgressThenFillsListsAndSizes)
     EXPECT_EQ(fixture.window().scanAction()->text(), "Stop");
     EXPECT_TRUE(fixture.window().sidebar()->isCategoryBusy(CategoryID::projects));
     EXPECT_FALSE(fixture.window().sidebar()->isCategoryBusy(CategoryID::logs));
+    // The storage analysis the scan started shares the progress; let it count its entries first.
+    ASSERT_TRUE(waitUntil([&] { return !fixture.model().isAnalyzingStorage(); }));
+    fixture.model().progress()->reset();
     fixture.model().progress()->addEntries(12'345);
     fixture.model().progress()->setCurrentFolder("~/web/dist");
     EXPECT_TRUE(waitUntil([&] {

@@ -1,0 +1,343 @@
+#include "storage/StorageWalker.h"
+
+#include "machinery/ScanProgress.h"
+#include "storage/FolderTally.h"
+#include "storage/FolderUsageBuilder.h"
+
+#include <QFile>
+
+#include <fts.h>
+#include <memory>
+#include <sys/stat.h>
+#include <vector>
+
+namespace {
+
+constexpr qint64 progressBatch = 4096;
+
+enum class EntryKind { folder, folderDone, file, unreadable };
+
+struct Entry {
+    EntryKind kind;
+    QByteArrayView path;
+    const struct stat* status;  // null when the entry could not be read at all
+};
+
+QByteArrayView nameOf(QByteArrayView path)
+{
+    return path.sliced(path.lastIndexOf('/') + 1);
+}
+
+QByteArrayView parentOf(QByteArrayView path)
+{
+    const qsizetype slash = path.lastIndexOf('/');
+    return slash <= 0 ? path.first(slash < 0 ? 0 : 1) : path.first(slash);
+}
+
+qint64 allocated(const struct stat& status)
+{
+    return static_cast<qint64>(status.st_blocks) * 512;
+}
+
+// The one traversal of the walk: fts in physical, no-chdir, one-volume mode. A folder on another
+// device is skipped unseen. `visit` returns false to stop; so does this function.
+template <typename Visit>
+bool traverse(const QByteArray& root, Visit visit)
+{
+    QByteArray path = root;
+    char* roots[] = {path.data(), nullptr};
+    FTS* tree = ::fts_open(roots, FTS_PHYSICAL | FTS_NOCHDIR | FTS_XDEV, nullptr);
+    if (!tree)
+        return true;
+    dev_t device = 0;
+    bool going = true;
+    while (going) {
+        FTSENT* entry = ::fts_read(tree);
+        if (!entry)
+            break;
+        const QByteArrayView at(entry->fts_path, entry->fts_pathlen);
+        if (entry->fts_level == FTS_ROOTLEVEL && entry->fts_info != FTS_NS && entry->fts_info != FTS_ERR)
+            device = entry->fts_statp->st_dev;
+        switch (entry->fts_info) {
+        case FTS_D:
+            if (entry->fts_statp->st_dev != device) {
+                ::fts_set(tree, entry, FTS_SKIP);  // a mount point: its blocks belong to another volume
+                break;
+            }
+            going = visit(Entry{EntryKind::folder, at, entry->fts_statp});
+            break;
+        case FTS_DP:
+            if (entry->fts_statp->st_dev == device)
+                going = visit(Entry{EntryKind::folderDone, at, entry->fts_statp});
+            break;
+        case FTS_F:
+        case FTS_SL:
+        case FTS_SLNONE:
+        case FTS_DEFAULT:
+            going = visit(Entry{EntryKind::file, at, entry->fts_statp});
+            break;
+        case FTS_DNR:
+            going = visit(Entry{EntryKind::unreadable, at, entry->fts_statp});
+            break;
+        case FTS_NS:
+        case FTS_ERR:
+            going = visit(Entry{EntryKind::unreadable, at, nullptr});
+            break;
+        default:
+            break;  // a folder met again through a cycle: counted where it was first seen
+        }
+    }
+    ::fts_close(tree);
+    return going;
+}
+
+// One walk in progress: the open folders, the root's own usage per bucket and the partial.
+class Walking {
+public:
+    Walking(const BucketRules& rules, ScanProgress* progress, const CancellationToken* cancellation)
+        : m_rules(rules), m_progress(progress), m_cancellation(cancellation) {}
+
+    StoragePartial run(const QByteArray& root);
+
+private:
+    struct Frame {
+        FolderTally tally;
+        bool package = false;
+        FolderUsageBuilder* usage = nullptr;  // null: the root's usage of each file's bucket
+        std::unique_ptr<FolderUsageBuilder> ownUsage;
+        QByteArray group;  // "" directly in the usage's folder
+    };
+
+    bool visit(const Entry& entry);
+    void enterFolder(const Entry& entry);
+    Frame makeFrame(QByteArrayView path) const;
+    void leaveFolder(const Entry& entry);
+    void addFile(const Entry& entry);
+    void addUnreadable(const Entry& entry);
+    bool isRepeatedLink(const struct stat& status, StorageBucket bucket, qint64 bytes);
+    FolderUsageBuilder& usageFor(StorageBucket bucket);
+    void keep(StorageBucket bucket, StorageReport::FolderUsage usage);
+    void keep(StorageReport::LargeFolder folder);
+    bool countEntry(QByteArrayView path);
+    void finish(bool stopped);
+
+    const BucketRules& m_rules;
+    ScanProgress* m_progress;
+    const CancellationToken* m_cancellation;
+    QByteArray m_rootUsagePath;
+    std::vector<Frame> m_frames;
+    std::array<std::unique_ptr<FolderUsageBuilder>, StorageBuckets::count> m_rootUsage;
+    StoragePartial m_partial;
+    qint64 m_entries = 0;
+};
+
+StoragePartial Walking::run(const QByteArray& root)
+{
+    m_rootUsagePath = root;
+    const bool finished = traverse(root, [this](const Entry& entry) { return visit(entry); });
+    finish(!finished);
+    return std::move(m_partial);
+}
+
+bool Walking::visit(const Entry& entry)
+{
+    switch (entry.kind) {
+    case EntryKind::folder:
+        enterFolder(entry);
+        break;
+    case EntryKind::folderDone:
+        leaveFolder(entry);
+        return true;  // counted when entered
+    case EntryKind::file:
+        addFile(entry);
+        break;
+    case EntryKind::unreadable:
+        addUnreadable(entry);
+        break;
+    }
+    return countEntry(entry.path);
+}
+
+void Walking::enterFolder(const Entry& entry)
+{
+    Frame frame = makeFrame(entry.path);
+    const StorageBucket bucket = frame.tally.kind.value_or(StorageBucket::other);
+    const qint64 bytes = allocated(*entry.status);
+    m_partial.totals.at(static_cast<size_t>(bucket)) += bytes;
+    frame.tally.addOwnBlocks(bucket, bytes);
+    (frame.usage ? *frame.usage : usageFor(bucket)).addBytes(bytes);
+    m_frames.push_back(std::move(frame));
+}
+
+// A folder inherits its parent's bucket, package and usage; a forced bucket of its own (by name
+// outside any forced folder, by a full-path row anywhere outside a package) starts a new usage.
+Walking::Frame Walking::makeFrame(QByteArrayView path) const
+{
+    const Frame* parent = m_frames.empty() ? nullptr : &m_frames.back();
+    const QByteArrayView name = nameOf(path);
+    Frame frame;
+    frame.package = BucketRules::isPackage(name);
+    if (parent) {
+        frame.tally.kind = parent->tally.kind;
+        frame.tally.insidePackage = parent->package || parent->tally.insidePackage;
+        frame.tally.listable = !frame.tally.insidePackage;
+        frame.usage = parent->usage;
+        frame.group = parent->group.isEmpty() ? BucketRules::groupFolder(name) : parent->group;
+    }
+    if (frame.tally.insidePackage)
+        return frame;
+    const auto forced = frame.tally.kind ? m_rules.pathBucket(path) : m_rules.forcedBucket(path, name, parentOf(path));
+    if (forced && forced != frame.tally.kind) {
+        frame.tally.kind = forced;
+        frame.ownUsage = std::make_unique<FolderUsageBuilder>(QFile::decodeName(path.toByteArray()));
+        frame.usage = frame.ownUsage.get();
+        frame.group.clear();
+    }
+    return frame;
+}
+
+void Walking::leaveFolder(const Entry& entry)
+{
+    Frame frame = std::move(m_frames.back());
+    m_frames.pop_back();
+    const bool listed = frame.tally.isLarge();
+    if (listed) {
+        keep(StorageReport::LargeFolder{QFile::decodeName(entry.path.toByteArray()), frame.tally.unlistedBytes,
+                                        frame.tally.unlistedFiles, frame.tally.unlistedSmallBytes,
+                                        frame.tally.listedKind()});
+    }
+    if (!m_frames.empty())
+        m_frames.back().tally.absorb(frame.tally, listed);
+    if (frame.ownUsage)
+        keep(*frame.tally.kind, std::move(*frame.ownUsage).finish());
+}
+
+void Walking::addFile(const Entry& entry)
+{
+    const Frame* frame = m_frames.empty() ? nullptr : &m_frames.back();
+    const StorageBucket bucket = frame && frame->tally.kind ? *frame->tally.kind : BucketRules::bucket(nameOf(entry.path));
+    const qint64 bytes = allocated(*entry.status);
+    if (isRepeatedLink(*entry.status, bucket, bytes))
+        return;
+    if (!frame) {  // the root is a file: it belongs to the folder that holds it
+        m_rootUsagePath = parentOf(entry.path).toByteArray();
+        usageFor(bucket).addFile(bytes, {}, false, [&] { return QFile::decodeName(entry.path.toByteArray()); });
+        return;
+    }
+    m_frames.back().tally.addFile(bucket, bytes);
+    FolderUsageBuilder& usage = frame->usage ? *frame->usage : usageFor(bucket);
+    usage.addFile(bytes, frame->group, StorageBuckets::hasSubfolders(bucket),
+                  [&] { return QFile::decodeName(entry.path.toByteArray()); });
+}
+
+// A file with more hard links is counted once per walk here and once per report by the merge,
+// which adds its bytes to the totals.
+bool Walking::isRepeatedLink(const struct stat& status, StorageBucket bucket, qint64 bytes)
+{
+    if (status.st_nlink < 2) {
+        m_partial.totals.at(static_cast<size_t>(bucket)) += bytes;
+        return false;
+    }
+    const FileKey key{static_cast<qint32>(status.st_dev), static_cast<quint64>(status.st_ino)};
+    if (m_partial.links.contains(key))
+        return true;
+    m_partial.links.insert(key, {bucket, bytes});
+    return false;
+}
+
+// Unreadable folders are skipped; their own blocks are counted where they stand, and what they
+// hold falls into the space the analysis cannot attribute.
+void Walking::addUnreadable(const Entry& entry)
+{
+    ++m_partial.unreadableFolders;
+    if (!entry.status)
+        return;
+    const StorageBucket bucket = m_frames.empty() ? StorageBucket::other
+                                                  : m_frames.back().tally.kind.value_or(StorageBucket::other);
+    const qint64 bytes = allocated(*entry.status);
+    m_partial.totals.at(static_cast<size_t>(bucket)) += bytes;
+    if (m_frames.empty())
+        return;
+    m_frames.back().tally.addOwnBlocks(bucket, bytes);
+    (m_frames.back().usage ? *m_frames.back().usage : usageFor(bucket)).addBytes(bytes);
+}
+
+FolderUsageBuilder& Walking::usageFor(StorageBucket bucket)
+{
+    auto& usage = m_rootUsage.at(static_cast<size_t>(bucket));
+    if (!usage)
+        usage = std::make_unique<FolderUsageBuilder>(QFile::decodeName(m_rootUsagePath));
+    return *usage;
+}
+
+// Keeps a finished folder; a bucket's list is cut back to the kept number whenever it reaches
+// twice that, so a home of many small projects stays small in memory.
+void Walking::keep(StorageBucket bucket, StorageReport::FolderUsage usage)
+{
+    auto& folders = m_partial.folders.at(static_cast<size_t>(bucket));
+    auto found = folders.find(usage.path);
+    if (found != folders.end()) {
+        FolderUsageBuilder::merge(*found, std::move(usage));
+        return;
+    }
+    folders.insert(usage.path, std::move(usage));
+    if (folders.size() < 2 * StorageReport::foldersKept)
+        return;
+    QList<StorageReport::FolderUsage> kept = folders.values();
+    FolderUsageBuilder::sortAndCut(kept, StorageReport::foldersKept);
+    folders.clear();
+    for (StorageReport::FolderUsage& each : kept)
+        folders.insert(each.path, std::move(each));
+}
+
+void Walking::keep(StorageReport::LargeFolder folder)
+{
+    QList<StorageReport::LargeFolder>& large = m_partial.largeFolders;
+    large.append(std::move(folder));
+    if (large.size() < 2 * StorageReport::largeFoldersKept)
+        return;
+    std::sort(large.begin(), large.end(), [](const auto& a, const auto& b) { return a.bytes > b.bytes; });
+    large.resize(StorageReport::largeFoldersKept);
+}
+
+// Counts one entry; at every full batch publishes it and answers whether to go on.
+bool Walking::countEntry(QByteArrayView path)
+{
+    if (++m_entries % progressBatch != 0)
+        return true;
+    if (m_progress) {
+        m_progress->addEntries(progressBatch);
+        m_progress->setCurrentFolder(QFile::decodeName(parentOf(path).toByteArray()));
+    }
+    return !(m_cancellation && m_cancellation->isCancelled());
+}
+
+void Walking::finish(bool stopped)
+{
+    if (m_progress && m_entries % progressBatch != 0)
+        m_progress->addEntries(m_entries % progressBatch);
+    // A stopped walk leaves folders open; their usages still hold what was counted.
+    while (!m_frames.empty()) {
+        Frame frame = std::move(m_frames.back());
+        m_frames.pop_back();
+        if (frame.ownUsage)
+            keep(*frame.tally.kind, std::move(*frame.ownUsage).finish());
+    }
+    for (StorageBucket bucket : StorageBuckets::allCases()) {
+        if (auto& usage = m_rootUsage.at(static_cast<size_t>(bucket)))
+            keep(bucket, std::move(*usage).finish());
+    }
+    m_partial.complete = !stopped;
+}
+
+}  // namespace
+
+StorageWalker::StorageWalker(const BucketRules& rules, ScanProgress* progress, const CancellationToken* cancellation)
+    : m_rules(rules), m_progress(progress), m_cancellation(cancellation)
+{
+}
+
+StoragePartial StorageWalker::walk(const QByteArray& root) const
+{
+    return Walking(m_rules, m_progress, m_cancellation).run(root);
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "machinery/CancellationToken.h"
+#include "storage/BucketRules.h"
+#include "storage/StoragePartial.h"
+
+#include <QByteArray>
+
+class ScanProgress;
+
+// Walks one root of the storage analysis: physically (symbolic links are never followed),
+// without changing the working directory, on the root's volume only (a disk mounted inside is
+// not counted). Every entry is counted by its allocated size into the bucket of the folder that
+// forces one, or of its own extension; folders big because of small files are listed on the way
+// up. Only the per-bucket lists stay in memory, not the tree. One walker serves one thread;
+// `progress` and `cancellation` may be null.
+class StorageWalker {
+public:
+    StorageWalker(const BucketRules& rules, ScanProgress* progress, const CancellationToken* cancellation);
+
+    // A missing or unreadable root gives an empty partial.
+    [[nodiscard]] StoragePartial walk(const QByteArray& root) const;
+
+private:
+    const BucketRules& m_rules;
+    ScanProgress* m_progress;
+    const CancellationToken* m_cancellation;
+};

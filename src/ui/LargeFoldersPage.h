@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QWidget>
+
+class AppModel;
+class QTreeWidget;
+class SizeBarDelegate;
+
+// The Large Folders screen: the folders that are big because they hold thousands of small
+// files, largest first, with their size, file count, share of small files and kind. Shows the
+// model's last storage report; GUI thread only.
+class LargeFoldersPage : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit LargeFoldersPage(AppModel* model, QWidget* parent = nullptr);
+
+    QTreeWidget* list() const { return m_list; }
+
+private:
+    void refresh();
+    void showMenu(const QPoint& at);
+
+    AppModel* m_model;
+    QTreeWidget* m_list;
+    SizeBarDelegate* m_bars;
+};

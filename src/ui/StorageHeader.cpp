@@ -1,0 +1,94 @@
+#include "ui/StorageHeader.h"
+
+#include "format/RelativeDate.h"
+#include "model/AppModel.h"
+#include "model/SettingsStore.h"
+#include "ui/PageLabels.h"
+#include "vocabulary/PathRules.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+StorageHeader::StorageHeader(AppModel* model, const QString& title, const QString& explanation, QWidget* parent)
+    : QWidget(parent), m_model(model), m_status(PageLabels::note({}, this)), m_button(new QPushButton(this)),
+      m_notes(new QVBoxLayout)
+{
+    auto* top = new QHBoxLayout;
+    top->addWidget(PageLabels::title(title, this), 1);
+    top->addWidget(m_button, 0, Qt::AlignVCenter);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(6);
+    layout->addLayout(top);
+    layout->addWidget(PageLabels::body(explanation, this));
+    layout->addWidget(m_status);
+    m_notes->setSpacing(4);
+    layout->addLayout(m_notes);
+    m_progressTimer.setInterval(250);
+    connect(&m_progressTimer, &QTimer::timeout, this, &StorageHeader::pollProgress);
+    connect(m_button, &QPushButton::clicked, this, [this] {
+        if (m_model->isAnalyzingStorage())
+            m_model->stopStorageAnalysis();
+        else
+            m_model->startStorageAnalysis();
+    });
+    connect(m_model, &AppModel::storageChanged, this, &StorageHeader::refresh);
+    refresh();
+}
+
+void StorageHeader::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (!m_model->storageReport() && !m_model->isAnalyzingStorage())
+        m_model->startStorageAnalysis();
+}
+
+void StorageHeader::refresh()
+{
+    const bool running = m_model->isAnalyzingStorage();
+    //: Button of the storage screens while an analysis runs
+    const QString stop = tr("Stop");
+    //: Button of the storage screens: measure the disk again
+    const QString again = tr("Measure Again");
+    //: Button of the storage screens before any analysis
+    const QString first = tr("Measure Disk");
+    m_button->setText(running ? stop : m_model->storageReport() ? again : first);
+    if (running) {
+        m_progressTimer.start();
+        pollProgress();
+    } else {
+        m_progressTimer.stop();
+        const auto& report = m_model->storageReport();
+        if (report)
+            //: Status line of the storage screens; %1 is a relative date ("5 minutes ago")
+            m_status->setText(tr("Measured %1.").arg(RelativeDate::format(report->date)));
+        else
+            //: Status line of the storage screens before any analysis
+            m_status->setText(tr("Not measured yet. Measuring reads your home folder; it changes nothing."));
+    }
+    refreshNotes();
+}
+
+void StorageHeader::refreshNotes()
+{
+    while (QLayoutItem* item = m_notes->takeAt(0)) {
+        delete item->widget();
+        delete item;
+    }
+    if (!m_model->storageReport())
+        return;
+    for (const QString& note : m_model->storageReport()->notes) {
+        QLabel* label = PageLabels::body(QStringLiteral("⚠ ") + note, this);
+        m_notes->addWidget(label);
+    }
+}
+
+void StorageHeader::pollProgress()
+{
+    const ScanProgress::Snapshot snapshot = m_model->progress()->snapshot();
+    const QString folder = PathRules::withTilde(snapshot.currentFolder, m_model->settings()->home());
+    //: Status line while the disk is measured; %1 is a number of files and folders, %2 the folder being read
+    m_status->setText(tr("Measuring… %1 items looked at · %2").arg(QLocale().toString(snapshot.entries), folder));
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+
+class AppModel;
+class QLabel;
+class QPushButton;
+class QVBoxLayout;
+
+// The top of the Storage and Large Folders screens: the title, when the disk was last measured
+// or how far the running analysis has come, the notes of the report, and the button that
+// starts (or stops) an analysis; shown before any analysis, it starts one. Polls the shared progress while an analysis runs.
+class StorageHeader : public QWidget {
+    Q_OBJECT
+
+public:
+    StorageHeader(AppModel* model, const QString& title, const QString& explanation, QWidget* parent = nullptr);
+
+    QPushButton* button() const { return m_button; }
+    QLabel* status() const { return m_status; }
+
+protected:
+    // The first time a storage screen is shown without a report, it measures at once.
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void refresh();
+    void refreshNotes();
+    void pollProgress();
+
+    AppModel* m_model;
+    QLabel* m_status;
+    QPushButton* m_button;
+    QVBoxLayout* m_notes;
+    QTimer m_progressTimer;
+};

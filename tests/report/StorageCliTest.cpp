@@ -1,0 +1,94 @@
+// `dustlark-cli storage` over a fixture home, held to du: the bucket totals add up to the
+// allocated bytes of the walked roots, and the folder of many small files is listed once.
+#include "support/TempTree.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+namespace {
+
+QByteArray runCli(const QStringList& arguments, int* exitCode)
+{
+    QProcess process;
+    process.start(QStringLiteral(DUSTLARK_CLI), arguments);
+    process.waitForFinished(120'000);
+    *exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    return process.readAllStandardOutput();
+}
+
+qint64 du(const QStringList& paths)
+{
+    QProcess process;
+    process.start(QStringLiteral("du"), QStringList{QStringLiteral("-s"), QStringLiteral("-B1")} + paths);
+    process.waitForFinished(60'000);
+    qint64 sum = 0;
+    for (const QByteArray& line : process.readAllStandardOutput().split('\n'))
+        sum += line.split('\t').first().toLongLong();
+    return sum;
+}
+
+// Many small files quickly: one open and write each, no Qt file object.
+void smallFiles(const QString& folder, int count, qint64 size)
+{
+    QDir().mkpath(folder);
+    const QByteArray content(size, 'x');
+    for (int i = 0; i < count; ++i) {
+        const int descriptor = ::open(QFile::encodeName(folder + QStringLiteral("/m%1.js").arg(i)).constData(),
+                                      O_WRONLY | O_CREAT | O_TRUNC, 0644);
+        ASSERT_EQ(::write(descriptor, content.constData(), size), size);
+        ::close(descriptor);
+    }
+}
+
+}  // namespace
+
+TEST(StorageCli, BucketTotalsMatchDuAndTheSmallFilesFolderIsListedOnce)
+{
+    TempTree tree;
+    const QString home = tree.dir(QStringLiteral("home"));
+    smallFiles(home + "/code/app/node_modules/big", 1'000, 100'000);
+    smallFiles(home + "/code/app/node_modules/little", 20, 30'000);
+    tree.file(QStringLiteral("home/Pictures/a.jpg"), 300'000);
+    tree.file(QStringLiteral("home/Documents/b.pdf"), 2'000'000);
+    tree.hardlink(QStringLiteral("home/Music/b.pdf"), QStringLiteral("home/Documents/b.pdf"));
+    tree.file(QStringLiteral("home/Library/Caches/c.db"), 50'000);
+
+    int exitCode = -1;
+    const QJsonObject report = QJsonDocument::fromJson(runCli({"storage", "--home", home, "--json"}, &exitCode)).object();
+    ASSERT_EQ(exitCode, 0);
+    qint64 sum = 0;
+    qint64 previous = std::numeric_limits<qint64>::max();
+    for (const QJsonValue& bucket : report[QStringLiteral("buckets")].toArray()) {
+        const qint64 bytes = bucket[QStringLiteral("bytes")].toInteger();
+        EXPECT_LE(bytes, previous) << "largest first";
+        previous = bytes;
+        sum += bytes;
+    }
+    QStringList roots = {home + "/code", home + "/Pictures", home + "/Documents", home + "/Music", home + "/Library/Caches"};
+    if (QFileInfo::exists(QStringLiteral("/Applications")))
+        roots.prepend(QStringLiteral("/Applications"));
+    EXPECT_EQ(sum, du(roots));
+    EXPECT_EQ(report[QStringLiteral("measured")].toInteger(), sum);
+
+    const QJsonArray large = report[QStringLiteral("largeFolders")].toArray();
+    ASSERT_EQ(large.size(), 1) << "node_modules only holds the listed folder's bytes once";
+    EXPECT_EQ(large[0][QStringLiteral("path")].toString(), home + "/code/app/node_modules/big");
+    EXPECT_EQ(large[0][QStringLiteral("fileCount")].toInteger(), 1'000);
+    EXPECT_EQ(large[0][QStringLiteral("smallBytes")].toInteger(), 1'000 * du({home + "/code/app/node_modules/big/m0.js"}));
+    EXPECT_EQ(large[0][QStringLiteral("kind")].toString(), "developer");
+}
+
+TEST(StorageCli, StorageTakesOnlyTheHomeAndJson)
+{
+    int exitCode = -1;
+    runCli({"storage", "--root", "/tmp"}, &exitCode);
+    EXPECT_EQ(exitCode, 2);
+}
