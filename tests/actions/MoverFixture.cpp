@@ -28,13 +28,12 @@ void MoverFixture::SetUp()
     TrashFixture::SetUp();
     if (IsSkipped())
         return;
-    destination = qEnvironmentVariable(destinationVariable);
-    if (destination.isEmpty()) {
-        m_destinationDir = std::make_unique<QTemporaryDir>(QStringLiteral("/dev/shm/dustlark-move-XXXXXX"));
-        destination = m_destinationDir->path();
-    }
-    if (m_destinationDir && !m_destinationDir->isValid())
-        GTEST_SKIP() << "/dev/shm, the second file system these tests move to, is missing";
+    const QString disk = qEnvironmentVariable(destinationVariable, QStringLiteral("/dev/shm"));
+    m_destinationDir = std::make_unique<QTemporaryDir>(disk + QStringLiteral("/dustlark-move-XXXXXX"));
+    // A read-only disk takes no folder of its own for the test; it is the destination itself.
+    destination = m_destinationDir->isValid() ? m_destinationDir->path() : disk;
+    if (!QFileInfo(destination).isDir())
+        GTEST_SKIP() << qPrintable(disk) << ", the second file system these tests move to, is missing";
     if (deviceOf(destination) == deviceOf(home.root()))
         GTEST_SKIP() << "/dev/shm is on the same file system as the temporary folder here";
     moveEnvironment = Mover::Environment::current();
