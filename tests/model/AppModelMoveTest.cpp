@@ -1,6 +1,7 @@
 // The model's move: the real mover to /dev/shm, a second file system, with the real Trash.
 #include "actions/Mover.h"
 #include "support/ModelFixture.h"
+#include "support/RealMover.h"
 #include "support/TempTree.h"
 #include "support/Wait.h"
 #include "vocabulary/SharedScanFolders.h"
@@ -13,21 +14,6 @@
 #include <sys/stat.h>
 
 namespace {
-
-// Moves through the real mover scoped to `home`, with `copyTool` when one is given.
-void useRealMover(AppModel::Services& services, const QString& home, std::optional<Mover::CopyTool> copyTool = {})
-{
-    services.moveItem = [home, copyTool](const CleanupItem& item, const QString& destination,
-                                         const Mover::Progress& progress, const CancellationToken& stop) {
-        Mover::Environment environment = Mover::Environment::current();
-        environment.removal.home = home;
-        environment.removal.otherVolumeFolders.clear();
-        environment.removal.cancellation = &stop;
-        if (copyTool)
-            environment.copyTool = *copyTool;
-        return Mover::move(item, destination, progress, environment);
-    };
-}
 
 CleanupItem realRow(const TempTree& tree, const QString& relative)
 {
@@ -109,12 +95,8 @@ TEST_F(AppModelMove, QuittingStopsTheMoveAndRemovesTheUnfinishedCopyFirst)
 {
     home.file(QStringLiteral("Backups/phone/Manifest.db"), 200'000);
     const CleanupItem backup = realRow(home, QStringLiteral("Backups/phone"));
-    // Copies, then stalls the way a slow disk does until it is stopped.
-    const Mover::CopyTool stalling{QStringLiteral("/bin/sh"),
-                                   {QStringLiteral("-c"), QStringLiteral("cp -a -T -- \"$1\" \"$2\"; sleep 60"), QStringLiteral("copy")},
-                                   std::chrono::minutes(2)};
     ModelFixture fixture({}, home.root(), [&](AppModel::Services& services) {
-        useRealMover(services, home.root(), stalling);
+        useRealMover(services, home.root(), stallingCopyTool());
     });
     AppModel& model = fixture.model();
     show(model, {backup});
