@@ -1,7 +1,6 @@
 #include "actions/Mover.h"
 
 #include "actions/Fingerprint.h"
-#include "actions/MoverFiles.h"
 #include "actions/MoverReasons.h"
 #include "actions/MoverRun.h"
 #include "platform/Platform.h"
