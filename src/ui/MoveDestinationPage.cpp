@@ -17,6 +17,23 @@ MoveDestinationPage::MoveDestinationPage(AppModel* model, CleanupItem item, QWid
     : QWidget(parent), m_model(model), m_item(std::move(item)), m_destinationLabel(new QLabel(this)),
       m_problem(new QLabel(this)), m_choose(new QPushButton(this)), m_move(new QPushButton(this))
 {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(10);
+    addIntroduction(layout);
+    layout->addSpacing(6);
+    layout->addLayout(makeDestinationRow());
+    SheetText::makeBody(m_problem);
+    m_problem->hide();
+    layout->addWidget(m_problem);
+    layout->addStretch(1);
+    layout->addWidget(makeButtons());
+    connect(m_choose, &QPushButton::clicked, this, &MoveDestinationPage::openChooser);
+    connect(m_move, &QPushButton::clicked, this, [this] { emit moveConfirmed(m_destination); });
+}
+
+void MoveDestinationPage::addIntroduction(QVBoxLayout* layout)
+{
     //: Heading of the move sheet; %1 is the row's title
     auto* heading = new QLabel(tr("Move “%1” to another disk?").arg(m_item.title), this);
     SheetText::makeHeading(heading);
@@ -28,7 +45,13 @@ MoveDestinationPage::MoveDestinationPage(AppModel* model, CleanupItem item, QWid
     auto* facts = new QLabel(ByteCount::format(m_item.size) + QStringLiteral(" · ")
                                  + PathRules::withTilde(m_item.removal.paths().value(0), home), this);
     SheetText::makeSecondary(facts);
+    layout->addWidget(heading);
+    layout->addWidget(explanation);
+    layout->addWidget(facts);
+}
 
+QHBoxLayout* MoveDestinationPage::makeDestinationRow()
+{
     //: Label before the chosen destination folder of a move
     auto* to = new QLabel(tr("To:"), this);
     SheetText::makeSubheading(to);
@@ -42,9 +65,11 @@ MoveDestinationPage::MoveDestinationPage(AppModel* model, CleanupItem item, QWid
     row->addWidget(to);
     row->addWidget(m_destinationLabel, 1);
     row->addWidget(m_choose);
-    SheetText::makeBody(m_problem);
-    m_problem->hide();
+    return row;
+}
 
+QDialogButtonBox* MoveDestinationPage::makeButtons()
+{
     //: Button that starts the move to another disk
     m_move->setText(tr("Move"));
     m_move->setEnabled(false);
@@ -52,21 +77,8 @@ MoveDestinationPage::MoveDestinationPage(AppModel* model, CleanupItem item, QWid
     auto* buttons = new QDialogButtonBox(this);
     buttons->addButton(QDialogButtonBox::Cancel);
     buttons->addButton(m_move, QDialogButtonBox::AcceptRole);
-
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(10);
-    for (QWidget* widget : {static_cast<QWidget*>(heading), static_cast<QWidget*>(explanation), static_cast<QWidget*>(facts)})
-        layout->addWidget(widget);
-    layout->addSpacing(6);
-    layout->addLayout(row);
-    layout->addWidget(m_problem);
-    layout->addStretch(1);
-    layout->addWidget(buttons);
-
-    connect(m_choose, &QPushButton::clicked, this, &MoveDestinationPage::openChooser);
-    connect(m_move, &QPushButton::clicked, this, [this] { emit moveConfirmed(m_destination); });
     connect(buttons, &QDialogButtonBox::rejected, this, &MoveDestinationPage::cancelled);
+    return buttons;
 }
 
 void MoveDestinationPage::openChooser()

@@ -6,9 +6,12 @@
 #include <QWidget>
 
 class AppModel;
+class QDialogButtonBox;
 class QFileDialog;
+class QHBoxLayout;
 class QLabel;
 class QPushButton;
+class QVBoxLayout;
 
 // The first step of a move: which item, the folder chooser for the destination, and the checks'
 // sentence about the chosen folder before anything starts. The checks read the disk on a worker
@@ -35,6 +38,9 @@ signals:
     void cancelled();
 
 private:
+    void addIntroduction(QVBoxLayout* layout);
+    QHBoxLayout* makeDestinationRow();
+    QDialogButtonBox* makeButtons();
     void openChooser();
     void checked(const QString& folder, const std::optional<QString>& problem);
 
