@@ -32,6 +32,12 @@ AppModel::Services AppModel::defaultServices()
     services.now = [] { return QDateTime::currentDateTimeUtc(); };
     services.removeItem = [](const CleanupItem& item) { return Remover::remove(item); };
     services.emptyTrash = [] { return SystemAccess::emptyTrash(); };
+    services.moveItem = [](const CleanupItem& item, const QString& destination, const Mover::Progress& progress,
+                           const CancellationToken& stop) {
+        Mover::Environment environment = Mover::Environment::current();
+        environment.removal.cancellation = &stop;
+        return Mover::move(item, destination, progress, environment);
+    };
     services.measureTrash = [](const QString& home) -> std::optional<qint64> {
         const FileSizer::Measurement measurement = FileSizer::measure(SystemPlaces::trashFolder(home));
         if (!measurement.complete)
@@ -60,6 +66,8 @@ AppModel::~AppModel()
         task->cancel();
     stopCleanup();
     joinCleanupThread();
+    stopMove();
+    joinMoveThread();
 }
 
 bool AppModel::isBusyScanning() const
@@ -111,8 +119,8 @@ std::unique_ptr<ScanTask> AppModel::makeTask(std::vector<std::shared_ptr<const S
 
 void AppModel::startScan()
 {
-    // A scan replaces every list, so it waits until no cleanup sheet is open.
-    if (isBusyScanning() || m_cleanup)
+    // A scan replaces every list, so it waits until no cleanup or move sheet is open.
+    if (isBusyScanning() || m_cleanup || m_move)
         return;
     const QUuid id = QUuid::createUuid();
     RunningScan scan{makeTask(m_services.scanners(), id), 0, m_services.now()};
@@ -145,7 +153,7 @@ void AppModel::stopScan()
 
 void AppModel::rescan(CategoryID category)
 {
-    if (m_isScanning || isCategoryScanning(category) || isChangingFiles())
+    if (m_isScanning || isCategoryScanning(category) || isChangingFiles() || m_move)
         return;
     std::vector<std::shared_ptr<const Scanner>> chosen;
     for (const auto& scanner : m_services.scanners()) {

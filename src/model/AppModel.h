@@ -1,6 +1,8 @@
 #pragma once
 
+#include "actions/Mover.h"
 #include "model/CleanupSession.h"
+#include "model/MoveSession.h"
 #include "model/ScanTask.h"
 #include "storage/StorageAnalyzer.h"
 #include "vocabulary/CategoryResult.h"
@@ -51,6 +53,9 @@ public:
         std::function<std::optional<StorageReport>(const StorageAnalyzer::Request&)> analyzeStorage;
         // Bytes in use on the home's volume; absent when unknown. Runs on a worker thread.
         std::function<std::optional<qint64>(const QString& home)> diskUsed;
+        // Moves one item to another disk; runs on the move's worker thread.
+        std::function<Mover::Outcome(const CleanupItem&, const QString& destination, const Mover::Progress&,
+                                     const CancellationToken& stop)> moveItem;
     };
     static Services defaultServices();
 
@@ -137,6 +142,19 @@ public:
     const QString& trashMessage() const { return m_trashMessage; }
     std::optional<qint64> trashBytes() const { return m_trashBytes; }
 
+    // --- Move to another disk (AppModelMove.cpp)
+    MoveSession* moveSession() const { return m_move.get(); }
+    // Opens a session and starts moving `item` into `destination`; false, doing nothing, while
+    // a scan runs or a cleanup or another move is open.
+    bool startMove(const CleanupItem& item, const QString& destination);
+    void stopMove();
+    // Closes an ended move's session.
+    void closeMove();
+    // Answers `answer` on the GUI thread, unless `context` is gone by then, with the sentence
+    // that refuses `destination` for `item`, or nothing. The disk is read on a worker thread.
+    void checkMoveDestination(const CleanupItem& item, const QString& destination, QObject* context,
+                              std::function<void(std::optional<QString>)> answer);
+
 signals:
     void resultsChanged(CategoryID category);
     void cleanupChanged();
@@ -146,6 +164,7 @@ signals:
     void systemStateChanged();
     void toastChanged(const QString& text);
     void storageChanged();
+    void moveChanged();
 
 private:
     struct RunningScan {
@@ -195,4 +214,11 @@ private:
     bool m_isEmptyingTrash = false;
     QString m_trashMessage;
     std::optional<qint64> m_trashBytes;
+
+    void finishMove(const Mover::Outcome& outcome);
+    void joinMoveThread();
+    // Calls the quit completion once neither a cleanup nor a move changes files.
+    void finishQuitWhenIdle();
+    std::unique_ptr<MoveSession> m_move;
+    std::thread m_moveThread;
 };

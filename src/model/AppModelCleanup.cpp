@@ -18,7 +18,7 @@ void AppModel::onWorker(Work work)
 
 void AppModel::prepareCleanup()
 {
-    if (isBusyScanning() || m_cleanup)
+    if (isBusyScanning() || m_cleanup || m_move)
         return;
     const QList<CleanupItem> selected = selectedItems();
     const SelectionIndex index(selected);
@@ -93,8 +93,7 @@ void AppModel::finishCleanup(std::optional<qint64> freeAfter)
     if (session->removedContainers())
         rescan(CategoryID::docker);
     emit cleanupChanged();
-    if (m_quitCompletion)
-        std::exchange(m_quitCompletion, {})();
+    finishQuitWhenIdle();
 }
 
 void AppModel::joinCleanupThread()
@@ -136,7 +135,7 @@ void AppModel::removeFromResults(const CleanupItem& item)
 
 bool AppModel::isChangingFiles() const
 {
-    return m_cleanup && m_cleanup->phase() == CleanupSession::Phase::running;
+    return (m_cleanup && m_cleanup->phase() == CleanupSession::Phase::running) || (m_move && m_move->isRunning());
 }
 
 void AppModel::stopForQuit(std::function<void()> then)
@@ -147,6 +146,13 @@ void AppModel::stopForQuit(std::function<void()> then)
     }
     m_quitCompletion = std::move(then);
     stopCleanup();
+    stopMove();
+}
+
+void AppModel::finishQuitWhenIdle()
+{
+    if (m_quitCompletion && !isChangingFiles())
+        std::exchange(m_quitCompletion, {})();
 }
 
 void AppModel::emptyTrash()

@@ -4,6 +4,7 @@
 #include "model/SettingsStore.h"
 #include "ui/CategoryListModel.h"
 #include "ui/CategoryPage.h"
+#include "ui/MoveSheet.h"
 
 #include <QDesktopServices>
 #include <QFileInfo>
@@ -46,6 +47,10 @@ void CategoryPage::addRowActions(QMenu* menu, const CleanupItem& item)
         AIQuestions::copy(this, m_model, [one = m_questions.one, item] { return one(item); });
     });
     ask->setEnabled(bool(m_questions.one));
+    if (item.canMoveToAnotherDisk()) {
+        //: Row menu: copy this row's files to another disk, check the copy, then trash the original
+        menu->addAction(tr("Move to Another Disk…"), this, [this, item] { MoveSheet::open(m_model, item, window()); });
+    }
 }
 
 void CategoryPage::askAbout(const QModelIndex& index)

@@ -1,0 +1,50 @@
+#include "ui/MoveOutcomePage.h"
+
+#include "model/MoveSession.h"
+#include "ui/SheetText.h"
+
+#include <QDesktopServices>
+#include <QDialogButtonBox>
+#include <QFileInfo>
+#include <QLabel>
+#include <QPushButton>
+#include <QUrl>
+#include <QVBoxLayout>
+
+MoveOutcomePage::MoveOutcomePage(const MoveSession& session, QWidget* parent)
+    : QWidget(parent), m_title(new QLabel(this)), m_text(new QLabel(this)), m_done(new QPushButton(this))
+{
+    const Mover::Outcome outcome = session.outcome().value_or(Mover::Outcome{});
+    const QString name = session.item().title;
+    SheetText::makeHeading(m_title);
+    SheetText::makeBody(m_text);
+    auto* buttons = new QDialogButtonBox(this);
+    if (outcome.succeeded()) {
+        //: Heading of the move sheet after a move; %1 is the row's title
+        m_title->setText(tr("“%1” was moved").arg(name));
+        //: After a move: %1 is the new location; the original went to the Trash
+        m_text->setText(tr("It is now at %1. The original is in the Trash.").arg(outcome.destination));
+        //: Button that opens the folder holding the moved item in the file manager
+        m_show = buttons->addButton(tr("Show in Finder"), QDialogButtonBox::ActionRole);
+        const QString folder = QFileInfo(outcome.destination).path();
+        connect(m_show, &QPushButton::clicked, this, [folder] { QDesktopServices::openUrl(QUrl::fromLocalFile(folder)); });
+    } else {
+        // Not "wasn't moved": when only the Trash step failed, the verified copy is in place.
+        //: Heading of the move sheet when a move failed or was stopped; the text below says how far it came
+        m_title->setText(tr("The move didn't finish"));
+        m_text->setText(outcome.reason);
+    }
+    //: Button that closes the move sheet
+    m_done->setText(tr("Done"));
+    m_done->setDefault(true);
+    buttons->addButton(m_done, QDialogButtonBox::AcceptRole);
+    connect(m_done, &QPushButton::clicked, this, &MoveOutcomePage::done);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(10);
+    layout->addWidget(m_title);
+    layout->addWidget(m_text);
+    layout->addStretch(1);
+    layout->addWidget(buttons);
+}

@@ -1,0 +1,152 @@
+// Moves to disks that /dev/shm can't stand for: a real exFAT disk (FUSE on a loop device: no
+// exclusive rename, times kept to the second, no symbolic links), a tmpfs that fills up during
+// the copy and a read-only one. Each is mounted in a private mount namespace (unshare(1)); the
+// test binary re-runs itself there with DUSTLARK_MOVE_DESTINATION naming the mounted folder.
+#include "actions/MoverFixture.h"
+#include "actions/MoverReasons.h"
+#include "support/TempTree.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
+
+#include <unistd.h>
+
+namespace {
+
+constexpr int unavailable = 77;  // the setup script's exit status when the disk can't be made
+
+struct MountRun {
+    bool skipped = false;
+    QString reason;
+    int status = -1;
+    QString output;
+};
+
+// Runs `setup` (which mounts "$1" and then runs "$@" after a shift, cleaning up afterwards) and
+// the tests matching `filter` inside it.
+MountRun runMounted(const QString& setup, const QString& filter)
+{
+    const QString unshare = QStandardPaths::findExecutable(QStringLiteral("unshare"));
+    if (::geteuid() != 0 || unshare.isEmpty())
+        return {true, QStringLiteral("mounting a disk in a private namespace needs root and unshare(1)"), -1, {}};
+    TempTree tree;
+    const QString mountPoint = tree.dir(QStringLiteral("disk"));
+    QProcess child;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DUSTLARK_MOVE_DESTINATION"), mountPoint);
+    environment.insert(QStringLiteral("DUSTLARK_IMAGE"), tree.path(QStringLiteral("disk.img")));
+    child.setProcessEnvironment(environment);
+    child.setProcessChannelMode(QProcess::MergedChannels);
+    child.start(unshare, {QStringLiteral("--mount"), QStringLiteral("--propagation"), QStringLiteral("private"),
+                          QStringLiteral("sh"), QStringLiteral("-c"), setup, QStringLiteral("sh"), mountPoint,
+                          QCoreApplication::applicationFilePath(), QStringLiteral("--gtest_also_run_disabled_tests"),
+                          QStringLiteral("--gtest_filter=") + filter});
+    if (!child.waitForFinished(120'000))
+        return {false, {}, -1, QStringLiteral("timed out")};
+    MountRun run{false, {}, child.exitCode(), QString::fromLocal8Bit(child.readAll())};
+    if (run.status == unavailable)
+        return {true, QStringLiteral("this machine can't make that disk: ") + run.output.section('\n', 0, 0), run.status, {}};
+    return run;
+}
+
+void expectPassed(const MountRun& run)
+{
+    if (run.skipped)
+        GTEST_SKIP() << qPrintable(run.reason);
+    EXPECT_EQ(run.status, 0) << qPrintable(run.output);
+    EXPECT_TRUE(run.output.contains(QLatin1String("[  PASSED  ]"))) << qPrintable(run.output);
+    EXPECT_FALSE(run.output.contains(QLatin1String("[  SKIPPED ]"))) << qPrintable(run.output);
+}
+
+bool insideNamespace()
+{
+    return !qEnvironmentVariableIsEmpty("DUSTLARK_MOVE_DESTINATION");
+}
+
+const QString exfatSetup = QStringLiteral(
+    "command -v mkfs.exfat >/dev/null && command -v mount.exfat-fuse >/dev/null || { echo 'no exFAT tools'; exit 77; }\n"
+    "truncate -s 32M \"$DUSTLARK_IMAGE\" && mkfs.exfat \"$DUSTLARK_IMAGE\" >/dev/null 2>&1 || { echo 'mkfs failed'; exit 77; }\n"
+    "loop=$(losetup -f --show \"$DUSTLARK_IMAGE\" 2>&1) || { echo \"$loop\"; exit 77; }\n"
+    "mount.exfat-fuse \"$loop\" \"$1\" >/dev/null 2>&1 || { losetup -d \"$loop\"; echo 'FUSE mount failed'; exit 77; }\n"
+    "shift; \"$@\"; status=$?; umount \"$DUSTLARK_MOVE_DESTINATION\"; losetup -d \"$loop\"; exit $status\n");
+
+// Few inodes, so the copy of a folder of many small files runs out of room halfway.
+const QString smallTmpfsSetup = QStringLiteral(
+    "mount -t tmpfs -o size=4m,nr_inodes=40 dustlark-test \"$1\" || { echo 'tmpfs mount failed'; exit 77; }\n"
+    "shift; exec \"$@\"\n");
+
+const QString readOnlySetup = QStringLiteral(
+    "mount -t tmpfs -o ro dustlark-test \"$1\" || { echo 'tmpfs mount failed'; exit 77; }\n"
+    "shift; exec \"$@\"\n");
+
+}  // namespace
+
+TEST(MoverOnMountedDisks, ExFat)
+{
+    expectPassed(runMounted(exfatSetup, QStringLiteral("MoverFixture.DISABLED_OnExFat*")));
+}
+
+TEST(MoverOnMountedDisks, FillingUpAndReadOnly)
+{
+    expectPassed(runMounted(smallTmpfsSetup, QStringLiteral("MoverFixture.DISABLED_OnASmallDisk*")));
+    expectPassed(runMounted(readOnlySetup, QStringLiteral("MoverFixture.DISABLED_OnAReadOnlyDisk*")));
+}
+
+// ---- The sides that run inside the namespace
+
+TEST_F(MoverFixture, DISABLED_OnExFatCopiesWithCoarseTimesAndPlacesWithoutReplacing)
+{
+    if (!insideNamespace())
+        GTEST_SKIP() << "runs inside the namespace made by MoverOnMountedDisks";
+    home.file(QStringLiteral("Movies/trip/day1.mov"), 300'000, 'a');
+    home.file(QStringLiteral("Movies/trip/notes/list.txt"), QByteArray("sunscreen\n"));
+    const QString trip = home.path(QStringLiteral("Movies/trip"));
+    const auto before = snapshot(trip);
+    ASSERT_EQ(moveItem(trashItem({trip})), Mover::Outcome::moved(destination + QStringLiteral("/trip")));
+    EXPECT_EQ(snapshot(destination + QStringLiteral("/trip")), before);
+    EXPECT_EQ(destinationNames(), QStringList{QStringLiteral("trip")});
+
+    // Without exclusive rename the name is checked just before a plain rename.
+    const QString clip = home.file(QStringLiteral("Movies/clip.mov"), 1000);
+    moveEnvironment.copyTool = scriptTool(QStringLiteral("cp -r -- \"$1\" \"$2\" && echo theirs > \"%1/clip.mov\"").arg(destination));
+    EXPECT_EQ(moveItem(trashItem({clip})), Mover::Outcome::failed(Mover::Reasons::nameTaken(QStringLiteral("clip.mov"))));
+    EXPECT_EQ(QFileInfo(destination + QStringLiteral("/clip.mov")).size(), 7);
+    EXPECT_EQ(QFileInfo(clip).size(), 1000);
+}
+
+TEST_F(MoverFixture, DISABLED_OnExFatALinkThatCantBeCopiedLeavesNothing)
+{
+    if (!insideNamespace())
+        GTEST_SKIP() << "runs inside the namespace made by MoverOnMountedDisks";
+    const QString project = makeProject(QStringLiteral("Projects/atlas"));
+    moveEnvironment.copyTool = scriptTool(QStringLiteral("cp -r -P -- \"$1\" \"$2\""));
+    const Mover::Outcome outcome = moveItem(trashItem({project}));
+    EXPECT_TRUE(outcome.reason.startsWith(QStringLiteral("Copy failed: "))) << qPrintable(outcome.reason);
+    EXPECT_TRUE(destinationNames().isEmpty());
+    EXPECT_TRUE(QFileInfo::exists(project + QStringLiteral("/link")));
+}
+
+TEST_F(MoverFixture, DISABLED_OnASmallDiskThatFillsUpNothingIsLeft)
+{
+    if (!insideNamespace())
+        GTEST_SKIP() << "runs inside the namespace made by MoverOnMountedDisks";
+    for (int i = 0; i < 100; ++i)
+        home.file(QStringLiteral("Notes/%1.txt").arg(i), 10);
+    const QString notes = home.path(QStringLiteral("Notes"));
+    const Mover::Outcome outcome = moveItem(trashItem({notes}));
+    EXPECT_TRUE(outcome.reason.startsWith(QStringLiteral("Copy failed: "))) << qPrintable(outcome.reason);
+    EXPECT_TRUE(outcome.reason.contains(QStringLiteral("No space left on device"))) << qPrintable(outcome.reason);
+    EXPECT_TRUE(destinationNames().isEmpty());
+    EXPECT_EQ(QDir(notes).entryList(QDir::Files).size(), 100);
+}
+
+TEST_F(MoverFixture, DISABLED_OnAReadOnlyDiskNothingStarts)
+{
+    if (!insideNamespace())
+        GTEST_SKIP() << "runs inside the namespace made by MoverOnMountedDisks";
+    const QString file = home.file(QStringLiteral("file.bin"), 10);
+    expectUntouched(trashItem({file}), Mover::Reasons::destinationNotWritable());
+}

@@ -1,0 +1,169 @@
+// The move sheet over the real window and model, moving to /dev/shm (a second file system)
+// through the real mover. With DUSTLARK_SCREENSHOTS set, the sheet's steps are also saved.
+#include "WindowFixture.h"
+#include "support/RealMover.h"
+#include "support/Wait.h"
+#include "ui/CategoryListModel.h"
+#include "ui/CategoryPage.h"
+#include "ui/MoveDestinationPage.h"
+#include "ui/MoveOutcomePage.h"
+#include "ui/MoveProgressPage.h"
+#include "ui/MoveSheet.h"
+
+#include <QDir>
+#include <QLabel>
+#include <QMenu>
+#include <QPainter>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+namespace {
+
+const QString menuEntry = QStringLiteral("Move to Another Disk…");
+
+bool menuOffersMove(CategoryPage& page, const QModelIndex& index)
+{
+    std::unique_ptr<QMenu> menu(page.makeRowMenu(index));
+    for (QAction* action : menu->actions()) {
+        if (action->text() == menuEntry)
+            return true;
+    }
+    return false;
+}
+
+bool onItsOwnDisk(const QString& folder, const QString& other)
+{
+    struct stat a {}, b {};
+    return ::stat(qPrintable(folder), &a) == 0 && ::stat(qPrintable(other), &b) == 0 && a.st_dev != b.st_dev;
+}
+
+MoveSheet* openSheet(WindowFixture& fixture, CategoryPage& page, const QString& id)
+{
+    std::unique_ptr<QMenu> menu(page.makeRowMenu(fixture.rowOf(id)));
+    for (QAction* action : menu->actions()) {
+        if (action->text() == menuEntry)
+            action->trigger();
+    }
+    return fixture.window().findChild<MoveSheet*>();
+}
+
+// The window darkened with the sheet laid over it, centred under the toolbar as macOS shows it.
+void saveWithSheet(QWidget& window, QWidget& sheet, const QString& name)
+{
+    const QString folder = qEnvironmentVariable("DUSTLARK_SCREENSHOTS");
+    if (folder.isEmpty())
+        return;
+    QCoreApplication::processEvents();
+    QImage picture = window.grab().toImage();
+    QPainter painter(&picture);
+    painter.fillRect(picture.rect(), QColor(0, 0, 0, 40));
+    const QImage front = sheet.grab().toImage();
+    const QPoint at((picture.width() - front.width()) / 2, 52);
+    painter.fillRect(QRect(at, front.size()).adjusted(-1, -1, 1, 1), QColor(0, 0, 0, 70));
+    painter.drawImage(at, front);
+    QDir().mkpath(folder);
+    EXPECT_TRUE(picture.save(folder + QLatin1Char('/') + name)) << qPrintable(name);
+}
+
+class MoveSheetTest : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        if (!disk.isValid() || !onItsOwnDisk(disk.path(), fixture.home().root()))
+            GTEST_SKIP() << "these tests need /dev/shm on a file system of its own";
+        WindowFixture::emptyTrashFolder();
+    }
+
+    WindowFixture fixture;
+    QTemporaryDir disk{QStringLiteral("/dev/shm/Backup Disk-XXXXXX")};
+};
+
+}  // namespace
+
+TEST_F(MoveSheetTest, RowMenuOffersTheMoveOnlyForRowsThatCanMove)
+{
+    CleanupItem movie = fixture.addFile(CategoryID::largeFiles, QStringLiteral("Movies/trip.mov"));
+    CleanupItem locked = fixture.addFile(CategoryID::largeFiles, QStringLiteral("Movies/live.mov"));
+    locked.lockedReason = QStringLiteral("Changed in the last day; a session may be running.");
+    CategoryPage* page = fixture.open(CategoryID::largeFiles, {movie, locked});
+    ASSERT_TRUE(page);
+    EXPECT_TRUE(menuOffersMove(*page, fixture.rowOf(movie.id)));
+    EXPECT_FALSE(menuOffersMove(*page, fixture.rowOf(locked.id)));
+}
+
+TEST_F(MoveSheetTest, ChecksTheFolderThenShowsProgressAndWhereTheItemWent)
+{
+    fixture.home().file(QStringLiteral("Movies/Wedding Raw/day1.mov"), 3'000'000, 'a');
+    fixture.home().file(QStringLiteral("Movies/Wedding Raw/day2.mov"), 2'000'000, 'b');
+    CleanupItem footage = fileRow(fixture.home(), CategoryID::largeFiles, QStringLiteral("Movies/Wedding Raw"));
+    footage.size = 5'000'000;  // what a scan measures below the folder
+    // Copies the first file, then stalls the way a slow disk does until it is stopped.
+    const Mover::CopyTool halfway{QStringLiteral("/bin/sh"),
+                                  {QStringLiteral("-c"), QStringLiteral("mkdir \"$2\" && cp -p \"$1/day1.mov\" \"$2/\"; sleep 60"),
+                                   QStringLiteral("copy")},
+                                  std::chrono::minutes(1)};
+    CategoryPage* page = fixture.open(CategoryID::largeFiles, {footage}, [&](AppModel::Services& services) {
+        useRealMover(services, fixture.home().root(), halfway);
+    });
+    ASSERT_TRUE(page);
+    fixture.window().resize(1100, 700);
+    MoveSheet* sheet = openSheet(fixture, *page, footage.id);
+    ASSERT_TRUE(sheet);
+    MoveDestinationPage* question = sheet->destinationPage();
+    EXPECT_FALSE(question->moveButton()->isEnabled()) << "no folder chosen yet";
+
+    question->choose(fixture.home().dir(QStringLiteral("Archive")));
+    ASSERT_TRUE(waitUntil([&] { return question->problem()->text().startsWith(QStringLiteral("That folder is on the same disk")); }));
+    EXPECT_FALSE(question->moveButton()->isEnabled());
+    saveWithSheet(fixture.window(), *sheet, QStringLiteral("move-destination-refused.png"));
+
+    question->choose(disk.path());
+    ASSERT_TRUE(waitUntil([&] { return question->moveButton()->isEnabled(); }));
+    EXPECT_TRUE(question->problem()->isHidden());
+    saveWithSheet(fixture.window(), *sheet, QStringLiteral("move-destination.png"));
+
+    question->moveButton()->click();
+    ASSERT_TRUE(sheet->progressPage());
+    ASSERT_TRUE(waitUntil([&] { return sheet->progressPage()->bar()->value() == 600; }));
+    EXPECT_EQ(sheet->progressPage()->figures()->text(), QStringLiteral("3 MB of 5 MB"));
+    saveWithSheet(fixture.window(), *sheet, QStringLiteral("move-progress.png"));
+    sheet->reject();
+    EXPECT_TRUE(sheet->isVisible()) << "the sheet closed while the copy ran";
+
+    sheet->progressPage()->stopButton()->click();
+    ASSERT_TRUE(waitUntil([&] { return sheet->outcomePage(); }, 20'000));
+    EXPECT_EQ(sheet->outcomePage()->text()->text(), QStringLiteral("Stopped. The original wasn't changed."));
+    EXPECT_EQ(sheet->outcomePage()->showButton(), nullptr);
+    EXPECT_TRUE(QDir(disk.path()).isEmpty());
+    sheet->outcomePage()->doneButton()->click();
+    EXPECT_EQ(fixture.model().moveSession(), nullptr);
+}
+
+TEST_F(MoveSheetTest, AMovedRowLeavesTheListAndTheSheetSaysWhere)
+{
+    fixture.home().file(QStringLiteral("Models/llama-3-8b.gguf"), 4'000'000, 'q');
+    CleanupItem model = fileRow(fixture.home(), CategoryID::largeFiles, QStringLiteral("Models/llama-3-8b.gguf"));
+    CleanupItem other = fixture.addFile(CategoryID::largeFiles, QStringLiteral("Models/notes.txt"));
+    CategoryPage* page = fixture.open(CategoryID::largeFiles, {model, other}, [&](AppModel::Services& services) {
+        useRealMover(services, fixture.home().root());
+    });
+    ASSERT_TRUE(page);
+    fixture.window().resize(1100, 700);
+    MoveSheet* sheet = openSheet(fixture, *page, model.id);
+    ASSERT_TRUE(sheet);
+    sheet->destinationPage()->choose(disk.path());
+    ASSERT_TRUE(waitUntil([&] { return sheet->destinationPage()->moveButton()->isEnabled(); }));
+    sheet->destinationPage()->moveButton()->click();
+
+    ASSERT_TRUE(waitUntil([&] { return sheet->outcomePage(); }));
+    const QString copy = disk.path() + QStringLiteral("/llama-3-8b.gguf");
+    EXPECT_EQ(sheet->outcomePage()->text()->text(), QStringLiteral("It is now at %1. The original is in the Trash.").arg(copy));
+    ASSERT_TRUE(sheet->outcomePage()->showButton());
+    EXPECT_EQ(QFileInfo(copy).size(), 4'000'000);
+    EXPECT_EQ(page->listModel()->shownItems(), QList<CleanupItem>{other});
+    saveWithSheet(fixture.window(), *sheet, QStringLiteral("move-outcome.png"));
+}
