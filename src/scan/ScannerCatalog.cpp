@@ -1,5 +1,9 @@
 #include "scan/ScannerCatalog.h"
 
+#include "scan/AgentsScanner.h"
+#include "scan/AppCachesScanner.h"
+#include "scan/BrowserCachesScanner.h"
+#include "scan/EditorsScanner.h"
 #include "scan/KnownLocations.h"
 #include "scan/LocationScanner.h"
 #include "scan/ProjectScanner.h"
@@ -12,11 +16,15 @@ const std::vector<std::shared_ptr<const Scanner>>& all()
         std::make_shared<ProjectScanner>(),
         // XcodeScanner, SimulatorScanner, AndroidScanner
         std::make_shared<LocationScanner>(CategoryID::packageCaches, KnownLocations::packageCaches()),
-        // EditorsScanner, DockerScanner
+        std::make_shared<EditorsScanner>(),
+        // DockerScanner
         std::make_shared<LocationScanner>(CategoryID::aiModels, KnownLocations::aiModels()),
-        // AgentsScanner, AppsScanner, LeftoversScanner, AppCachesScanner
+        std::make_shared<AgentsScanner>(),
+        // AppsScanner, LeftoversScanner
+        std::make_shared<AppCachesScanner>(),
         std::make_shared<LocationScanner>(CategoryID::logs, KnownLocations::logs()),
-        // BrowserCachesScanner, InstallersScanner, OldDownloadsScanner, TemporaryScanner,
+        std::make_shared<BrowserCachesScanner>(),
+        // InstallersScanner, OldDownloadsScanner, TemporaryScanner,
         // DevicesScanner, TrashScanner
     };
     return scanners;
