@@ -23,26 +23,28 @@ AppOwner owner(const char* name, std::initializer_list<const char*> bundleIDs, s
     return {QString::fromUtf8(name), texts(bundleIDs), texts(programs), folders};
 }
 
+// On Linux a browser's profile folder in ~/.config holds web caches of its own (GrShaderCache,
+// ShaderCache), which the app-cache scan finds there; they are the browser's too.
 QList<AppOwner> browsers()
 {
     return {
         owner("Safari", {"com.apple.Safari"}, {}, {"Library/Caches/com.apple.Safari"}, {}),
         owner("Google Chrome", {"com.google.Chrome"}, {"chrome"}, {"Library/Caches/Google/Chrome"},
-              {".cache/google-chrome", ".cache/google-chrome-beta"}),
+              {".cache/google-chrome", ".cache/google-chrome-beta", ".config/google-chrome", ".config/google-chrome-beta"}),
         owner("Chrome Canary", {"com.google.Chrome.canary"}, {}, {"Library/Caches/Google/Chrome Canary"},
-              {".cache/google-chrome-unstable"}),
-        owner("Chromium", {"org.chromium.Chromium"}, {"chromium"}, {"Library/Caches/Chromium"}, {".cache/chromium"}),
+              {".cache/google-chrome-unstable", ".config/google-chrome-unstable"}),
+        owner("Chromium", {"org.chromium.Chromium"}, {"chromium"}, {"Library/Caches/Chromium"}, {".cache/chromium", ".config/chromium"}),
         owner("Microsoft Edge", {"com.microsoft.edgemac"}, {"msedge"}, {"Library/Caches/Microsoft Edge"},
-              {".cache/microsoft-edge"}),
+              {".cache/microsoft-edge", ".config/microsoft-edge"}),
         owner("Brave", {"com.brave.Browser"}, {"brave"}, {"Library/Caches/BraveSoftware/Brave-Browser"},
-              {".cache/BraveSoftware/Brave-Browser"}),
+              {".cache/BraveSoftware/Brave-Browser", ".config/BraveSoftware/Brave-Browser"}),
         owner("Arc", {"company.thebrowser.Browser"}, {}, {"Library/Caches/Arc", "Library/Caches/company.thebrowser.Browser"}, {}),
         owner("Firefox", {"org.mozilla.firefox"}, {"firefox", "firefox-esr", "firefox-bin"}, {"Library/Caches/Firefox"},
               {".cache/mozilla/firefox"}),
-        owner("Opera", {"com.operasoftware.Opera"}, {"opera"}, {"Library/Caches/com.operasoftware.Opera"}, {".cache/opera"}),
-        owner("Vivaldi", {"com.vivaldi.Vivaldi"}, {"vivaldi-bin"}, {"Library/Caches/Vivaldi"}, {".cache/vivaldi"}),
+        owner("Opera", {"com.operasoftware.Opera"}, {"opera"}, {"Library/Caches/com.operasoftware.Opera"}, {".cache/opera", ".config/opera"}),
+        owner("Vivaldi", {"com.vivaldi.Vivaldi"}, {"vivaldi-bin"}, {"Library/Caches/Vivaldi"}, {".cache/vivaldi", ".config/vivaldi"}),
         owner("Yandex Browser", {"ru.yandex.desktop.yandex-browser"}, {"yandex_browser"},
-              {"Library/Caches/Yandex/YandexBrowser"}, {".cache/yandex-browser"}),
+              {"Library/Caches/Yandex/YandexBrowser"}, {".cache/yandex-browser", ".config/yandex-browser"}),
     };
 }
 

@@ -280,3 +280,32 @@ TEST_F(AgentsScannerTest, EditorStateInsideAnUninstalledAgentsFolderIsOfferedOnl
     install("cursor");
     EXPECT_TRUE(itemTitled(QStringLiteral("Cursor state of deleted projects (2)")));
 }
+
+TEST_F(AgentsScannerTest, UnreadableFoldersCountAsEmptyAndHideOnlyThemselves)
+{
+    install("claude");
+    install("codex");
+    big(QStringLiteral(".codex/sessions/2024/12/a.jsonl"));
+    big(QStringLiteral(".codex/sessions/2025/03/a.jsonl"));
+    big(QStringLiteral(".claude/projects/-readable/a.jsonl"));
+    big(QStringLiteral(".claude/projects/-readable/locked/b.jsonl"));
+    big(QStringLiteral(".claude/projects/-locked/a.jsonl"));
+    const QStringList locked = {home(QStringLiteral(".codex/sessions/2024")), home(QStringLiteral(".claude/projects/-readable/locked")),
+                                home(QStringLiteral(".claude/projects/-locked"))};
+    for (const QString& folder : locked)
+        QFile::setPermissions(folder, {});
+    context.now = QDateTime::currentDateTimeUtc().addDays(3);
+
+    const auto found = tree.runUnprivileged([&] {
+        QStringList titles;
+        for (const CleanupItem& item : items())
+            titles.append(item.title);
+        return titles.join(QLatin1Char('|')).toUtf8();
+    });
+    for (const QString& folder : locked)
+        QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    if (!found)
+        GTEST_SKIP() << "running as root, and a child as 'nobody' could not be started to honour folder modes";
+    // A project whose own folder can't be read can't be measured; one with a locked subfolder can.
+    EXPECT_EQ(*found, QByteArray("Claude Code sessions · /readable|Codex sessions · 2025-03"));
+}

@@ -6,6 +6,8 @@
 #include "scan/RunningApps.h"
 #include "support/AgentsFixture.h"
 
+#include <QFile>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -168,4 +170,23 @@ TEST(KnownLocationsClaims, ClaimedCacheFoldersCoverEveryListsCacheFolder)
     EXPECT_TRUE(KnownLocations::isSyncServiceData(QStringLiteral("com.apple.bird")));
     EXPECT_TRUE(KnownLocations::isSyncServiceData(QStringLiteral("UBF8T346G9.OneDriveStandaloneSuite")));
     EXPECT_FALSE(KnownLocations::isSyncServiceData(QStringLiteral("com.tinyspeck.slackmacgap")));
+}
+
+TEST_F(CacheScannersTest, AnUnreadableCacheFolderGivesTheNoteAndTheRestIsListed)
+{
+    big(QStringLiteral("Library/Caches/com.nowhere.Open/x"));
+    big(QStringLiteral("Library/Caches/com.nowhere.Locked/x"));
+    const QString locked = home(QStringLiteral("Library/Caches/com.nowhere.Locked"));
+    QFile::setPermissions(locked, {});
+    const auto found = tree.runUnprivileged([&] {
+        const ScanOutput output = AppCachesScanner(environment()).scan(context).at(CategoryID::appCaches);
+        QStringList lines = output.notes;
+        for (const CleanupItem& item : output.items)
+            lines.append(item.title);
+        return lines.join(QLatin1Char('|')).toUtf8();
+    });
+    QFile::setPermissions(locked, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    if (!found)
+        GTEST_SKIP() << "running as root, and a child as 'nobody' could not be started to honour folder modes";
+    EXPECT_EQ(*found, QByteArray("Some folders couldn't be read. Give Dustlark Full Disk Access in Settings to include them.|Open"));
 }
