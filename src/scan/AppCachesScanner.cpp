@@ -102,24 +102,33 @@ QString webCacheDetail(const QString& dataFolder, const QString& name)
     return QCoreApplication::translate("AppCachesScanner", "Web caches in ~/Library/Application Support/%1").arg(name);
 }
 
+bool isOnSafeList(const QStringList& paths, const ScanContext& context)
+{
+    for (const QString& path : paths) {
+        for (const QString& folder : context.safeFolders) {
+            if (PathRules::isAtOrBelow(path, folder))
+                return true;
+        }
+    }
+    return false;
+}
+
+// Measures the caches into rows with their own ids and badges, locked while their app runs.
 QList<CleanupItem> measured(const QList<AppCache>& caches, const ScanContext& context, const RunningApps& running,
                             int& unreadable)
 {
     QList<LocationScanner::Candidate> candidates;
-    QHash<QString, const AppCache*> byFirstPath;
+    QHash<QString, const AppCache*> byPath;  // a row's first path is any of its candidate's, if one vanished
     for (const AppCache& cache : caches) {
-        const QStringList& paths = cache.candidate.paths;
-        const bool onSafeList = std::any_of(paths.begin(), paths.end(), [&](const QString& path) {
-            return isAtOrBelowAny(path, QStringList(context.safeFolders.begin(), context.safeFolders.end()));
-        });
-        if (onSafeList)
+        if (isOnSafeList(cache.candidate.paths, context))
             continue;
         candidates.append(cache.candidate);
-        byFirstPath.insert(cache.candidate.paths.first(), &cache);
+        for (const QString& path : cache.candidate.paths)
+            byPath.insert(path, &cache);
     }
     QList<CleanupItem> rows = LocationScanner::measure(candidates, CategoryID::appCaches, context, &unreadable);
     for (CleanupItem& row : rows) {
-        const AppCache* cache = byFirstPath.value(row.removal.paths().value(0));
+        const AppCache* cache = byPath.value(row.removal.paths().value(0));
         if (!cache)
             continue;
         row.id = cache->id.value_or(row.id);
