@@ -88,7 +88,7 @@ ScanOutputs AgentsScanner::scan(const ScanContext& context) const
 {
     const QSet<QString> installed = installedAgents(context.home, m_environment);
     const QList<Row> found = rows(context, installed);
-    const RunningApps running = RunningApps::from(m_environment.runningPrograms ? m_environment.runningPrograms() : QStringList());
+    const RunningApps running = RunningApps::from(context.runningPrograms->list());
     const std::vector<Row> work(found.begin(), found.end());
     const auto items = Concurrency::map(work, measuringLimit, context.cancellation,
                                         [&](const Row& row) { return item(row, context, running); });

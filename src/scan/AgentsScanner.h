@@ -39,7 +39,6 @@ public:
     struct Environment {
         std::function<bool(const QString& bundleID)> hasApplication;
         QStringList commandFolders;
-        RunningApps::Source runningPrograms;
     };
     [[nodiscard]] static Environment standardEnvironment();
 

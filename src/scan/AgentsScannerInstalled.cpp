@@ -128,7 +128,6 @@ AgentsScanner::Environment AgentsScanner::standardEnvironment()
                                         "~/.claude/local", "~/.opencode/bin", "/usr/local/bin", "/opt/homebrew/bin"});
     if (isLinux())
         environment.commandFolders += texts({"/usr/bin", "/snap/bin"});
-    environment.runningPrograms = RunningApps::systemSource();
     return environment;
 }
 

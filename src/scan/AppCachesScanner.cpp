@@ -144,7 +144,7 @@ QList<CleanupItem> measured(const QList<AppCache>& caches, const ScanContext& co
 
 ScanOutputs AppCachesScanner::scan(const ScanContext& context) const
 {
-    const RunningApps running = RunningApps::from(m_environment.runningPrograms ? m_environment.runningPrograms() : QStringList());
+    const RunningApps running = RunningApps::from(context.runningPrograms->list());
     int unreadable = 0;
     ScanOutput output;
     output.items = measured(cacheFolders(context) + containerCaches(context), context, running, unreadable);

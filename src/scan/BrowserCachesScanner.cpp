@@ -2,6 +2,7 @@
 
 #include "scan/KnownLocations.h"
 #include "scan/LocationScanner.h"
+#include "scan/RunningApps.h"
 
 ScanOutputs BrowserCachesScanner::scan(const ScanContext& context) const
 {
@@ -9,8 +10,7 @@ ScanOutputs BrowserCachesScanner::scan(const ScanContext& context) const
     int unreadable = found.unreadableFolders;
     ScanOutput output;
     output.items = LocationScanner::measure(found.list, CategoryID::browserCaches, context, &unreadable);
-    const RunningApps running = RunningApps::from(m_runningPrograms ? m_runningPrograms() : QStringList());
-    running.lockRowsOfRunningOwners(output.items, context.home, &RunningApps::quitToCleanCache);
+    RunningApps::from(context.runningPrograms->list()).lockRowsOfRunningOwners(output.items, context.home, &RunningApps::quitToCleanCache);
     if (unreadable > 0)
         output.notes.append(LocationScanner::unreadableNote());
     return {{CategoryID::browserCaches, output}};

@@ -27,8 +27,7 @@ ScanOutputs EditorsScanner::scan(const ScanContext& context) const
     int unreadable = found.unreadableFolders;
     ScanOutput output;
     output.items = LocationScanner::measure(found.list, CategoryID::editors, context, &unreadable);
-    const auto programs = m_environment.runningPrograms ? m_environment.runningPrograms() : QStringList();
-    RunningApps::from(programs).lockRowsOfRunningOwners(output.items, context.home, &RunningApps::quitToCleanCaches);
+    RunningApps::from(context.runningPrograms->list()).lockRowsOfRunningOwners(output.items, context.home, &RunningApps::quitToCleanCaches);
     if (unreadable > 0)
         output.notes.append(LocationScanner::unreadableNote());
     return {{CategoryID::editors, output}};

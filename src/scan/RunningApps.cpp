@@ -1,6 +1,5 @@
 #include "scan/RunningApps.h"
 
-#include "platform/Platform.h"
 #include "scan/AppOwners.h"
 #include "scan/PropertyList.h"
 #include "vocabulary/PathRules.h"
@@ -18,11 +17,6 @@ QString outermostBundle(const QString& executable)
 }
 
 }  // namespace
-
-RunningApps::Source RunningApps::systemSource()
-{
-    return &Platform::runningExecutables;
-}
 
 RunningApps RunningApps::from(const QStringList& executables)
 {

@@ -8,20 +8,15 @@
 #include <QString>
 #include <QStringList>
 
-#include <functional>
 #include <optional>
 
-// Which apps run, answered for the cache and agent scanners from one reading of the running
-// programs per scan. On macOS a program inside an application bundle stands for that bundle's
+// Which apps run, answered for the cache and agent scanners from the scan's one reading of the
+// running programs (ScanContext::runningPrograms). On macOS a program inside an application bundle stands for that bundle's
 // identifier (read from its Info.plist); everywhere a program also stands for its executable's
 // file name, which is how Linux apps are recognised. A plain value; reading it from several
 // threads is safe.
 class RunningApps {
 public:
-    // Where the executable paths of the running programs come from; tests replace it.
-    using Source = std::function<QStringList()>;
-    [[nodiscard]] static Source systemSource();
-
     // Reads the identifiers of the bundles the programs lie in (once per bundle).
     [[nodiscard]] static RunningApps from(const QStringList& executables);
 

@@ -13,7 +13,7 @@ namespace {
 
 class AgentsScannerTest : public ::testing::Test, public AgentsFixture {
 protected:
-    QList<CleanupItem> items() const { return AgentsScanner(environment()).scan(context).at(CategoryID::aiAgents).items; }
+    QList<CleanupItem> items() const { return AgentsScanner(environment()).scan(scanContext()).at(CategoryID::aiAgents).items; }
 
     QStringList titles() const
     {

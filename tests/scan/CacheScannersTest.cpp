@@ -20,12 +20,12 @@ bool linuxBuild()
 
 class CacheScannersTest : public ::testing::Test, public AgentsFixture {
 protected:
-    QList<CleanupItem> appCaches() const { return AppCachesScanner(environment()).scan(context).at(CategoryID::appCaches).items; }
+    QList<CleanupItem> appCaches() const { return AppCachesScanner(environment()).scan(scanContext()).at(CategoryID::appCaches).items; }
     QList<CleanupItem> browserCaches() const
     {
-        return BrowserCachesScanner([programs = running] { return programs; }).scan(context).at(CategoryID::browserCaches).items;
+        return BrowserCachesScanner().scan(scanContext()).at(CategoryID::browserCaches).items;
     }
-    QList<CleanupItem> editorCaches() const { return EditorsScanner(environment()).scan(context).at(CategoryID::editors).items; }
+    QList<CleanupItem> editorCaches() const { return EditorsScanner(environment()).scan(scanContext()).at(CategoryID::editors).items; }
 };
 
 const CleanupItem* titled(const QList<CleanupItem>& items, const QString& title)
@@ -179,7 +179,7 @@ TEST_F(CacheScannersTest, AnUnreadableCacheFolderGivesTheNoteAndTheRestIsListed)
     const QString locked = home(QStringLiteral("Library/Caches/com.nowhere.Locked"));
     QFile::setPermissions(locked, {});
     const auto found = tree.runUnprivileged([&] {
-        const ScanOutput output = AppCachesScanner(environment()).scan(context).at(CategoryID::appCaches);
+        const ScanOutput output = AppCachesScanner(environment()).scan(scanContext()).at(CategoryID::appCaches);
         QStringList lines = output.notes;
         for (const CleanupItem& item : output.items)
             lines.append(item.title);

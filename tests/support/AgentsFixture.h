@@ -26,12 +26,19 @@ public:
         return tree.file(app + QStringLiteral("/Contents/MacOS/") + name, 10);
     }
 
+    // The context with `running` as the scan's running programs.
+    ScanContext scanContext() const
+    {
+        ScanContext copy = context;
+        copy.runningPrograms = std::make_shared<RunningPrograms>([programs = running] { return programs; });
+        return copy;
+    }
+
     AgentsScanner::Environment environment() const
     {
         AgentsScanner::Environment environment;
         environment.hasApplication = [apps = applications](const QString& id) { return apps.contains(id); };
         environment.commandFolders = {QStringLiteral("~/.local/bin")};
-        environment.runningPrograms = [programs = running] { return programs; };
         return environment;
     }
 
