@@ -62,7 +62,28 @@ QStringList sortedChildren(const QString& folder)
 
 using Row = AgentsScanner::Row;
 
+// A row that removes `paths` together; the lock flags are set where a rule needs them.
+Row row(QString agent, QString title, QStringList paths, Safety safety, QString note, bool lockIfRecent = false)
+{
+    return {std::move(agent), std::move(title), std::move(paths), safety, std::move(note), lockIfRecent, std::nullopt,
+            std::nullopt};
+}
+
+Row lockedWhileRunning(Row row, const QString& application)
+{
+    row.lockIfRunning = application;
+    return row;
+}
+
+Row identifiedBy(Row row, const QString& idTitle)
+{
+    row.idTitle = idTitle;
+    return row;
+}
+
 class RowBuilder {
+    Q_DECLARE_TR_FUNCTIONS(AgentsScanner)
+
 public:
     RowBuilder(const ScanContext& context, const QSet<QString>& installed) : m_context(context), m_installed(installed) {}
 
@@ -75,6 +96,7 @@ private:
 
     void uninstalledData();
     void claudeRows();
+    void codexSessions();
     void codexRows();
     void cursorRows();
     void geminiAndQwenRows();
@@ -106,11 +128,10 @@ void RowBuilder::uninstalledData()
                 continue;
             m_uninstalledData.append(path);
             //: Row title of a data folder of an AI agent that is not installed; %1 is the agent, %2 the folder
-            m_rows.append({agent.name, QCoreApplication::translate("AgentsScanner", "%1 data · %2").arg(agent.name, PathRules::withTilde(path, m_context.home)),
-                           {path}, Safety::askAI,
-                           //: Note of a data folder of an AI agent that is not installed; %1 is the agent
-                           QCoreApplication::translate("AgentsScanner", "%1 isn't installed; its chats, settings and caches are here").arg(agent.name),
-                           true, std::nullopt, std::nullopt});
+            const QString title = tr("%1 data · %2").arg(agent.name, PathRules::withTilde(path, m_context.home));
+            //: Note of a data folder of an AI agent that is not installed; %1 is the agent
+            const QString note = tr("%1 isn't installed; its chats, settings and caches are here").arg(agent.name);
+            m_rows.append(row(agent.name, title, {path}, Safety::askAI, note, true));
         }
     }
 }
@@ -119,28 +140,27 @@ void RowBuilder::claudeRows()
 {
     if (!installed(claude))
         return;
-    //: Row title in the AI agents list
-    addIfExists({claude, QCoreApplication::translate("AgentsScanner", "Claude virtual machine image"), {at(QStringLiteral("Library/Application Support/Claude/vm_bundles"))},
-                 Safety::safe,
-                 //: Note of the Claude virtual machine image row
-                 QCoreApplication::translate("AgentsScanner", "Used by Claude's agent mode; downloaded again the next time it's needed"), false, claudeApp, std::nullopt});
+    addIfExists(lockedWhileRunning(
+        //: Row title in the AI agents list
+        row(claude, tr("Claude virtual machine image"), {at(QStringLiteral("Library/Application Support/Claude/vm_bundles"))},
+            //: Note of the Claude virtual machine image row
+            Safety::safe, tr("Used by Claude's agent mode; downloaded again the next time it's needed")),
+        claudeApp));
     const QString projects = at(QStringLiteral(".claude/projects"));
     for (const QString& entry : sortedChildren(projects)) {
         if (entry.startsWith(QLatin1Char('.')))
             continue;
         const QString path = projects + QLatin1Char('/') + entry;
         //: Row title of one project's Claude Code sessions; %1 is the project, like ~/code/app
-        m_rows.append({claude, QCoreApplication::translate("AgentsScanner", "Claude Code sessions · %1").arg(AgentsScanner::projectName(path, m_context.home)),
-                       {path}, Safety::askAI,
-                       //: Note of a Claude Code sessions row; /resume is a command and stays as it is
-                       QCoreApplication::translate("AgentsScanner", "Session history /resume uses"), true, std::nullopt, std::nullopt});
+        const QString title = tr("Claude Code sessions · %1").arg(AgentsScanner::projectName(path, m_context.home));
+        //: Note of a Claude Code sessions row; /resume is a command and stays as it is
+        const QString note = tr("Session history /resume uses");
+        m_rows.append(row(claude, title, {path}, Safety::askAI, note, true));
     }
 }
 
-void RowBuilder::codexRows()
+void RowBuilder::codexSessions()
 {
-    if (!installed(codex))
-        return;
     const QString sessions = at(QStringLiteral(".codex/sessions"));
     for (const QString& year : sortedChildren(sessions)) {
         for (const QString& month : sortedChildren(sessions + QLatin1Char('/') + year)) {
@@ -148,19 +168,27 @@ void RowBuilder::codexRows()
             if (!FileStatus::isFolder(path))
                 continue;
             //: Row title of one month of Codex sessions; %1 is the year, %2 the month number
-            m_rows.append({codex, QCoreApplication::translate("AgentsScanner", "Codex sessions · %1-%2").arg(year, month), {path}, Safety::askAI,
-                           //: Note of a Codex sessions row; the command stays as it is
-                           QCoreApplication::translate("AgentsScanner", "Session history `codex resume` uses"), true, std::nullopt, std::nullopt});
+            const QString title = tr("Codex sessions · %1-%2").arg(year, month);
+            //: Note of a Codex sessions row; the command stays as it is
+            const QString note = tr("Session history `codex resume` uses");
+            m_rows.append(row(codex, title, {path}, Safety::askAI, note, true));
         }
     }
+}
+
+void RowBuilder::codexRows()
+{
+    if (!installed(codex))
+        return;
+    codexSessions();
     //: Row title in the AI agents list
-    addIfExists({codex, QCoreApplication::translate("AgentsScanner", "Codex archived sessions"), {at(QStringLiteral(".codex/archived_sessions"))}, Safety::askAI,
-                 //: Note of the Codex archived sessions row
-                 QCoreApplication::translate("AgentsScanner", "Sessions you archived"), false, std::nullopt, std::nullopt});
+    addIfExists(row(codex, tr("Codex archived sessions"), {at(QStringLiteral(".codex/archived_sessions"))}, Safety::askAI,
+                    //: Note of the Codex archived sessions row
+                    tr("Sessions you archived")));
     //: Row title in the AI agents list
-    addIfExists({codex, QCoreApplication::translate("AgentsScanner", "Codex migration backups"), {at(QStringLiteral(".codex/migration-backups"))}, Safety::askAI,
-                 //: Note of the Codex migration backups row
-                 QCoreApplication::translate("AgentsScanner", "Copies Codex made while migrating its data"), false, std::nullopt, std::nullopt});
+    addIfExists(row(codex, tr("Codex migration backups"), {at(QStringLiteral(".codex/migration-backups"))}, Safety::askAI,
+                    //: Note of the Codex migration backups row
+                    tr("Copies Codex made while migrating its data")));
     QStringList backups;
     for (const QString& name : sortedChildren(at(QStringLiteral(".codex")))) {
         const QString path = at(QStringLiteral(".codex/") + name);
@@ -170,50 +198,49 @@ void RowBuilder::codexRows()
     if (backups.isEmpty())
         return;
     //: Row title in the AI agents list; %n is the number of backup files
-    m_rows.append({codex, QCoreApplication::translate("AgentsScanner", "Codex backup files (%n)", nullptr, int(backups.size())), backups, Safety::askAI,
-                   //: Note of the Codex backup files row
-                   QCoreApplication::translate("AgentsScanner", "Old copies of Codex's databases and settings (*.bak)"), false, std::nullopt,
-                   QStringLiteral("Codex backup files")});
+    const QString title = tr("Codex backup files (%n)", nullptr, int(backups.size()));
+    //: Note of the Codex backup files row
+    const QString note = tr("Old copies of Codex's databases and settings (*.bak)");
+    m_rows.append(identifiedBy(row(codex, title, backups, Safety::askAI, note), QStringLiteral("Codex backup files")));
 }
 
 void RowBuilder::cursorRows()
 {
     if (!installed(cursor))
         return;
+    const QString backup = at(QStringLiteral("Library/Application Support/Cursor/User/globalStorage/state.vscdb.backup"));
     //: Row title in the AI agents list
-    addIfExists({cursor, QCoreApplication::translate("AgentsScanner", "Cursor state backup"),
-                 {at(QStringLiteral("Library/Application Support/Cursor/User/globalStorage/state.vscdb.backup"))}, Safety::askAI,
-                 //: Note of the Cursor state backup row
-                 QCoreApplication::translate("AgentsScanner", "One-time backup of Cursor's state database (chat history lives in the live copy)"), false, cursorApp,
-                 std::nullopt});
+    addIfExists(lockedWhileRunning(row(cursor, tr("Cursor state backup"), {backup}, Safety::askAI,
+                                       //: Note of the Cursor state backup row
+                                       tr("One-time backup of Cursor's state database (chat history lives in the live copy)")),
+                                   cursorApp));
     //: Row title in the AI agents list
-    addIfExists({cursor, QCoreApplication::translate("AgentsScanner", "Cursor agent chats"), {at(QStringLiteral(".cursor/chats"))}, Safety::askAI,
-                 //: Note of the Cursor agent chats row
-                 QCoreApplication::translate("AgentsScanner", "Saved chats of Cursor's agent"), true, std::nullopt, std::nullopt});
+    addIfExists(row(cursor, tr("Cursor agent chats"), {at(QStringLiteral(".cursor/chats"))}, Safety::askAI,
+                    //: Note of the Cursor agent chats row
+                    tr("Saved chats of Cursor's agent"), true));
 }
 
 void RowBuilder::geminiAndQwenRows()
 {
-    const QString antigravity = QStringLiteral("Antigravity");
+    //: Note of the Gemini CLI and Qwen Code temporary files rows
+    const QString checkpoints = tr("Chat history and checkpoints; resuming and restoring use them");
     if (installed(gemini)) {
+        const QString antigravity = QStringLiteral("Antigravity");
         //: Row title in the AI agents list
-        addIfExists({antigravity, QCoreApplication::translate("AgentsScanner", "Antigravity backup"), {at(QStringLiteral(".gemini/antigravity-backup"))}, Safety::askAI,
-                     //: Note of the Antigravity backup row
-                     QCoreApplication::translate("AgentsScanner", "A backup copy of Antigravity's data"), false, std::nullopt, std::nullopt});
+        addIfExists(row(antigravity, tr("Antigravity backup"), {at(QStringLiteral(".gemini/antigravity-backup"))},
+                        //: Note of the Antigravity backup row
+                        Safety::askAI, tr("A backup copy of Antigravity's data")));
         //: Row title in the AI agents list
-        addIfExists({antigravity, QCoreApplication::translate("AgentsScanner", "Antigravity browser profile"), {at(QStringLiteral(".gemini/antigravity-browser-profile"))},
-                     Safety::askAI,
-                     //: Note of the Antigravity browser profile row
-                     QCoreApplication::translate("AgentsScanner", "The browser profile the agent uses; may hold sign-ins"), false, std::nullopt, std::nullopt});
+        addIfExists(row(antigravity, tr("Antigravity browser profile"), {at(QStringLiteral(".gemini/antigravity-browser-profile"))},
+                        //: Note of the Antigravity browser profile row
+                        Safety::askAI, tr("The browser profile the agent uses; may hold sign-ins")));
         //: Row title in the AI agents list
-        addIfExists({antigravity, QCoreApplication::translate("AgentsScanner", "Gemini CLI temporary files"), {at(QStringLiteral(".gemini/tmp"))}, Safety::askAI,
-                     //: Note of the Gemini CLI and Qwen Code temporary files rows
-                     QCoreApplication::translate("AgentsScanner", "Chat history and checkpoints; resuming and restoring use them"), true, std::nullopt, std::nullopt});
+        addIfExists(row(antigravity, tr("Gemini CLI temporary files"), {at(QStringLiteral(".gemini/tmp"))}, Safety::askAI,
+                        checkpoints, true));
     }
     if (installed(qwen)) {
         //: Row title in the AI agents list
-        addIfExists({qwen, QCoreApplication::translate("AgentsScanner", "Qwen Code temporary files"), {at(QStringLiteral(".qwen/tmp"))}, Safety::askAI,
-                     QCoreApplication::translate("AgentsScanner", "Chat history and checkpoints; resuming and restoring use them"), true, std::nullopt, std::nullopt});
+        addIfExists(row(qwen, tr("Qwen Code temporary files"), {at(QStringLiteral(".qwen/tmp"))}, Safety::askAI, checkpoints, true));
     }
 }
 
@@ -222,11 +249,11 @@ void RowBuilder::editorState(const StateEditor& editor, const QString& data)
     const QStringList orphans = AgentsScanner::orphanWorkspaces(data + QStringLiteral("/User/workspaceStorage"));
     if (!orphans.isEmpty()) {
         //: Row title in the AI agents list; %1 is an editor, %n the number of folders
-        m_rows.append({editor.name, QCoreApplication::translate("AgentsScanner", "%1 state of deleted projects (%n)", nullptr, int(orphans.size())).arg(editor.name), orphans,
-                       Safety::safe,
-                       //: Note of an editor's state of deleted projects row
-                       QCoreApplication::translate("AgentsScanner", "Saved editor state of folders that no longer exist"), false, std::nullopt,
-                       editor.name + QStringLiteral(" state of deleted projects")});
+        const QString title = tr("%1 state of deleted projects (%n)", nullptr, int(orphans.size())).arg(editor.name);
+        //: Note of an editor's state of deleted projects row
+        const QString note = tr("Saved editor state of folders that no longer exist");
+        m_rows.append(identifiedBy(row(editor.name, title, orphans, Safety::safe, note),
+                                   editor.name + QStringLiteral(" state of deleted projects")));
     }
     QStringList profiles;
     const QString profileRoot = data + QStringLiteral("/User/profiles");
@@ -236,10 +263,10 @@ void RowBuilder::editorState(const StateEditor& editor, const QString& data)
     if (old.isEmpty())
         return;
     //: Row title in the AI agents list; %1 is an editor, %n the number of extension folders
-    m_rows.append({editor.name, QCoreApplication::translate("AgentsScanner", "%1 old extension versions (%n)", nullptr, int(old.size())).arg(editor.name), old, Safety::safe,
-                   //: Note of an editor's old extension versions row
-                   QCoreApplication::translate("AgentsScanner", "Older copies kept after extensions updated"), false, std::nullopt,
-                   editor.name + QStringLiteral(" old extension versions")});
+    const QString title = tr("%1 old extension versions (%n)", nullptr, int(old.size())).arg(editor.name);
+    //: Note of an editor's old extension versions row
+    const QString note = tr("Older copies kept after extensions updated");
+    m_rows.append(identifiedBy(row(editor.name, title, old, Safety::safe, note), editor.name + QStringLiteral(" old extension versions")));
 }
 
 void RowBuilder::taskHistories(const StateEditor& editor, const QString& data)
@@ -247,9 +274,10 @@ void RowBuilder::taskHistories(const StateEditor& editor, const QString& data)
     for (const auto& [identifier, name] : taskExtensions()) {
         const QString tasks = data + QStringLiteral("/User/globalStorage/") + identifier + QStringLiteral("/tasks");
         //: Row title in the AI agents list; %1 is an agent extension like Cline, %2 the editor it runs in
-        addIfExists({name, QCoreApplication::translate("AgentsScanner", "%1 task history in %2").arg(name, editor.name), {tasks}, Safety::askAI,
-                     //: Note of an agent extension's task history row
-                     QCoreApplication::translate("AgentsScanner", "Saved tasks and conversations"), true, std::nullopt, std::nullopt});
+        const QString title = tr("%1 task history in %2").arg(name, editor.name);
+        //: Note of an agent extension's task history row
+        const QString note = tr("Saved tasks and conversations");
+        addIfExists(row(name, title, {tasks}, Safety::askAI, note, true));
     }
 }
 
