@@ -99,7 +99,11 @@ std::optional<QString> applicationForBundleIdentifier(const QString& bundleIdent
                                                      CFIndex(utf8.size()), kCFStringEncodingUTF8, false);
     if (!identifier)
         return std::nullopt;
+    // The workspace's Objective-C replacement has no C form; this file stays plain C++.
+#pragma clang diagnostic push
+#pragma clang diagnostic ignored "-Wdeprecated-declarations"
     CFArrayRef urls = LSCopyApplicationURLsForBundleIdentifier(identifier, nullptr);
+#pragma clang diagnostic pop
     CFRelease(identifier);
     if (!urls)
         return std::nullopt;  // nothing registered under this identifier
