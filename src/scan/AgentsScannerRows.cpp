@@ -28,6 +28,7 @@ struct StateEditor {
     QString extensions;
 };
 
+// Cursor first: its data folders also hold the state backup of the Cursor rules.
 QList<StateEditor> stateEditors()
 {
     const bool linux = Platform::desktop() == Platform::Desktop::freedesktop;
@@ -208,12 +209,15 @@ void RowBuilder::cursorRows()
 {
     if (!installed(cursor))
         return;
-    const QString backup = at(QStringLiteral("Library/Application Support/Cursor/User/globalStorage/state.vscdb.backup"));
     //: Row title in the AI agents list
-    addIfExists(lockedWhileRunning(row(cursor, tr("Cursor state backup"), {backup}, Safety::askAI,
-                                       //: Note of the Cursor state backup row
-                                       tr("One-time backup of Cursor's state database (chat history lives in the live copy)")),
-                                   cursorApp));
+    const QString title = tr("Cursor state backup");
+    //: Note of the Cursor state backup row
+    const QString note = tr("One-time backup of Cursor's state database (chat history lives in the live copy)");
+    const StateEditor cursorEditor = stateEditors().first();
+    for (const QString& data : cursorEditor.dataFolders) {
+        const QString backup = at(data + QStringLiteral("/User/globalStorage/state.vscdb.backup"));
+        addIfExists(lockedWhileRunning(row(cursor, title, {backup}, Safety::askAI, note), cursorApp));
+    }
     //: Row title in the AI agents list
     addIfExists(row(cursor, tr("Cursor agent chats"), {at(QStringLiteral(".cursor/chats"))}, Safety::askAI,
                     //: Note of the Cursor agent chats row

@@ -1,4 +1,5 @@
 #include "machinery/FileSizer.h"
+#include "platform/Platform.h"
 #include "scan/AgentsScanner.h"
 #include "support/AgentsFixture.h"
 #include "vocabulary/RemovalReasons.h"
@@ -131,6 +132,11 @@ TEST_F(AgentsScannerTest, ARunningAppLocksItsRowsWhateverTheirAge)
 
     running = {QStringLiteral("/usr/share/cursor/cursor")};  // how Linux lists it
     EXPECT_TRUE(itemTitled(QStringLiteral("Cursor state backup"))->lockedReason);
+
+    // Linux keeps the same backup in ~/.config/Cursor.
+    big(QStringLiteral(".config/Cursor/User/globalStorage/state.vscdb.backup"));
+    const bool linux = Platform::desktop() == Platform::Desktop::freedesktop;
+    EXPECT_EQ(titles().count(QStringLiteral("Cursor state backup")), linux ? 2 : 1);
 }
 
 TEST_F(AgentsScannerTest, CodexBackupsKeepOneIdentifierWhileTheirNumberChanges)
