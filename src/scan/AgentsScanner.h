@@ -72,7 +72,12 @@ public:
     [[nodiscard]] static std::optional<CleanupItem> item(const Row& row, const ScanContext& context,
                                                          const RunningApps& running);
 
-    // The display name of a session-history folder (Claude Code's "-Users-me-code-app").
+    // The display name of a session-history folder (Claude Code's "-Users-me-code-app"): the
+    // project's path with "~" for the home folder, or "Claude app scratch" and "Claude sandbox
+    // status" for those two places. The folder name wrote every character but an ASCII letter
+    // or digit as "-", so the folders that still exist decide, level by level from "/", the
+    // longest matching entry first ("my-tool" before "my/tool"); below the first level that
+    // no longer exists, every "-" reads as "/".
     [[nodiscard]] static QString projectName(const QString& folder, const QString& home);
     // The subfolders of a workspaceStorage folder whose project folder no longer exists.
     [[nodiscard]] static QStringList orphanWorkspaces(const QString& workspaceStorage);
