@@ -315,3 +315,15 @@ TEST_F(AgentsScannerTest, UnreadableFoldersCountAsEmptyAndHideOnlyThemselves)
     // A project whose own folder can't be read can't be measured; one with a locked subfolder can.
     EXPECT_EQ(*found, QByteArray("Claude Code sessions · /readable|Codex sessions · 2025-03"));
 }
+
+TEST_F(AgentsScannerTest, TheRunningLockSpeaksBeforeTheRecentOne)
+{
+    big(QStringLiteral("data/fresh.db"));
+    AgentsScanner::Row row{QStringLiteral("Claude"), QStringLiteral("t"), {home(QStringLiteral("data"))}, Safety::askAI,
+                           QStringLiteral("n"), true, QStringLiteral("com.anthropic.claudefordesktop"), std::nullopt};
+    EXPECT_EQ(AgentsScanner::item(row, context, RunningApps::from({}))->lockedReason, RemovalReasons::changedInLastDay());
+    const RunningApps claude = RunningApps::from({bundle(QStringLiteral("Claude"), QStringLiteral("com.anthropic.claudefordesktop"))});
+    EXPECT_EQ(AgentsScanner::item(row, context, claude)->lockedReason, QStringLiteral("Running. Quit Claude to remove it."));
+    row.paths.append(home(QStringLiteral("data/vanished")));  // a path that can't be measured: no item
+    EXPECT_FALSE(AgentsScanner::item(row, context, claude));
+}
