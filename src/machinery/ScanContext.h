@@ -1,6 +1,7 @@
 #pragma once
 
 #include "machinery/CancellationToken.h"
+#include "machinery/RunningPrograms.h"
 #include "machinery/ScanProgress.h"
 
 #include <QDateTime>
@@ -20,6 +21,8 @@ struct ScanContext {
     bool fullDiskAccess = true;
     QSet<QString> safeFolders;
     CancellationToken cancellation;
+    // Read once per scan by whichever scanner asks first; shared by the context's copies.
+    std::shared_ptr<const RunningPrograms> runningPrograms = std::make_shared<RunningPrograms>();
 
     bool isCancelled() const { return cancellation.isCancelled(); }
 };

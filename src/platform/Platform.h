@@ -51,6 +51,13 @@ bool openPrivatePipe(int ends[2]);
 // into it; zero where the system has no such flag.
 short extraSpawnFlags();
 
+// ---- Applications ----
+
+// The path of an installed application with this bundle identifier, as the system's
+// application registry knows it (LaunchServices on macOS); absent when none is known. Linux
+// has no such registry and always answers absent.
+std::optional<QString> applicationForBundleIdentifier(const QString& bundleIdentifier);
+
 // ---- Files ----
 
 // Whether the file's content lives only in the cloud (macOS SF_DATALESS); false where the

@@ -138,6 +138,11 @@ QStringList runningExecutables()
     return paths;
 }
 
+std::optional<QString> applicationForBundleIdentifier(const QString&)
+{
+    return std::nullopt;  // no registry of applications by identifier on Linux desktops
+}
+
 bool isDataless(const struct stat&)
 {
     return false;  // Linux file systems have no evicted-to-the-cloud flag

@@ -4,8 +4,10 @@
 #include <QTimeZone>
 
 #include <CoreFoundation/CoreFoundation.h>
+#include <CoreServices/CoreServices.h>
 #include <algorithm>
 #include <cerrno>
+#include <climits>  // PATH_MAX
 #include <cstdio>  // renameat2 / renamex_np
 #include <cstring>
 #include <fcntl.h>
@@ -88,6 +90,32 @@ QStringList runningExecutables()
             paths.append(QFile::decodeName(path));
     }
     return paths;
+}
+
+std::optional<QString> applicationForBundleIdentifier(const QString& bundleIdentifier)
+{
+    const QByteArray utf8 = bundleIdentifier.toUtf8();
+    CFStringRef identifier = CFStringCreateWithBytes(kCFAllocatorDefault, reinterpret_cast<const UInt8*>(utf8.constData()),
+                                                     CFIndex(utf8.size()), kCFStringEncodingUTF8, false);
+    if (!identifier)
+        return std::nullopt;
+    // The workspace's Objective-C replacement has no C form; this file stays plain C++.
+#pragma clang diagnostic push
+#pragma clang diagnostic ignored "-Wdeprecated-declarations"
+    CFArrayRef urls = LSCopyApplicationURLsForBundleIdentifier(identifier, nullptr);
+#pragma clang diagnostic pop
+    CFRelease(identifier);
+    if (!urls)
+        return std::nullopt;  // nothing registered under this identifier
+    std::optional<QString> path;
+    char buffer[PATH_MAX];
+    if (CFArrayGetCount(urls) > 0) {
+        const auto url = static_cast<CFURLRef>(CFArrayGetValueAtIndex(urls, 0));
+        if (CFURLGetFileSystemRepresentation(url, true, reinterpret_cast<UInt8*>(buffer), sizeof buffer))
+            path = QFile::decodeName(buffer);
+    }
+    CFRelease(urls);
+    return path;
 }
 
 bool isDataless(const struct stat& info)

@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 #include <QStringList>
 
+#include <algorithm>
+
 namespace KnownLocations {
 
 namespace {
@@ -26,19 +28,35 @@ Location perChildRow(QString path, Naming naming, std::optional<QString> detail 
     return Location{{std::move(path)}, std::move(naming), true, std::move(detail), {}};
 }
 
-// The rows only a Linux home has (its XDG folders), beside the macOS rows of the same table; on
-// macOS the table stays exactly as it is.
+bool isLinux()
+{
+    return Platform::desktop() == Platform::Desktop::freedesktop;
+}
+
+// The rows only a Linux home has, where no macOS row has a counterpart to take the Linux path
+// (withLinuxPaths below); on macOS the table stays exactly as it is.
 QList<Location> withLinuxRows(QList<Location> rows, const QList<Location>& linuxRows)
 {
-    if (Platform::desktop() == Platform::Desktop::freedesktop)
+    if (isLinux())
         rows += linuxRows;
     return rows;
 }
 
-Location browserRow(const char* path, const char* productName)
+// The same row also looks in the Linux places of the same data.
+Location withLinuxPaths(Location location, const QStringList& linuxPaths)
 {
+    if (isLinux())
+        location.paths += linuxPaths;
+    return location;
+}
+
+Location browserRow(const char* path, const char* productName, std::initializer_list<const char*> linuxPaths = {})
+{
+    QStringList linux;
+    for (const char* linuxPath : linuxPaths)
+        linux.append(QString::fromUtf8(linuxPath));
     // Product names are the same in every language.
-    return fixedRow({QString::fromUtf8(path)}, QString::fromUtf8(productName));
+    return withLinuxPaths(fixedRow({QString::fromUtf8(path)}, QString::fromUtf8(productName)), linux);
 }
 
 }  // namespace
@@ -300,9 +318,12 @@ Location editorCaches(const QString& appFolder, const QString& title)
 {
     static const char* const cacheFolders[] = {"Cache", "CachedData", "CachedExtensionVSIXs", "Code Cache", "GPUCache"};
     QStringList paths;
-    for (const char* folder : cacheFolders)
+    QStringList linuxPaths;  // Electron editors keep the same folders in ~/.config there
+    for (const char* folder : cacheFolders) {
         paths.append(QStringLiteral("Library/Application Support/%1/%2").arg(appFolder, QString::fromUtf8(folder)));
-    return fixedRow(paths, title);
+        linuxPaths.append(QStringLiteral(".config/%1/%2").arg(appFolder, QString::fromUtf8(folder)));
+    }
+    return withLinuxPaths(fixedRow(paths, title), linuxPaths);
 }
 
 QList<Location> editors()
@@ -314,12 +335,14 @@ QList<Location> editors()
         editorCaches(QStringLiteral("Cursor"), QCoreApplication::translate("KnownLocations", "Cursor caches")),
         //: Row title in the editors list
         editorCaches(QStringLiteral("Windsurf"), QCoreApplication::translate("KnownLocations", "Windsurf caches")),
-        namedRow(QStringLiteral("Library/Caches/JetBrains/*"),
-                 //: Prefix of a row title in the editors list; an IDE folder such as IntelliJIdea2024.1 follows
-                 Naming::name(QCoreApplication::translate("KnownLocations", "JetBrains cache · "))),
-        fixedRow({QStringLiteral("Library/Caches/Zed")},
-                 //: Row title in the editors list
-                 QCoreApplication::translate("KnownLocations", "Zed cache")),
+        withLinuxPaths(namedRow(QStringLiteral("Library/Caches/JetBrains/*"),
+                                //: Prefix of a row title in the editors list; an IDE folder such as IntelliJIdea2024.1 follows
+                                Naming::name(QCoreApplication::translate("KnownLocations", "JetBrains cache · "))),
+                       {QStringLiteral(".cache/JetBrains/*")}),
+        withLinuxPaths(fixedRow({QStringLiteral("Library/Caches/Zed")},
+                                //: Row title in the editors list
+                                QCoreApplication::translate("KnownLocations", "Zed cache")),
+                       {QStringLiteral(".cache/zed")}),
     };
 }
 
@@ -327,17 +350,17 @@ QList<Location> browsers()
 {
     return {
         browserRow("Library/Caches/com.apple.Safari", "Safari"),
-        browserRow("Library/Caches/Google/Chrome", "Google Chrome"),
-        browserRow("Library/Caches/Google/Chrome Canary", "Chrome Canary"),
-        browserRow("Library/Caches/Chromium", "Chromium"),
-        browserRow("Library/Caches/Microsoft Edge", "Microsoft Edge"),
-        browserRow("Library/Caches/BraveSoftware/Brave-Browser", "Brave"),
+        browserRow("Library/Caches/Google/Chrome", "Google Chrome", {".cache/google-chrome", ".cache/google-chrome-beta"}),
+        browserRow("Library/Caches/Google/Chrome Canary", "Chrome Canary", {".cache/google-chrome-unstable"}),
+        browserRow("Library/Caches/Chromium", "Chromium", {".cache/chromium"}),
+        browserRow("Library/Caches/Microsoft Edge", "Microsoft Edge", {".cache/microsoft-edge"}),
+        browserRow("Library/Caches/BraveSoftware/Brave-Browser", "Brave", {".cache/BraveSoftware/Brave-Browser"}),
         browserRow("Library/Caches/Arc", "Arc"),
         browserRow("Library/Caches/company.thebrowser.Browser", "Arc"),
-        browserRow("Library/Caches/Firefox", "Firefox"),
-        browserRow("Library/Caches/com.operasoftware.Opera", "Opera"),
-        browserRow("Library/Caches/Vivaldi", "Vivaldi"),
-        browserRow("Library/Caches/Yandex/YandexBrowser", "Yandex Browser"),
+        browserRow("Library/Caches/Firefox", "Firefox", {".cache/mozilla/firefox"}),
+        browserRow("Library/Caches/com.operasoftware.Opera", "Opera", {".cache/opera"}),
+        browserRow("Library/Caches/Vivaldi", "Vivaldi", {".cache/vivaldi"}),
+        browserRow("Library/Caches/Yandex/YandexBrowser", "Yandex Browser", {".cache/yandex-browser"}),
     };
 }
 
@@ -381,19 +404,39 @@ QList<Location> logs()
 const QSet<QString>& claimedCacheFolders()
 {
     static const QSet<QString> claimed = [] {
-        const QString prefix = QStringLiteral("Library/Caches/");
+        // Linux's ~/.cache also holds local AI models and logs, which have lists of their own;
+        // on macOS those groups name nothing in Library/Caches, so adding them changes nothing.
+        QStringList prefixes = {QStringLiteral("Library/Caches/")};
+        if (isLinux())
+            prefixes.append(QStringLiteral(".cache/"));
         QSet<QString> folders;
-        for (const QList<Location>& group : {xcode(), android(), packageCaches(), editors(), browsers()}) {
+        for (const QList<Location>& group : {xcode(), android(), packageCaches(), editors(), browsers(), aiModels(), logs()}) {
             for (const Location& location : group) {
                 for (const QString& pattern : location.paths) {
-                    if (pattern.startsWith(prefix))
-                        folders.insert(pattern.mid(prefix.size()).section(QLatin1Char('/'), 0, 0));
+                    for (const QString& prefix : prefixes) {
+                        if (pattern.startsWith(prefix))
+                            folders.insert(pattern.mid(prefix.size()).section(QLatin1Char('/'), 0, 0));
+                    }
                 }
             }
         }
         return folders;
     }();
     return claimed;
+}
+
+bool isSyncServiceData(const QString& name)
+{
+    // Caches of cloud-file services hold the state of what is synced; removing them can make
+    // the service fetch or upload everything again.
+    static const QStringList markers = {
+        QStringLiteral("com.apple.bird"), QStringLiteral("com.apple.cloudd"), QStringLiteral("clouddocs"),
+        QStringLiteral("cloudkit"), QStringLiteral("fileprovider"), QStringLiteral("icloud"),
+        QStringLiteral("dropbox"), QStringLiteral("onedrive"), QStringLiteral("drivefs"),
+        QStringLiteral("com.box."), QStringLiteral("nextcloud"), QStringLiteral("owncloud"),
+    };
+    const QString lower = name.toLower();
+    return std::any_of(markers.begin(), markers.end(), [&](const QString& marker) { return lower.contains(marker); });
 }
 
 bool isInSyncedHomeFolder(const QString& path, const QString& home)

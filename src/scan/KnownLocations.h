@@ -24,9 +24,15 @@ QList<Location> logs();
 // as one row with the given (localised) title.
 Location editorCaches(const QString& appFolder, const QString& title);
 
-// The folder names directly inside "Library/Caches/" that the Xcode, Android, package-cache,
-// editor and browser groups own, so the generic app-cache scan does not list them again.
+// The folder names directly inside "Library/Caches/" (and Linux's "~/.cache/") that the Xcode,
+// Android, package-cache, editor and browser groups own (on Linux also AI models and logs),
+// so the generic app-cache scan does not list them again.
 const QSet<QString>& claimedCacheFolders();
+
+// True when a cache or container folder of this name belongs to a cloud-file service
+// (iCloud Drive, Dropbox, OneDrive, Google Drive, ...), whose sync state the cache scans
+// leave alone.
+bool isSyncServiceData(const QString& name);
 
 // True when `path` lies in a cloud-synced folder directly in the home folder (Dropbox,
 // OneDrive, Google Drive, ...), which scans leave alone.

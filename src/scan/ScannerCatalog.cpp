@@ -1,9 +1,13 @@
 #include "scan/ScannerCatalog.h"
 
+#include "scan/AgentsScanner.h"
 #include "scan/AndroidScanner.h"
+#include "scan/AppCachesScanner.h"
 #include "scan/AppsScanner.h"
+#include "scan/BrowserCachesScanner.h"
 #include "scan/DevicesScanner.h"
 #include "scan/DockerScanner.h"
+#include "scan/EditorsScanner.h"
 #include "scan/InstallersScanner.h"
 #include "scan/KnownLocations.h"
 #include "scan/LeftoversScanner.h"
@@ -25,15 +29,15 @@ const std::vector<std::shared_ptr<const Scanner>>& all()
         std::make_shared<SimulatorScanner>(),
         std::make_shared<AndroidScanner>(),
         std::make_shared<LocationScanner>(CategoryID::packageCaches, KnownLocations::packageCaches()),
-        // EditorsScanner
+        std::make_shared<EditorsScanner>(),
         std::make_shared<DockerScanner>(),
         std::make_shared<LocationScanner>(CategoryID::aiModels, KnownLocations::aiModels()),
-        // AgentsScanner
+        std::make_shared<AgentsScanner>(),
         std::make_shared<AppsScanner>(),
         std::make_shared<LeftoversScanner>(),
-        // AppCachesScanner
+        std::make_shared<AppCachesScanner>(),
         std::make_shared<LocationScanner>(CategoryID::logs, KnownLocations::logs()),
-        // BrowserCachesScanner
+        std::make_shared<BrowserCachesScanner>(),
         std::make_shared<InstallersScanner>(),
         std::make_shared<OldDownloadsScanner>(),
         std::make_shared<TemporaryScanner>(),

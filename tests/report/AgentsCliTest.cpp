@@ -1,0 +1,115 @@
+#include "support/TempTree.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// One fixture home holding data for the agent, cache and package lists at once.
+class AgentsCliTest : public ::testing::Test {
+protected:
+    AgentsCliTest() : home(tree.dir(QStringLiteral("home"))) {}
+
+    void big(const char* relative) const { tree.file(QStringLiteral("home/") + QString::fromUtf8(relative), 1'500'000); }
+
+    QJsonArray scan() const
+    {
+        QProcess cli;
+        cli.start(QStringLiteral(DUSTLARK_CLI), {"scan", "--home", home, "--category", "aiAgents", "--category", "appCaches",
+                                                 "--category", "browserCaches", "--category", "editors", "--category",
+                                                 "packageCaches", "--json"});
+        EXPECT_TRUE(cli.waitForFinished(60'000));
+        EXPECT_EQ(cli.exitCode(), 0) << cli.readAllStandardError().constData();
+        return QJsonDocument::fromJson(cli.readAllStandardOutput())[QStringLiteral("categories")].toArray();
+    }
+
+    TempTree tree;
+    QString home;
+};
+
+QJsonObject itemTitled(const QJsonArray& categories, const QString& title)
+{
+    for (const QJsonValue& category : categories) {
+        for (const QJsonValue& item : category[QStringLiteral("items")].toArray()) {
+            if (item[QStringLiteral("title")].toString() == title)
+                return item.toObject();
+        }
+    }
+    return {};
+}
+
+QString categoryOf(const QJsonArray& categories, const QString& title)
+{
+    for (const QJsonValue& category : categories) {
+        for (const QJsonValue& item : category[QStringLiteral("items")].toArray()) {
+            if (item[QStringLiteral("title")].toString() == title)
+                return category[QStringLiteral("id")].toString();
+        }
+    }
+    return {};
+}
+
+}  // namespace
+
+TEST_F(AgentsCliTest, ShowsEachPlaceOnceAcrossTheCacheAndAgentLists)
+{
+    tree.file(QStringLiteral("home/.local/bin/claude"), 10);
+    tree.file(QStringLiteral("home/.local/bin/codex"), 10);
+    big(".claude/projects/-nowhere-proj/s.jsonl");
+    big(".codex/a.bak");
+    big(".codex/b.bak");
+    big(".cursor/chats/c.json");
+    big("Library/Application Support/Cursor/CachedData/x");
+    big("Library/Application Support/Cursor/Code Cache/x");
+    big("Library/Application Support/Code/CachedData/x");
+    big("Library/Application Support/Slack/Code Cache/x");
+    big("Library/Caches/Homebrew/x");
+    big("Library/Caches/Google/Chrome/x");
+    big("Library/Caches/com.example.Thing/x");
+    big(".cache/google-chrome/x");
+    big(".cache/uv/x");
+
+    const QJsonArray categories = scan();
+    const struct {
+        const char* title;
+        const char* category;
+    } expected[] = {
+        {"Claude Code sessions · /nowhere/proj", "aiAgents"}, {"Codex backup files (2)", "aiAgents"},
+        {"Cursor data · ~/.cursor", "aiAgents"}, {"Cursor data · ~/Library/Application Support/Cursor", "aiAgents"},
+        {"VS Code caches", "editors"}, {"Slack", "appCaches"}, {"Thing", "appCaches"},
+        {"Homebrew downloads", "packageCaches"}, {"Google Chrome", "browserCaches"},
+    };
+    for (const auto& one : expected)
+        EXPECT_EQ(categoryOf(categories, QString::fromUtf8(one.title)), QString::fromUtf8(one.category)) << one.title;
+
+    const QJsonObject sessions = itemTitled(categories, QStringLiteral("Claude Code sessions · /nowhere/proj"));
+    EXPECT_EQ(sessions[QStringLiteral("badge")].toString(), QStringLiteral("Claude"));
+    EXPECT_EQ(sessions[QStringLiteral("safety")].toString(), QStringLiteral("askAI"));
+    EXPECT_EQ(sessions[QStringLiteral("lockedReason")].toString(), QStringLiteral("Changed in the last day; a session may be running."));
+    const QJsonObject backups = itemTitled(categories, QStringLiteral("Codex backup files (2)"));
+    EXPECT_EQ(backups[QStringLiteral("id")].toString(), QStringLiteral("agents:Codex backup files"));
+    EXPECT_TRUE(backups[QStringLiteral("lockedReason")].isNull());
+    const QJsonObject slack = itemTitled(categories, QStringLiteral("Slack"));
+    EXPECT_EQ(slack[QStringLiteral("badge")].toString(), QStringLiteral("Inside app data"));
+    EXPECT_EQ(slack[QStringLiteral("safety")].toString(), QStringLiteral("safe"));
+
+    // No place is offered twice, neither itself nor inside another row's folder.
+    QStringList paths;
+    for (const QJsonValue& category : categories) {
+        for (const QJsonValue& item : category[QStringLiteral("items")].toArray()) {
+            for (const QJsonValue& path : item[QStringLiteral("paths")].toArray())
+                paths.append(path.toString());
+        }
+    }
+    EXPECT_GE(paths.size(), 12);
+    for (const QString& path : paths) {
+        for (const QString& other : paths) {
+            if (&path != &other)
+                EXPECT_FALSE(path == other || path.startsWith(other + QLatin1Char('/'))) << qPrintable(path) << " in " << qPrintable(other);
+        }
+    }
+}
