@@ -1,6 +1,6 @@
 #include "actions/Mover.h"
 
-#include "actions/Fingerprint.h"
+#include "machinery/Fingerprint.h"
 #include "actions/MoverReasons.h"
 #include "actions/MoverRun.h"
 #include "platform/Platform.h"

@@ -1,6 +1,6 @@
 #include "actions/MoverRun.h"
 
-#include "actions/Fingerprint.h"
+#include "machinery/Fingerprint.h"
 #include "actions/MoverCopy.h"
 #include "actions/MoverReasons.h"
 #include "actions/Remover.h"

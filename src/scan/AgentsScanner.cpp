@@ -50,13 +50,13 @@ std::optional<QString> lockedReason(const AgentsScanner::Row& row, const std::op
     return std::nullopt;
 }
 
-QString detailOf(const AgentsScanner::Row& row, const std::optional<QDateTime>& changed, const ScanContext& context)
+QString detailOf(const AgentsScanner::Row& row, const std::optional<QDateTime>& changed)
 {
     if (!changed)
         return row.note;
     //: Fact in the detail line of an AI agents row; %1 is a relative date like "3 days ago"
     const QString last = QCoreApplication::translate("AgentsScanner", "last changed %1")
-                             .arg(RelativeDate::format(*changed, context.now));
+                             .arg(RelativeDate::marker(*changed));
     return row.note + QStringLiteral(" · ") + last;
 }
 
@@ -75,7 +75,7 @@ std::optional<CleanupItem> AgentsScanner::item(const Row& row, const ScanContext
     item.category = CategoryID::aiAgents;
     item.title = row.title;
     item.badge = row.agent;
-    item.detail = detailOf(row, changed, context);
+    item.detail = detailOf(row, changed);
     item.size = measured.bytes;
     item.removal = Removal::trash(measured.targets);
     item.lockedReason = lockedReason(row, changed, context, running);

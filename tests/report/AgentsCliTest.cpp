@@ -108,8 +108,9 @@ TEST_F(AgentsCliTest, ShowsEachPlaceOnceAcrossTheCacheAndAgentLists)
     EXPECT_GE(paths.size(), 12);
     for (const QString& path : paths) {
         for (const QString& other : paths) {
-            if (&path != &other)
+            if (&path != &other) {
                 EXPECT_FALSE(path == other || path.startsWith(other + QLatin1Char('/'))) << qPrintable(path) << " in " << qPrintable(other);
+            }
         }
     }
 }
