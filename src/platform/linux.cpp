@@ -12,6 +12,7 @@
 #include <linux/fiemap.h>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
+#include <sys/prctl.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
@@ -155,6 +156,14 @@ std::optional<QDateTime> birthTime(const QString& path)
     return QDateTime::fromMSecsSinceEpoch(milliseconds, QTimeZone::utc());
 }
 
+std::optional<qint64> birthNanosecondsAt(int folder, const char* name)
+{
+    struct statx info {};
+    if (::statx(folder, name, AT_SYMLINK_NOFOLLOW, STATX_BTIME, &info) != 0 || (info.stx_mask & STATX_BTIME) == 0)
+        return std::nullopt;
+    return qint64(info.stx_btime.tv_sec) * 1'000'000'000 + info.stx_btime.tv_nsec;
+}
+
 std::optional<qint64> availableCapacity(const QString& path)
 {
     const auto info = volumeInfo(path);
@@ -180,6 +189,23 @@ QString machineDescription()
     if (processor.isEmpty())
         processor = QSysInfo::currentCpuArchitecture();
     return system + QStringLiteral(" on ") + processor;
+}
+
+bool adoptOrphans()
+{
+    return ::prctl(PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0) == 0;
+}
+
+std::vector<ProcessEntry> processTable()
+{
+    std::vector<ProcessEntry> table;
+    for (pid_t id : allProcessIds()) {
+        const QList<QByteArray> fields = statFieldsAfterName(id);  // state, parent, group, ...
+        if (fields.size() < 3)
+            continue;  // ended while the table was read
+        table.push_back({id, pid_t(fields[1].toLongLong()), pid_t(fields[2].toLongLong()), fields[0] == "Z"});
+    }
+    return table;
 }
 
 bool openPrivatePipe(int ends[2])
@@ -270,6 +296,11 @@ int renameNoReplace(const QString& from, const QString& to)
     if (::renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) == 0)
         return 0;
     return errno;
+}
+
+int renameNoReplaceAt(int fromFolder, const char* from, int toFolder, const char* to)
+{
+    return ::renameat2(fromFolder, from, toFolder, to, RENAME_NOREPLACE) == 0 ? 0 : errno;
 }
 
 qint64 modificationNanoseconds(const struct stat& info)

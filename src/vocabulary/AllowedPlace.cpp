@@ -1,5 +1,7 @@
 #include "vocabulary/AllowedPlace.h"
 
+#include "platform/Platform.h"
+#include "vocabulary/FileStatus.h"
 #include "vocabulary/PathRules.h"
 
 #include <QDir>
@@ -23,16 +25,36 @@ bool isNormalAbsolute(const QString& path)
 
 }  // namespace
 
-bool contains(const QString& path, const QString& home, const QStringList& otherVolumeFolders)
+bool isOtherVolume(const QString& folder, const QString& home)
+{
+    if (Platform::desktop() == Platform::Desktop::finder)
+        return folder.startsWith(QLatin1String("/Volumes/"));
+    // Linux mounts other disks anywhere (/mnt, /media, /run/media, a data partition), so the
+    // device number tells, not the path.
+    const auto folderStatus = FileStatus::of(folder);
+    const auto homeStatus = FileStatus::of(home);
+    return folderStatus && homeStatus && S_ISDIR(folderStatus->st_mode) && folderStatus->st_dev != homeStatus->st_dev;
+}
+
+QStringList otherVolumeFolders(const QStringList& scanFolders, const QString& home)
+{
+    QStringList folders;
+    for (const QString& folder : scanFolders) {
+        const QString clean = QDir::cleanPath(folder);
+        if (isOtherVolume(clean, home))
+            folders.append(clean);
+    }
+    return folders;
+}
+
+bool contains(const QString& path, const QString& home, const QStringList& scanFolders)
 {
     if (!isNormalAbsolute(path))
         return false;
     if (isStrictlyInside(path, QDir::cleanPath(home)) || isApplicationsBundle(path))
         return true;
-    return std::any_of(otherVolumeFolders.begin(), otherVolumeFolders.end(), [&](const QString& folder) {
-        const QString clean = QDir::cleanPath(folder);
-        return clean.startsWith(QLatin1String("/Volumes/")) && isStrictlyInside(path, clean);
-    });
+    const QStringList folders = otherVolumeFolders(scanFolders, home);
+    return std::any_of(folders.begin(), folders.end(), [&](const QString& folder) { return isStrictlyInside(path, folder); });
 }
 
 bool isApplicationsBundle(const QString& path)
