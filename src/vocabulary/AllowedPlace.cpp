@@ -3,6 +3,7 @@
 #include "platform/Platform.h"
 #include "vocabulary/FileStatus.h"
 #include "vocabulary/PathRules.h"
+#include "vocabulary/RemovalReasons.h"
 
 #include <QDir>
 
@@ -47,14 +48,34 @@ QStringList otherVolumeFolders(const QStringList& scanFolders, const QString& ho
     return folders;
 }
 
-bool contains(const QString& path, const QString& home, const QStringList& scanFolders)
+namespace {
+
+bool isInside(const QString& path, const QString& home, const QStringList& otherVolumes)
 {
     if (!isNormalAbsolute(path))
         return false;
     if (isStrictlyInside(path, QDir::cleanPath(home)) || isApplicationsBundle(path))
         return true;
-    const QStringList folders = otherVolumeFolders(scanFolders, home);
-    return std::any_of(folders.begin(), folders.end(), [&](const QString& folder) { return isStrictlyInside(path, folder); });
+    return std::any_of(otherVolumes.begin(), otherVolumes.end(), [&](const QString& folder) { return isStrictlyInside(path, folder); });
+}
+
+}  // namespace
+
+bool contains(const QString& path, const QString& home, const QStringList& scanFolders)
+{
+    return isInside(path, home, otherVolumeFolders(scanFolders, home));
+}
+
+QList<CleanupItem> lockedOutside(QList<CleanupItem> items, const QString& home, const QStringList& scanFolders)
+{
+    const QStringList otherVolumes = otherVolumeFolders(scanFolders, home);
+    for (CleanupItem& item : items) {
+        const QStringList paths = item.removal.paths();
+        const bool outside = std::any_of(paths.begin(), paths.end(), [&](const QString& path) { return !isInside(path, home, otherVolumes); });
+        if (outside && !item.lockedReason)
+            item.lockedReason = RemovalReasons::outsideHome();
+    }
+    return items;
 }
 
 bool isApplicationsBundle(const QString& path)

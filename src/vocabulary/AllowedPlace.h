@@ -1,5 +1,8 @@
 #pragma once
 
+#include "vocabulary/CleanupItem.h"
+
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -20,6 +23,11 @@ namespace AllowedPlace {
 
 // The cleaned `scanFolders` that lie on another disk than `home`.
 [[nodiscard]] QStringList otherVolumeFolders(const QStringList& scanFolders, const QString& home);
+
+// `items` with every row that removal would refuse for its place shown locked with the reason
+// "It is outside your home folder." instead of being offered (rows of scan folders outside the
+// home on the home's own disk). Rows already locked keep their reason.
+[[nodiscard]] QList<CleanupItem> lockedOutside(QList<CleanupItem> items, const QString& home, const QStringList& scanFolders);
 
 // True when `path` is an application bundle directly in "/Applications".
 [[nodiscard]] bool isApplicationsBundle(const QString& path);

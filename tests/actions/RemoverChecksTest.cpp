@@ -96,6 +96,34 @@ TEST_F(RemoverChecks, RefusesATargetReplacedByANewFileOfTheSameName)
     expectRefused(item, RemovalReasons::changedSinceScan());
 }
 
+// ext4 hands a freed inode straight back, so a deleted and recreated file or folder can carry
+// the scanned device and inode; its birth time gives it away.
+TEST_F(RemoverChecks, RefusesAnObjectDeletedAndMadeAgainWithTheSameInode)
+{
+    for (const bool folder : {false, true}) {
+        const QString path = home.path(QStringLiteral("again"));
+        const auto make = [&] { folder ? home.dir(QStringLiteral("again")) : home.file(QStringLiteral("again"), 10); };
+        const auto remove = [&] { folder ? QDir().rmdir(path) : QFile::remove(path); };
+        std::optional<FileTarget> scanned;
+        bool reused = false;
+        for (int attempt = 0; attempt < 50 && !reused; ++attempt) {
+            make();
+            scanned = FileTarget::make(path);
+            remove();
+            make();
+            reused = FileStatus::of(path)->st_ino == scanned->inode;
+            if (!reused)
+                remove();
+        }
+        if (!reused || !scanned->birth)
+            GTEST_SKIP() << "this file system hands out no inode twice or keeps no birth times";
+        CleanupItem item = trashItem({path});
+        std::get<Removal::Trash>(item.removal.value).targets[0] = *scanned;
+        expectRefused(item, RemovalReasons::changedSinceScan());
+        remove();
+    }
+}
+
 TEST_F(RemoverChecks, RefusesAFileWhoseContentChangedButNotItsSize)
 {
     const QString path = home.file(QStringLiteral("data.db"), 100, 'a');
