@@ -3,7 +3,8 @@
 set -euo pipefail
 
 DEBIAN_PACKAGES=(qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
-    libssl-dev libplist-dev libgtest-dev libgmock-dev cmake g++ git pkg-config ccache xvfb xauth python3)
+    libssl-dev libplist-dev libgtest-dev libgmock-dev cmake g++ git pkg-config ccache xvfb xauth python3
+    trash-cli)
 BREW_PACKAGES=(qt openssl@3 libplist googletest cmake pkg-config)
 
 as_root() {

@@ -187,17 +187,17 @@ pid_t launch(const QByteArray& path, const CStringArray& arguments, const CStrin
     }
     capture.out.fd = outputPipe[0];
     capture.err.fd = errorPipe[0];
-    pid_t pid = -1;
     const SpawnSetup setup(outputPipe[1], errorPipe[1]);
-    const int error = posix_spawn(&pid, path.constData(), &setup.actions, &setup.attributes,
-                                  arguments.data(), environment.data());
+    const pid_t tool = ToolStop::launchRegistered([&]() -> pid_t {
+        pid_t pid = -1;
+        const int error = posix_spawn(&pid, path.constData(), &setup.actions, &setup.attributes, arguments.data(),
+                                      environment.data());
+        return error == 0 ? pid : -error;
+    });
     // The tool holds its own copies now; ours would keep the pipes from ever reaching end of file.
     ::close(outputPipe[1]);
     ::close(errorPipe[1]);
-    if (error != 0)
-        return -error;
-    ToolStop::registerTool(pid);
-    return pid;
+    return tool;
 }
 
 QList<QByteArray> argumentVector(const QString& executable, const QStringList& arguments)

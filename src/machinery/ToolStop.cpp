@@ -18,26 +18,30 @@ constexpr std::chrono::milliseconds roundInterval{50};
 std::mutex toolsMutex;
 QSet<pid_t> launchedTools;  // guarded by toolsMutex
 
-bool isLaunchedTool(pid_t pid)
+// Read after the process table, so every tool in the table is in it.
+QSet<pid_t> launchedToolsNow()
 {
     const std::lock_guard lock(toolsMutex);
-    return launchedTools.contains(pid);
+    return launchedTools;
 }
 
 // An orphan this process adopted: our child, not one of the tools, and not in our own group
 // (children that other parts of the application start stay in it).
-bool isAdoptedOrphan(const Platform::ProcessEntry& entry)
+bool isAdoptedOrphan(const Platform::ProcessEntry& entry, const QSet<pid_t>& tools)
 {
-    return entry.parent == ::getpid() && entry.group != ::getpgrp() && !isLaunchedTool(entry.pid);
+    return entry.parent == ::getpid() && entry.group != ::getpgrp() && !tools.contains(entry.pid);
 }
 
-// The tool, its group, the orphans adopted from it, and all their descendants.
-QList<Platform::ProcessEntry> treeOf(pid_t tool, const std::vector<Platform::ProcessEntry>& table)
+// The tool, its group, the orphans adopted from it, and all their descendants. `seen` holds every
+// process found in earlier rounds: a process whose parent ended while the table was read still
+// names that parent, and is caught through it until it has been adopted.
+QList<Platform::ProcessEntry> treeOf(pid_t tool, const std::vector<Platform::ProcessEntry>& table, const QSet<pid_t>& seen)
 {
+    const QSet<pid_t> tools = launchedToolsNow();
     QSet<pid_t> found;
     QList<Platform::ProcessEntry> tree;
     for (const Platform::ProcessEntry& entry : table) {
-        if (entry.pid == tool || entry.group == tool || isAdoptedOrphan(entry)) {
+        if (entry.pid == tool || entry.group == tool || seen.contains(entry.parent) || isAdoptedOrphan(entry, tools)) {
             found.insert(entry.pid);
             tree.append(entry);
         }
@@ -53,10 +57,10 @@ QList<Platform::ProcessEntry> treeOf(pid_t tool, const std::vector<Platform::Pro
     return tree;
 }
 
-// An ended orphan that we adopted stays a zombie until we collect it.
+// An ended orphan that we adopted stays a zombie until we collect it; a tool is collected by its run.
 void collectIfAdopted(const Platform::ProcessEntry& entry)
 {
-    if (entry.parent == ::getpid() && !isLaunchedTool(entry.pid))
+    if (entry.parent == ::getpid() && !launchedToolsNow().contains(entry.pid))
         ::waitpid(entry.pid, nullptr, WNOHANG);
 }
 
@@ -73,7 +77,7 @@ bool ToolStop::round(bool toolCollected)
 {
     const Clock::time_point now = Clock::now();
     if (now - m_lastRound < roundInterval)
-        return toolCollected && m_nothingLeft;
+        return toolCollected && nothingLeft();
     m_lastRound = now;
     const bool graceOver = now - m_started >= gracePeriod;
     if (graceOver && !m_groupKilled) {
@@ -81,7 +85,8 @@ bool ToolStop::round(bool toolCollected)
         m_groupKilled = true;
     }
     bool anyAlive = false;
-    for (const Platform::ProcessEntry& entry : treeOf(m_tool, Platform::processTable())) {
+    for (const Platform::ProcessEntry& entry : treeOf(m_tool, Platform::processTable(), m_seen)) {
+        m_seen.insert(entry.pid);
         if (entry.ended) {
             collectIfAdopted(entry);
             continue;
@@ -89,8 +94,9 @@ bool ToolStop::round(bool toolCollected)
         anyAlive = true;
         signal(entry.pid, graceOver);
     }
-    m_nothingLeft = !anyAlive;
-    return toolCollected && (m_nothingLeft || now - m_started >= gracePeriod + unkillableLimit);
+    // Two empty rounds in a row: an orphan on its way to its new parent shows up in one of them.
+    m_quietRounds = anyAlive ? 0 : m_quietRounds + 1;
+    return toolCollected && (nothingLeft() || now - m_started >= gracePeriod + unkillableLimit);
 }
 
 void ToolStop::signal(pid_t pid, bool graceOver)
@@ -108,10 +114,13 @@ void ToolStop::signal(pid_t pid, bool graceOver)
     }
 }
 
-void ToolStop::registerTool(pid_t tool)
+pid_t ToolStop::launchRegistered(const std::function<pid_t()>& spawn)
 {
     const std::lock_guard lock(toolsMutex);
-    launchedTools.insert(tool);
+    const pid_t tool = spawn();
+    if (tool > 0)
+        launchedTools.insert(tool);
+    return tool;
 }
 
 void ToolStop::forgetTool(pid_t tool)

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QHash>
+#include <QSet>
 
 #include <chrono>
+#include <functional>
 #include <sys/types.h>
 
 // Stops one tool that ProcessRunner launched in a process group of its own, together with
@@ -22,20 +24,24 @@ public:
     // (an unkillable process waiting on a device), so the run can return.
     [[nodiscard]] bool round(bool toolCollected);
 
-    // Every launched tool is registered from launch until its exit is collected, so an orphan
-    // adopted by this process is never mistaken for another run's tool. Thread-safe.
-    static void registerTool(pid_t tool);
+    // Every launched tool is registered from launch until its exit is collected, so another
+    // run's tool is never mistaken for an orphan this process adopted. `spawn` starts the tool
+    // and returns its id (or a negative number); no search reads the registry while it runs, so
+    // a tool can't be seen before it is registered. Thread-safe.
+    static pid_t launchRegistered(const std::function<pid_t()>& spawn);
     static void forgetTool(pid_t tool);
 
 private:
     using Clock = std::chrono::steady_clock;
 
     void signal(pid_t pid, bool graceOver);
+    bool nothingLeft() const { return m_quietRounds >= 2; }
 
     pid_t m_tool;
     Clock::time_point m_started;
     Clock::time_point m_lastRound;
     QHash<pid_t, qint64> m_terminated;  // process id -> start time, for those sent SIGTERM
+    QSet<pid_t> m_seen;                 // every process found in the tree so far
     bool m_groupKilled = false;
-    bool m_nothingLeft = false;
+    int m_quietRounds = 0;              // rounds in a row that found nothing alive
 };

@@ -302,14 +302,17 @@ TEST(ProcessRunner, OutputBeyondTheCapIsDroppedAndTheFloodStopped)
 }
 
 // Runs every shape many times, several at once, so orphans of concurrent runs mix. Set
-// DUSTLARK_STRESS_RUNS (e.g. 1000) to run it; see docs/reliability.md.
+// DUSTLARK_STRESS_RUNS (e.g. 1000) to run it, DUSTLARK_STRESS_SHAPES to pick shapes
+// (comma-separated); see docs/reliability.md.
 TEST(ProcessRunnerStress, EveryShapeLeavesNoSurvivors)
 {
     const int runs = qEnvironmentVariableIntValue("DUSTLARK_STRESS_RUNS");
     if (runs <= 0)
         GTEST_SKIP() << "stress mode: set DUSTLARK_STRESS_RUNS";
-    const QStringList shapes{QStringLiteral("sleep"), QStringLiteral("ignore-term"), QStringLiteral("double-fork"),
-                             QStringLiteral("term-trap"), QStringLiteral("flood")};
+    QStringList shapes{QStringLiteral("sleep"), QStringLiteral("ignore-term"), QStringLiteral("double-fork"),
+                       QStringLiteral("term-trap"), QStringLiteral("flood")};
+    if (qEnvironmentVariableIsSet("DUSTLARK_STRESS_SHAPES"))
+        shapes = qEnvironmentVariable("DUSTLARK_STRESS_SHAPES").split(QLatin1Char(','));
     constexpr int parallel = 16;
     for (const QString& shape : shapes) {
         std::atomic<int> next{0};
