@@ -107,64 +107,47 @@ protected:
     void emptyTrash() const { ASSERT_EQ(FreedesktopTrash::empty(), std::nullopt); }
 
     void expectWorkingFolderUntouched() const { EXPECT_EQ(workingFolderEntries(), workingFolderBefore); }
+    void raceFile(const QString& relative, const QString& swapped, const QString& elsewhere, const QString& victim);
 
     QStringList workingFolderBefore;
 };
+
+// Rounds of: a fresh file at `relative` in the home, removed while `swapped` (the file or its
+// folder) keeps turning into a link to `elsewhere`, whose file `victim` must stay as it is.
+void TrashRace::raceFile(const QString& relative, const QString& swapped, const QString& elsewhere, const QString& victim)
+{
+    const QString path = home.path(relative);
+    for (int round = 0; round < rounds(); ++round) {
+        home.file(relative, QByteArray("scanned"));
+        const CleanupItem item = trashItem({path});
+        RemovalOutcome outcome;
+        {
+            const Swapper swapper(swapped, elsewhere);
+            outcome = Remover::remove(item, environment);
+        }
+        const QString place = whereIs(item.removal.as<Removal::Trash>()->targets[0].inode, {path}, path);
+        ASSERT_TRUE(place == path || place == QStringLiteral("trash")) << "round " << round << ": " << qPrintable(place);
+        ASSERT_EQ(outcome == RemovalOutcome::movedToTrash(), place == QStringLiteral("trash")) << "round " << round;
+        const auto outside = statusOf(victim);
+        ASSERT_TRUE(outside && S_ISREG(outside->st_mode) && outside->st_size == 9) << "round " << round << ": it moved";
+        QFile::remove(path);
+        emptyTrash();
+    }
+    expectWorkingFolderUntouched();
+}
 
 TEST_F(TrashRace, TargetSwappedForALinkDuringTheMove)
 {
     TempTree outside;
     const QString victim = outside.file(QStringLiteral("secret.txt"), QByteArray("not yours"));
-    const QString path = home.path(QStringLiteral("Downloads/old.zip"));
-    int moved = 0;
-    for (int round = 0; round < rounds(); ++round) {
-        home.file(QStringLiteral("Downloads/old.zip"), QByteArray("scanned"));
-        const CleanupItem item = trashItem({path});
-        const quint64 inode = item.removal.as<Removal::Trash>()->targets[0].inode;
-        RemovalOutcome outcome;
-        {
-            const Swapper swapper(path, victim);
-            outcome = Remover::remove(item, environment);
-        }
-        const QString place = whereIs(inode, {path}, path);
-        ASSERT_TRUE(place == path || place == QStringLiteral("trash")) << "round " << round << ": " << qPrintable(place);
-        ASSERT_EQ(outcome == RemovalOutcome::movedToTrash(), place == QStringLiteral("trash")) << "round " << round;
-        ASSERT_TRUE(statusOf(victim) && !S_ISLNK(statusOf(victim)->st_mode)) << "round " << round;
-        moved += place == QStringLiteral("trash");
-        QFile::remove(path);
-        emptyTrash();
-    }
-    EXPECT_EQ(QFile(victim).size(), 9);
-    EXPECT_EQ(outside.path(QStringLiteral("secret.txt")), victim);
-    EXPECT_EQ(QDir(outside.root()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{QStringLiteral("secret.txt")});
-    expectWorkingFolderUntouched();
-    RecordProperty("moved", moved);
+    raceFile(QStringLiteral("Downloads/old.zip"), home.path(QStringLiteral("Downloads/old.zip")), victim, victim);
 }
 
 TEST_F(TrashRace, ParentFolderSwappedForALinkDuringTheMove)
 {
     TempTree outside;
     const QString victim = outside.file(QStringLiteral("project/notes.txt"), QByteArray("not yours"));
-    const QString folder = home.path(QStringLiteral("project"));
-    const QString path = folder + QStringLiteral("/notes.txt");
-    for (int round = 0; round < rounds(); ++round) {
-        home.file(QStringLiteral("project/notes.txt"), QByteArray("scanned"));
-        const CleanupItem item = trashItem({path});
-        const quint64 inode = item.removal.as<Removal::Trash>()->targets[0].inode;
-        RemovalOutcome outcome;
-        {
-            const Swapper swapper(folder, outside.path(QStringLiteral("project")));
-            outcome = Remover::remove(item, environment);
-        }
-        const QString place = whereIs(inode, {path}, path);
-        ASSERT_TRUE(place == path || place == QStringLiteral("trash")) << "round " << round << ": " << qPrintable(place);
-        ASSERT_EQ(outcome == RemovalOutcome::movedToTrash(), place == QStringLiteral("trash")) << "round " << round;
-        ASSERT_TRUE(statusOf(victim).has_value()) << "round " << round << ": the file outside the home moved";
-        QFile::remove(path);
-        emptyTrash();
-    }
-    EXPECT_EQ(QFile(victim).size(), 9);
-    expectWorkingFolderUntouched();
+    raceFile(QStringLiteral("project/notes.txt"), home.path(QStringLiteral("project")), outside.path(QStringLiteral("project")), victim);
 }
 
 // Go's module cache is made writable before it moves; a folder inside it swapped for a link
