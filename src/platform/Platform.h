@@ -31,9 +31,6 @@ QString machineDescription();
 
 // ---- Processes ----
 
-// Direct children of a process; empty when they cannot be listed.
-std::vector<pid_t> childProcesses(pid_t parent);
-
 // When the process started, as seconds x 1,000,000 + microseconds since 1970; absent when
 // its information cannot be read (it has ended, or is not ours to see).
 std::optional<qint64> processStartTime(pid_t pid);
@@ -52,6 +49,7 @@ struct ProcessEntry {
     pid_t parent = 0;
     pid_t group = 0;      // process group
     bool ended = false;   // a zombie: ended, not yet collected by its parent
+    bool operator==(const ProcessEntry&) const = default;
 };
 
 // Every process the person can see, read in one pass; empty when the table can't be read.

@@ -35,16 +35,6 @@ QList<QByteArray> statFieldsAfterName(pid_t pid)
     return line.mid(nameEnd + 2).trimmed().split(' ');
 }
 
-std::optional<qint64> parentOf(pid_t pid)
-{
-    const QList<QByteArray> fields = statFieldsAfterName(pid);
-    if (fields.size() < 2)
-        return std::nullopt;
-    bool ok = false;
-    const qint64 parent = fields[1].toLongLong(&ok);
-    return ok ? std::optional<qint64>(parent) : std::nullopt;
-}
-
 QList<pid_t> allProcessIds()
 {
     QList<pid_t> ids;
@@ -98,18 +88,6 @@ std::optional<struct statvfs> volumeInfo(const QString& path)
 }
 
 }  // namespace
-
-std::vector<pid_t> childProcesses(pid_t parent)
-{
-    // /proc/PID/task/*/children needs a kernel option that is often off; the parent field of
-    // every process's stat file is always there.
-    std::vector<pid_t> children;
-    for (pid_t id : allProcessIds()) {
-        if (parentOf(id) == parent)
-            children.push_back(id);
-    }
-    return children;
-}
 
 std::optional<qint64> processStartTime(pid_t pid)
 {

@@ -59,13 +59,6 @@ std::optional<qint64> volumeNumber(const QString& path, CFStringRef key)
 
 }  // namespace
 
-std::vector<pid_t> childProcesses(pid_t parent)
-{
-    std::vector<pid_t> ids(4096);
-    const int count = proc_listchildpids(parent, ids.data(), int(ids.size() * sizeof(pid_t)));
-    return positiveIds(std::move(ids), count);
-}
-
 std::optional<qint64> processStartTime(pid_t pid)
 {
     struct proc_bsdinfo info {};
