@@ -77,12 +77,16 @@ protected:
     void SetUp() override
     {
         TrashFixture::SetUp();
-        workingFolderBefore = workingFolderEntries();
+        workingFolderBefore = trashLikeEntries();
     }
 
-    static QStringList workingFolderEntries()
+    // What a trash falling back to the working folder leaves there. Only these names: other
+    // test programs may share the working folder.
+    static QStringList trashLikeEntries()
     {
-        return QDir::current().entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+        const QString ownTrash = QStringLiteral(".Trash-") + QString::number(::getuid());
+        return QDir::current().entryList({ownTrash, QStringLiteral(".Trash"), QStringLiteral("files"), QStringLiteral("info")},
+                                         QDir::AllEntries | QDir::Hidden | QDir::System);
     }
 
     // Where the object with `inode` is now: at one of `places`, or in the Trash (whose info file
@@ -106,7 +110,7 @@ protected:
 
     void emptyTrash() const { ASSERT_EQ(FreedesktopTrash::empty(), std::nullopt); }
 
-    void expectWorkingFolderUntouched() const { EXPECT_EQ(workingFolderEntries(), workingFolderBefore); }
+    void expectWorkingFolderUntouched() const { EXPECT_EQ(trashLikeEntries(), workingFolderBefore); }
     void raceFile(const QString& relative, const QString& swapped, const QString& elsewhere, const QString& victim);
 
     QStringList workingFolderBefore;
