@@ -6,9 +6,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QStandardPaths>
-#include <QStorageInfo>
 
 #include <fts.h>
 #include <sys/stat.h>
@@ -20,30 +18,11 @@ namespace {
 
 const QString infoSuffix = QStringLiteral(".trashinfo");
 
-QString canonical(const QString& path)
-{
-    const QString resolved = QFileInfo(path).canonicalFilePath();
-    return resolved.isEmpty() ? QDir::cleanPath(path) : resolved;
-}
-
 bool makeOwnerOnlyFolder(const QString& path)
 {
     if (!QDir().mkpath(path))
         return false;
     return QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-}
-
-QStringList allowedFilesFolders(const QString& originalPath)
-{
-    QStringList folders{homeTrash() + QStringLiteral("/files")};
-    const QString top = QStorageInfo(QFileInfo(originalPath).path()).rootPath();
-    if (top.isEmpty())
-        return folders;
-    const QString uid = QString::number(::getuid());
-    const QString base = top.endsWith(QLatin1Char('/')) ? top : top + QLatin1Char('/');
-    folders << base + QStringLiteral(".Trash/") + uid + QStringLiteral("/files")
-            << base + QStringLiteral(".Trash-") + uid + QStringLiteral("/files");
-    return folders;
 }
 
 bool lexists(const QString& path)
@@ -114,27 +93,6 @@ bool prepareHomeTrash()
         return false;
     return makeOwnerOnlyFolder(trash) && makeOwnerOnlyFolder(trash + QStringLiteral("/files"))
         && makeOwnerOnlyFolder(trash + QStringLiteral("/info"));
-}
-
-bool isTrashLocation(const QString& pathInTrash, const QString& originalPath)
-{
-    if (!QDir::isAbsolutePath(pathInTrash))
-        return false;
-    const QString folder = canonical(QFileInfo(pathInTrash).path());
-    for (const QString& allowed : allowedFilesFolders(originalPath)) {
-        if (QFileInfo::exists(allowed) && canonical(allowed) == folder)
-            return true;
-    }
-    return false;
-}
-
-QString infoFile(const QString& pathInTrash)
-{
-    const QFileInfo object(pathInTrash);
-    const QDir files = object.dir();
-    if (files.dirName() != QLatin1String("files"))
-        return {};
-    return QFileInfo(files.path()).path() + QStringLiteral("/info/") + object.fileName() + infoSuffix;
 }
 
 std::optional<QString> empty()

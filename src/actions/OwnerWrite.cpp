@@ -1,54 +1,102 @@
 #include "actions/OwnerWrite.h"
 
+#include "actions/Descriptor.h"
+
 #include <QFile>
 
-#include <fts.h>
+#include <cerrno>
+#include <dirent.h>
+#include <fcntl.h>
 #include <sys/stat.h>
 
 namespace OwnerWrite {
 
 namespace {
 
-bool needsWrite(const FTSENT* entry)
-{
-    switch (entry->fts_info) {
-    case FTS_D:
-    case FTS_DNR:
-    case FTS_F:
-    case FTS_DEFAULT:
-        return (entry->fts_statp->st_mode & S_IWUSR) == 0;
-    default:
-        return false;  // links, post-order folders, entries without status
-    }
-}
+constexpr int depthLimit = 512;
+constexpr int entryFlags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
 
 // A folder also needs search and read permission to be entered and listed.
-mode_t withOwnerAccess(const FTSENT* entry)
+bool grant(int fd, const struct stat& info)
 {
-    const mode_t mode = entry->fts_statp->st_mode & 07777;
-    if (entry->fts_info == FTS_F || entry->fts_info == FTS_DEFAULT)
-        return mode | S_IWUSR;
-    return mode | S_IRWXU;
+    const mode_t wanted = S_ISDIR(info.st_mode) ? S_IRWXU : S_IWUSR;
+    if ((info.st_mode & wanted) == wanted)
+        return true;
+    return ::fchmod(fd, (info.st_mode & 07777) | wanted) == 0;
+}
+
+// Opens a folder entry; one its owner can't read is first given read and search permission
+// through the folder, without following a link (that call fails on one).
+Descriptor openEntry(int folder, const char* name, const struct stat& listed)
+{
+    Descriptor entry(::openat(folder, name, entryFlags | (S_ISDIR(listed.st_mode) ? O_DIRECTORY : 0)));
+    if (entry.isValid() || errno != EACCES)
+        return entry;
+    if (::fchmodat(folder, name, (listed.st_mode & 07777) | S_IRWXU, AT_SYMLINK_NOFOLLOW) != 0)
+        return entry;
+    entry.reset(::openat(folder, name, entryFlags | (S_ISDIR(listed.st_mode) ? O_DIRECTORY : 0)));
+    return entry;
+}
+
+bool addBelow(int folder, int depth);
+
+// Only folders and regular files: links are left alone, and opening a device or a pipe could
+// have effects of its own.
+bool addEntry(int folder, const char* name, int depth)
+{
+    struct stat listed {};
+    if (::fstatat(folder, name, &listed, AT_SYMLINK_NOFOLLOW) != 0)
+        return errno == ENOENT;
+    if (!S_ISDIR(listed.st_mode) && !S_ISREG(listed.st_mode))
+        return true;
+    const Descriptor entry = openEntry(folder, name, listed);
+    struct stat opened {};
+    if (!entry.isValid() || ::fstat(entry.get(), &opened) != 0)
+        return false;
+    if (opened.st_dev != listed.st_dev || opened.st_ino != listed.st_ino)
+        return false;  // swapped between the two looks: leave whatever it is now alone
+    const bool granted = grant(entry.get(), opened);
+    return S_ISDIR(opened.st_mode) ? addBelow(entry.get(), depth + 1) && granted : granted;
+}
+
+bool addBelow(int folder, int depth)
+{
+    if (depth > depthLimit)
+        return false;
+    const int listing = ::openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    DIR* entries = listing >= 0 ? ::fdopendir(listing) : nullptr;
+    if (!entries) {
+        if (listing >= 0)
+            ::close(listing);
+        return false;
+    }
+    bool allWritable = true;
+    while (const dirent* entry = ::readdir(entries)) {
+        const QByteArray name(entry->d_name);
+        if (name != "." && name != ".." && !addEntry(::dirfd(entries), entry->d_name, depth))
+            allWritable = false;
+    }
+    ::closedir(entries);
+    return allWritable;
 }
 
 }  // namespace
 
+bool addThroughTree(int root)
+{
+    struct stat info {};
+    if (::fstat(root, &info) != 0)
+        return false;
+    if (!S_ISDIR(info.st_mode) && !S_ISREG(info.st_mode))
+        return true;
+    const bool granted = grant(root, info);
+    return S_ISDIR(info.st_mode) ? addBelow(root, 0) && granted : granted;
+}
+
 bool addThroughTree(const QString& path)
 {
-    QByteArray root = QFile::encodeName(path);
-    char* roots[] = {root.data(), nullptr};
-    FTS* tree = ::fts_open(roots, FTS_PHYSICAL | FTS_NOCHDIR | FTS_XDEV, nullptr);
-    if (!tree)
-        return false;
-    bool allWritable = true;
-    while (FTSENT* entry = ::fts_read(tree)) {
-        if (entry->fts_info == FTS_NS || entry->fts_info == FTS_ERR)
-            allWritable = false;
-        if (needsWrite(entry) && ::chmod(entry->fts_accpath, withOwnerAccess(entry)) != 0)
-            allWritable = false;
-    }
-    ::fts_close(tree);
-    return allWritable;
+    const Descriptor root(::open(QFile::encodeName(path).constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    return root.isValid() ? addThroughTree(root.get()) : errno == ELOOP;
 }
 
 }  // namespace OwnerWrite

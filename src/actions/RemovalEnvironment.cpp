@@ -3,6 +3,7 @@
 #include "actions/SystemTrash.h"
 #include "machinery/DockerEndpoint.h"
 #include "platform/Platform.h"
+#include "vocabulary/AllowedPlace.h"
 #include "vocabulary/SharedScanFolders.h"
 
 #include <QDir>
@@ -11,7 +12,7 @@ RemovalEnvironment RemovalEnvironment::current()
 {
     RemovalEnvironment environment;
     environment.home = QDir::cleanPath(QDir::homePath());
-    environment.otherVolumeFolders = SharedScanFolders::current();
+    environment.otherVolumeFolders = AllowedPlace::otherVolumeFolders(SharedScanFolders::current(), environment.home);
     environment.tools = ToolLocations::standard(environment.home);
     environment.dockerScan = DockerScanRecord::last();
     environment.dockerHostVariable = DockerEndpoint::hostVariable();
@@ -28,7 +29,7 @@ QStringList RemovalEnvironment::systemRunningExecutables()
     return Platform::runningExecutables();
 }
 
-TrashResult RemovalEnvironment::systemTrash(const QString& path)
+TrashResult RemovalEnvironment::systemTrash(const TrashRequest& request)
 {
-    return SystemTrash::move(path);
+    return SystemTrash::move(request);
 }

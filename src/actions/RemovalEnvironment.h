@@ -17,7 +17,7 @@
 // clock, process list and Trash but no home folder, so it allows nothing. A plain value.
 struct RemovalEnvironment {
     QString home;                    // no trailing "/"
-    QStringList otherVolumeFolders;  // scan folders on other disks, below "/Volumes/"
+    QStringList otherVolumeFolders;  // scan folders on another disk than the home, decided when prepared
     std::function<QDateTime()> now = &systemNow;
     std::function<QStringList()> runningExecutables = &systemRunningExecutables;
     TrashOperation trash = &systemTrash;
@@ -32,5 +32,5 @@ struct RemovalEnvironment {
 
     static QDateTime systemNow();
     static QStringList systemRunningExecutables();
-    static TrashResult systemTrash(const QString& path);
+    static TrashResult systemTrash(const TrashRequest& request);
 };

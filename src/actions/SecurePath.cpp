@@ -4,6 +4,7 @@
 #include <QList>
 
 #include <cerrno>
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -11,30 +12,6 @@
 namespace SecurePath {
 
 namespace {
-
-// Closes its descriptor when it goes out of scope.
-class Descriptor {
-public:
-    explicit Descriptor(int fd) : m_fd(fd) {}
-    ~Descriptor()
-    {
-        if (m_fd >= 0)
-            ::close(m_fd);
-    }
-    Q_DISABLE_COPY_MOVE(Descriptor)
-
-    int get() const { return m_fd; }
-    bool isValid() const { return m_fd >= 0; }
-    void reset(int fd)
-    {
-        if (m_fd >= 0)
-            ::close(m_fd);
-        m_fd = fd;
-    }
-
-private:
-    int m_fd;
-};
 
 bool sameObject(const struct stat& a, const struct stat& b)
 {
@@ -68,29 +45,69 @@ Verdict descend(Descriptor& folder, const QByteArray& name, const QByteArray& pr
     return sameObject(byPath, byDescriptor) ? Verdict::ok : Verdict::changed;
 }
 
+bool roundTrips(const char* name)
+{
+    const QByteArray bytes(name);
+    return QFile::encodeName(QFile::decodeName(bytes)) == bytes;
+}
+
 }  // namespace
 
-Finding examine(const QString& path)
+OpenedParent openParent(const QString& path)
 {
     const QByteArray encoded = QFile::encodeName(path);
     QList<QByteArray> names = encoded.split('/');
     names.removeAll(QByteArray());
+    OpenedParent opened;
     if (!encoded.startsWith('/') || names.isEmpty())
-        return {};
-    Descriptor folder(::open("/", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (!folder.isValid())
-        return {};
+        return opened;
+    opened.folder.reset(::open("/", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!opened.folder.isValid())
+        return opened;
     QByteArray prefix;
     for (qsizetype i = 0; i + 1 < names.size(); ++i) {
         prefix += '/' + names[i];
-        const Verdict verdict = descend(folder, names[i], prefix);
-        if (verdict != Verdict::ok)
-            return {verdict};
+        opened.verdict = descend(opened.folder, names[i], prefix);
+        if (opened.verdict != Verdict::ok)
+            return opened;
     }
+    opened.verdict = Verdict::ok;
+    opened.name = names.last();
+    return opened;
+}
+
+Finding examine(const QString& path)
+{
+    const OpenedParent parent = openParent(path);
+    if (parent.verdict != Verdict::ok)
+        return {parent.verdict};
     struct stat last {};
-    if (::fstatat(folder.get(), names.last().constData(), &last, AT_SYMLINK_NOFOLLOW) != 0)
+    if (::fstatat(parent.folder.get(), parent.name.constData(), &last, AT_SYMLINK_NOFOLLOW) != 0)
         return {errno == ENOENT ? Verdict::missing : Verdict::folderUnreadable};
     return {Verdict::ok, qint32(last.st_dev), quint64(last.st_ino)};
+}
+
+bool isAmbiguousName(int folder, const QByteArray& name)
+{
+    static const QByteArray replacement = QString(QChar::ReplacementCharacter).toUtf8();
+    if (!name.contains(replacement))
+        return false;
+    const int listing = ::openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    DIR* entries = listing >= 0 ? ::fdopendir(listing) : nullptr;
+    if (!entries) {
+        if (listing >= 0)
+            ::close(listing);
+        return true;  // can't tell, so don't guess which object the name means
+    }
+    bool ambiguous = false;
+    while (const dirent* entry = ::readdir(entries)) {
+        if (!roundTrips(entry->d_name) && QFile::encodeName(QFile::decodeName(entry->d_name)) == name) {
+            ambiguous = true;
+            break;
+        }
+    }
+    ::closedir(entries);
+    return ambiguous;
 }
 
 }  // namespace SecurePath

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "actions/Descriptor.h"
+
+#include <QByteArray>
 #include <QString>
 #include <QtGlobal>
 
@@ -24,7 +27,25 @@ struct Finding {
     quint64 inode = 0;
 };
 
+// The folder that holds a path's final entry, opened through descriptors, and that entry's
+// name as the system spells it. Whatever happens to the path string afterwards, `folder` stays
+// the folder that was checked.
+struct OpenedParent {
+    Verdict verdict = Verdict::folderUnreadable;  // ok, or why the folder could not be opened
+    Descriptor folder;
+    QByteArray name;
+};
+
 // `path` must be absolute.
 [[nodiscard]] Finding examine(const QString& path);
+
+// Opens the folder above `path` (absolute) without following any symbolic link; the final
+// entry itself is neither opened nor required to exist.
+[[nodiscard]] OpenedParent openParent(const QString& path);
+
+// True when `name` (from a decoded path) could stand for more than one entry of `folder`: it
+// holds the replacement character and the folder has an entry whose bytes are not valid text
+// and decode to the same name. Such a name can't say which object it means.
+[[nodiscard]] bool isAmbiguousName(int folder, const QByteArray& name);
 
 }  // namespace SecurePath

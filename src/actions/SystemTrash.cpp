@@ -1,73 +1,89 @@
 #include "actions/SystemTrash.h"
 
+#include "actions/Descriptor.h"
 #include "actions/FreedesktopTrash.h"
 #include "platform/Platform.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
 #include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace SystemTrash {
 
 namespace {
 
-bool usesFreedesktopTrash()
+bool sameObject(int a, int b)
 {
-    return Platform::desktop() == Platform::Desktop::freedesktop;
+    struct stat first {};
+    struct stat second {};
+    return ::fstat(a, &first) == 0 && ::fstat(b, &second) == 0 && first.st_dev == second.st_dev
+        && first.st_ino == second.st_ino;
 }
 
-QString trashNotAvailable()
+bool isRequested(int folder, const QByteArray& name, const TrashRequest& request)
 {
-    //: Why a file couldn't be moved to the Trash: the system's Trash folder is missing and can't be made
-    return QCoreApplication::translate("SystemTrash", "The Trash folder can't be set up.");
+    struct stat info {};
+    if (::fstatat(folder, name.constData(), &info, AT_SYMLINK_NOFOLLOW) != 0)
+        return false;
+    return qint32(info.st_dev) == request.device && quint64(info.st_ino) == request.inode
+        && (!request.birth || Platform::birthNanosecondsAt(folder, name.constData()) == request.birth);
 }
 
-bool folderIsWritable(const QString& path)
+Descriptor openFolderByPath(const QString& path)
 {
-    const QByteArray folder = QFile::encodeName(QFileInfo(path).path());
-    return ::access(folder.constData(), W_OK | X_OK) == 0 || (errno != EACCES && errno != EPERM && errno != EROFS);
+    return Descriptor(::open(QFile::encodeName(QFileInfo(path).path()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
 }
 
-TrashResult failure(const QFile& file, const QString& path)
+bool folderIsWritable(int folder)
 {
-    return {std::nullopt, file.errorString(), !folderIsWritable(path)};
+    return ::faccessat(folder, ".", W_OK | X_OK, 0) == 0 || (errno != EACCES && errno != EPERM && errno != EROFS);
 }
 
-// Qt 6.4 reports success even when it had to fall back to the working folder; take such a
-// move back rather than leave the object somewhere nobody looks.
-TrashResult undoStrayMove(const QString& strayPath, const QString& originalPath)
+const TrashResult anotherObject{std::nullopt, QString(), false, true};
+
+// The file manager's trash takes only a path, so the system itself resolves the path once more
+// inside the call. What can be narrowed is narrowed:
+//  - right before the call, the folder the path names now (links followed, as the file manager
+//    will follow them) must be the folder checked through descriptors, and must still hold the
+//    requested object;
+//  - right after it, the object that landed in the Trash (the call returns its new place) must
+//    be the requested one;
+//  - a different object is moved back through the folder descriptor held from before the call,
+//    never over anything, when that folder is still what the path names: the object can only
+//    have come from there. Otherwise it stays in the Trash, whose "Put Back" knows its origin.
+// What remains is the time between `resolved` being opened and the system's own lookup inside
+// moveToTrash: microseconds, and no smaller window exists while the only trash call that keeps
+// "Put Back" working takes a path.
+TrashResult moveThroughFileManager(const TrashRequest& request)
 {
-    Platform::renameNoReplace(strayPath, originalPath);
-    return {std::nullopt, trashNotAvailable(), false};
+    const Descriptor resolved = openFolderByPath(request.path);
+    if (!resolved.isValid() || !sameObject(resolved.get(), request.folder) || !isRequested(request.folder, request.name, request))
+        return anotherObject;
+    QFile file(request.path);
+    if (!file.moveToTrash())
+        return {std::nullopt, file.errorString(), !folderIsWritable(request.folder), false};
+    const QString landed = file.fileName();  // Qt renames the QFile to its place in the Trash
+    const Descriptor trash = openFolderByPath(landed);
+    const QByteArray landedName = QFile::encodeName(QFileInfo(landed).fileName());
+    if (trash.isValid() && isRequested(trash.get(), landedName, request))
+        return {landed, QString(), false, false};
+    const Descriptor nowResolved = openFolderByPath(request.path);
+    if (trash.isValid() && nowResolved.isValid() && sameObject(nowResolved.get(), resolved.get()))
+        Platform::renameNoReplaceAt(trash.get(), landedName.constData(), resolved.get(), request.name.constData());
+    return anotherObject;
 }
 
 }  // namespace
 
-TrashResult move(const QString& path)
+TrashResult move(const TrashRequest& request)
 {
-    if (usesFreedesktopTrash() && !FreedesktopTrash::prepareHomeTrash())
-        return {std::nullopt, trashNotAvailable(), false};
-    QFile file(path);
-    if (!file.moveToTrash())
-        return failure(file, path);
-    const QString pathInTrash = file.fileName();  // Qt renames the QFile to its place in the Trash
-    if (!QFileInfo(pathInTrash).isAbsolute())
-        return undoStrayMove(pathInTrash, path);
-    if (usesFreedesktopTrash() && !FreedesktopTrash::isTrashLocation(pathInTrash, path))
-        return undoStrayMove(pathInTrash, path);
-    return {pathInTrash, QString(), false};
-}
-
-void discardRecord(const QString& pathInTrash)
-{
-    if (!usesFreedesktopTrash())
-        return;
-    const QString info = FreedesktopTrash::infoFile(pathInTrash);
-    if (!info.isEmpty())
-        QFile::remove(info);
+    if (Platform::desktop() == Platform::Desktop::freedesktop)
+        return FreedesktopTrash::moveAt(request);
+    return moveThroughFileManager(request);
 }
 
 }  // namespace SystemTrash

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <fcntl.h>
 #include <sys/stat.h>
 
 namespace TargetCheck {
@@ -41,11 +42,6 @@ std::optional<QString> vanishedProblem(const FileTarget& target, int error)
     return RemovalReasons::noLongerExists();
 }
 
-bool hasSameContent(const FileTarget::ContentStamp& stamp, const struct stat& info)
-{
-    return stamp.size == qint64(info.st_size) && stamp.modified == Platform::modificationNanoseconds(info);
-}
-
 // Checks 3 to 6: the object found at the path is the one the scan saw, unchanged.
 std::optional<QString> objectProblem(const FileTarget& target, const struct stat& info,
                                      const RemovalEnvironment& environment)
@@ -53,6 +49,8 @@ std::optional<QString> objectProblem(const FileTarget& target, const struct stat
     if (S_ISLNK(info.st_mode))
         return RemovalReasons::symbolicLink();
     if (!isSameObject(target, qint32(info.st_dev), quint64(info.st_ino)))
+        return RemovalReasons::changedSinceScan();
+    if (target.birth && Platform::birthNanosecondsAt(AT_FDCWD, QFile::encodeName(target.path).constData()) != target.birth)
         return RemovalReasons::changedSinceScan();
     if (target.content && !hasSameContent(*target.content, info))
         return RemovalReasons::changedSinceScan();
@@ -136,6 +134,12 @@ std::optional<QString> problem(const FileTarget& target, const RemovalEnvironmen
 bool isInAllowedPlace(const QString& path, const RemovalEnvironment& environment)
 {
     return AllowedPlace::contains(path, environment.home, environment.otherVolumeFolders);
+}
+
+bool hasSameContent(const FileTarget::ContentStamp& stamp, const struct stat& info)
+{
+    return stamp.size == qint64(info.st_size) && stamp.modified == Platform::modificationNanoseconds(info)
+        && (!stamp.changed || *stamp.changed == Platform::statusChangeNanoseconds(info));
 }
 
 bool usedByRunningApp(const QStringList& programs, const QStringList& runningExecutables)

@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <optional>
+#include <sys/stat.h>
 
 // The checks a file target must pass right before it goes to the Trash, against what the scan
 // saw. Thread-safe; runs on the removing worker thread. Anything that can't be read refuses.
@@ -26,6 +27,9 @@ namespace TargetCheck {
 // True when one of `programs` runs: an executable of that name, or one inside "<name>.app".
 // Names compare without regard to case, as macOS names do.
 [[nodiscard]] bool usedByRunningApp(const QStringList& programs, const QStringList& runningExecutables);
+
+// Whether a regular file's status matches the content stamp the scan recorded.
+[[nodiscard]] bool hasSameContent(const FileTarget::ContentStamp& stamp, const struct stat& info);
 
 // The running-program check alone: the reason, or nothing.
 [[nodiscard]] std::optional<QString> runningProblem(const FileTarget& target, const RemovalEnvironment& environment);

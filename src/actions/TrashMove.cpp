@@ -1,10 +1,10 @@
 #include "actions/TrashMove.h"
 
+#include "actions/Descriptor.h"
 #include "actions/FinderTrash.h"
 #include "actions/MovedTargets.h"
 #include "actions/OwnerWrite.h"
 #include "actions/SecurePath.h"
-#include "actions/SystemTrash.h"
 #include "actions/TargetCheck.h"
 #include "platform/Platform.h"
 #include "vocabulary/AllowedPlace.h"
@@ -13,50 +13,80 @@
 
 #include <QFile>
 
+#include <cerrno>
+#include <fcntl.h>
 #include <sys/stat.h>
 
 namespace TrashMove {
 
 namespace {
 
-bool lexists(const QString& path)
-{
-    return FileStatus::exists(path);
-}
-
 bool isInGoModuleCache(const QString& path)
 {
     return path.contains(QLatin1String("/go/pkg/mod"));
 }
 
-// The last look, through descriptors, right before the move: still the same object.
-std::optional<QString> lastLookProblem(const FileTarget& target)
+std::optional<QString> openingProblem(SecurePath::Verdict verdict)
 {
-    const SecurePath::Finding finding = SecurePath::examine(target.path);
-    if (finding.verdict == SecurePath::Verdict::throughSymbolicLink)
+    switch (verdict) {
+    case SecurePath::Verdict::ok:
+        return std::nullopt;
+    case SecurePath::Verdict::throughSymbolicLink:
         return RemovalReasons::pathThroughSymbolicLink();
-    if (finding.verdict != SecurePath::Verdict::ok || finding.device != target.device || finding.inode != target.inode)
+    case SecurePath::Verdict::folderUnreadable:
+        return RemovalReasons::folderUnreadable();
+    case SecurePath::Verdict::changed:
+    case SecurePath::Verdict::missing:
+        break;
+    }
+    return RemovalReasons::changedSinceScan();
+}
+
+// The scanned object, unchanged: identity with birth time, and the content stamp for a file.
+bool isScannedObject(const FileTarget& target, const struct stat& info, std::optional<qint64> birth)
+{
+    if (S_ISLNK(info.st_mode) || qint32(info.st_dev) != target.device || quint64(info.st_ino) != target.inode)
+        return false;
+    if (target.birth && birth != target.birth)
+        return false;
+    return !target.content || TargetCheck::hasSameContent(*target.content, info);
+}
+
+// The last look, through the folder's descriptor, right before the move.
+std::optional<QString> lastLookProblem(const FileTarget& target, const SecurePath::OpenedParent& parent)
+{
+    if (auto problem = openingProblem(parent.verdict))
+        return problem;
+    if (SecurePath::isAmbiguousName(parent.folder.get(), parent.name))
+        return RemovalReasons::ambiguousName();
+    struct stat info {};
+    if (::fstatat(parent.folder.get(), parent.name.constData(), &info, AT_SYMLINK_NOFOLLOW) != 0)
+        return errno == ENOENT ? RemovalReasons::noLongerExists() : RemovalReasons::folderUnreadable();
+    const auto birth = Platform::birthNanosecondsAt(parent.folder.get(), parent.name.constData());
+    if (!isScannedObject(target, info, birth))
         return RemovalReasons::changedSinceScan();
     return std::nullopt;
 }
 
-bool arrivedUnchanged(const FileTarget& target, const QString& pathInTrash)
+// Go keeps its module cache read-only. The permissions change through a descriptor of the
+// object itself, checked to be the scanned one, so no link swapped in is ever followed.
+std::optional<QString> makeWritable(const FileTarget& target, const SecurePath::OpenedParent& parent)
 {
-    const auto info = FileStatus::of(pathInTrash);
-    return info && qint32(info->st_dev) == target.device && quint64(info->st_ino) == target.inode;
-}
-
-// Something else was swapped in between the last look and the move: return it to where it was,
-// never over whatever may be there by now.
-void putBack(const QString& pathInTrash, const QString& originalPath)
-{
-    if (Platform::renameNoReplace(pathInTrash, originalPath) == 0)
-        SystemTrash::discardRecord(pathInTrash);
+    const Descriptor root(::openat(parent.folder.get(), parent.name.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    struct stat info {};
+    if (!root.isValid() || ::fstat(root.get(), &info) != 0)
+        return RemovalReasons::changedSinceScan();
+    if (qint32(info.st_dev) != target.device || quint64(info.st_ino) != target.inode)
+        return RemovalReasons::changedSinceScan();
+    OwnerWrite::addThroughTree(root.get());
+    return std::nullopt;
 }
 
 std::optional<QString> trashRefused(const FileTarget& target, const TrashResult& result,
                                     const RemovalEnvironment& environment)
 {
+    if (result.wrongObject)
+        return RemovalReasons::changedSinceScan();
     if (!result.permissionDenied || !AllowedPlace::isApplicationsBundle(target.path))
         return RemovalReasons::trashFailed(result.error);
     auto finderProblem = FinderTrash::moveToTrash(target.path, environment.tools.osascript, environment.cancellation);
@@ -65,23 +95,27 @@ std::optional<QString> trashRefused(const FileTarget& target, const TrashResult&
     return finderProblem;
 }
 
+TrashRequest requestFor(const FileTarget& target, const SecurePath::OpenedParent& parent)
+{
+    return {target.path, parent.folder.get(), parent.name, target.device, target.inode, target.birth};
+}
+
 }  // namespace
 
 std::optional<QString> moveOne(const FileTarget& target, const RemovalEnvironment& environment)
 {
-    if (!lexists(target.path) && MovedTargets::contains(target))
+    if (!FileStatus::exists(target.path) && MovedTargets::contains(target))
         return std::nullopt;
-    if (auto problem = lastLookProblem(target))
+    const SecurePath::OpenedParent parent = SecurePath::openParent(target.path);
+    if (auto problem = lastLookProblem(target, parent))
         return problem;
-    if (isInGoModuleCache(target.path))
-        OwnerWrite::addThroughTree(target.path);
-    const TrashResult result = environment.trash(target.path);
+    if (isInGoModuleCache(target.path)) {
+        if (auto problem = makeWritable(target, parent))
+            return problem;
+    }
+    const TrashResult result = environment.trash(requestFor(target, parent));
     if (!result.moved())
         return trashRefused(target, result, environment);
-    if (!arrivedUnchanged(target, *result.pathInTrash)) {
-        putBack(*result.pathInTrash, target.path);
-        return RemovalReasons::changedSinceScan();
-    }
     MovedTargets::record(target);
     return std::nullopt;
 }

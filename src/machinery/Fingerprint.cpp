@@ -109,9 +109,11 @@ void Walk::add(const QByteArray& relativePath, const struct stat& info)
     m_stamp.stamps += entryHash(relativePath, {qint64(info.st_size), Platform::modificationNanoseconds(info)});
 }
 
+// Finder writes ".DS_Store" files into folders it shows; only such a file is noise. A folder or
+// a link of that name is someone's data like any other.
 bool isIgnored(const FTSENT* entry)
 {
-    return std::strcmp(entry->fts_name, ".DS_Store") == 0;
+    return entry->fts_info == FTS_F && std::strcmp(entry->fts_name, ".DS_Store") == 0;
 }
 
 }  // namespace
@@ -129,10 +131,8 @@ std::optional<TreeStamp> compute(const QString& path, const CancellationToken* c
     bool stopped = false;
     errno = 0;
     while (FTSENT* entry = ::fts_read(tree)) {
-        if (isIgnored(entry)) {
-            ::fts_set(tree, entry, FTS_SKIP);
+        if (isIgnored(entry))
             continue;
-        }
         if (!walk.visit(entry)) {
             stopped = true;
             break;

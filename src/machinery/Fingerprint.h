@@ -12,7 +12,7 @@
 namespace Fingerprint {
 
 // Walks `path` (a file or a folder) without following symbolic links and without leaving its
-// volume, ignoring ".DS_Store" files. Entries that can't be read are counted in `unreadable`
+// volume, ignoring regular files named ".DS_Store". Entries that can't be read are counted in `unreadable`
 // rather than failing the walk. Absent when `cancellation` (may be null) fired during the walk,
 // since a partial summary would be mistaken for a change.
 [[nodiscard]] std::optional<TreeStamp> compute(const QString& path,

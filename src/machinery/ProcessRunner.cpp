@@ -1,5 +1,6 @@
 #include "machinery/ProcessRunner.h"
 
+#include "machinery/ToolStop.h"
 #include "platform/Platform.h"
 
 #include <QCoreApplication>
@@ -29,7 +30,6 @@ using std::chrono::milliseconds;
 constexpr qsizetype outputCap = 64 * 1024 * 1024;
 constexpr milliseconds pollInterval{20};
 constexpr milliseconds drainLimit = 100 * pollInterval;
-constexpr std::chrono::seconds killDelay{5};
 constexpr milliseconds longestTimeout = std::chrono::hours(24 * 365);  // keeps the deadline from overflowing
 constexpr int messageLimit = 300;
 
@@ -53,6 +53,13 @@ void Stream::close()
     if (fd >= 0)
         ::close(fd);
     fd = -1;
+}
+
+// Appends `data` to `buffer` but never beyond `cap` bytes; the rest is dropped.
+void appendCapped(QByteArray& buffer, const char* data, qsizetype size, qsizetype cap)
+{
+    const qsizetype room = std::max<qsizetype>(0, cap - buffer.size());
+    buffer.append(data, std::min(size, room));
 }
 
 void Stream::readAvailable()
@@ -124,7 +131,8 @@ private:
 };
 
 // posix_spawn's file actions and attributes for one tool: null input, the outputs on the given
-// pipe ends, every signal at its default and none blocked, whatever the calling thread has.
+// pipe ends, every signal at its default and none blocked, whatever the calling thread has, in a
+// process group of its own so that a stop reaches everything it starts.
 class SpawnSetup {
 public:
     SpawnSetup(int outputEnd, int errorEnd)
@@ -142,8 +150,9 @@ public:
         posix_spawnattr_init(&attributes);
         posix_spawnattr_setsigmask(&attributes, &noSignals);
         posix_spawnattr_setsigdefault(&attributes, &allSignals);
-        posix_spawnattr_setflags(&attributes,
-                                 short(POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF | Platform::extraSpawnFlags()));
+        posix_spawnattr_setpgroup(&attributes, 0);
+        posix_spawnattr_setflags(&attributes, short(POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETPGROUP
+                                                    | Platform::extraSpawnFlags()));
     }
     ~SpawnSetup()
     {
@@ -178,14 +187,17 @@ pid_t launch(const QByteArray& path, const CStringArray& arguments, const CStrin
     }
     capture.out.fd = outputPipe[0];
     capture.err.fd = errorPipe[0];
-    pid_t pid = -1;
     const SpawnSetup setup(outputPipe[1], errorPipe[1]);
-    const int error = posix_spawn(&pid, path.constData(), &setup.actions, &setup.attributes,
-                                  arguments.data(), environment.data());
+    const pid_t tool = ToolStop::launchRegistered([&]() -> pid_t {
+        pid_t pid = -1;
+        const int error = posix_spawn(&pid, path.constData(), &setup.actions, &setup.attributes, arguments.data(),
+                                      environment.data());
+        return error == 0 ? pid : -error;
+    });
     // The tool holds its own copies now; ours would keep the pipes from ever reaching end of file.
     ::close(outputPipe[1]);
     ::close(errorPipe[1]);
-    return error == 0 ? pid : -error;
+    return tool;
 }
 
 QList<QByteArray> argumentVector(const QString& executable, const QStringList& arguments)
@@ -225,23 +237,6 @@ std::optional<qint32> reap(pid_t pid)
     return -1;  // already collected elsewhere (SIGCHLD ignored): it has ended all the same
 }
 
-// SIGTERM to the tool and its descendants now, SIGKILL 5 s later to those still the same
-// processes. The follow-up outlives the run.
-void stop(pid_t tool)
-{
-    std::vector<StoppedProcess> processes = processTree(tool);
-    for (const StoppedProcess& process : processes)
-        ::kill(process.pid, SIGTERM);
-    try {
-        std::thread([processes = std::move(processes)] {
-            std::this_thread::sleep_for(killDelay);
-            killUnchanged(processes);
-        }).detach();
-    } catch (const std::system_error&) {
-        // No thread to spare: the SIGTERM stands alone, and the run still waits for the tool.
-    }
-}
-
 // When a running tool must be stopped: its deadline has passed, or the caller cancelled.
 struct StopCondition {
     Clock::time_point deadline;
@@ -251,20 +246,22 @@ struct StopCondition {
     bool expired() const { return Clock::now() >= deadline; }
 };
 
-// Reads the tool's outputs until it has ended and returns its status, stopping it once when
-// the condition says so.
+// Reads the tool's outputs until it has ended and returns its status. Once the condition says
+// so, the tool's whole tree is stopped, and the call returns only when none of it is left.
 qint32 waitForExit(pid_t tool, Capture& capture, const StopCondition& condition, bool& timedOut)
 {
-    bool stopped = false;
+    std::optional<ToolStop> stop;
+    std::optional<qint32> status;
     milliseconds idle{1};
     for (;;) {
-        if (const std::optional<qint32> status = reap(tool))
-            return *status;
-        if (!stopped && (condition.cancelled() || condition.expired())) {
+        if (!status && (status = reap(tool)))
+            ToolStop::forgetTool(tool);
+        if (!stop && !status && (condition.cancelled() || condition.expired())) {
             timedOut = !condition.cancelled();
-            stop(tool);
-            stopped = true;
+            stop.emplace(tool);
         }
+        if (stop ? stop->round(status.has_value()) : status.has_value())
+            return *status;
         if (!capture.allClosed()) {
             capture.pump(pollInterval);
             continue;
@@ -285,24 +282,6 @@ void drain(Capture& capture)
         if (left.count() <= 0)
             return;
         capture.pump(std::min(left, pollInterval));
-    }
-}
-
-void collectDescendants(pid_t parent, std::vector<StoppedProcess>& into, int depth);
-
-void appendIfReadable(pid_t pid, std::vector<StoppedProcess>& into)
-{
-    if (const std::optional<qint64> startTime = Platform::processStartTime(pid))
-        into.push_back({pid, *startTime});
-}
-
-void collectDescendants(pid_t parent, std::vector<StoppedProcess>& into, int depth)
-{
-    if (depth > 64)
-        return;  // real process trees are shallow; this only guards against a list read mid-change
-    for (pid_t child : Platform::childProcesses(parent)) {
-        collectDescendants(child, into, depth + 1);
-        appendIfReadable(child, into);
     }
 }
 
@@ -358,6 +337,8 @@ Result run(const QString& executable, const QStringList& arguments, milliseconds
     const CStringArray argumentStrings(argumentVector(executable, arguments));
     const CStringArray environmentStrings(environmentVector(environment));
 
+    static const bool adopting = Platform::adoptOrphans();  // once per process, before the first launch
+    Q_UNUSED(adopting)
     Capture capture;
     const pid_t tool = launch(QFile::encodeName(executable), argumentStrings, environmentStrings, capture);
     if (tool < 0)
@@ -401,28 +382,6 @@ Environment cleanedEnvironment(const Environment& inherited, const QString& home
                    QStringLiteral("/usr/bin:/bin:/usr/sbin:/sbin:/usr/local/bin:/opt/homebrew/bin:") + home
                        + QStringLiteral("/.docker/bin"));
     return cleaned;
-}
-
-void appendCapped(QByteArray& buffer, const char* data, qsizetype size, qsizetype cap)
-{
-    const qsizetype room = std::max<qsizetype>(0, cap - buffer.size());
-    buffer.append(data, std::min(size, room));
-}
-
-std::vector<StoppedProcess> processTree(pid_t root)
-{
-    std::vector<StoppedProcess> tree;
-    collectDescendants(root, tree, 0);
-    appendIfReadable(root, tree);
-    return tree;
-}
-
-void killUnchanged(const std::vector<StoppedProcess>& processes)
-{
-    for (const StoppedProcess& process : processes) {
-        if (Platform::processStartTime(process.pid) == process.startTime)
-            ::kill(process.pid, SIGKILL);
-    }
 }
 
 }  // namespace ProcessRunner

@@ -2,15 +2,12 @@
 
 #include "machinery/CancellationToken.h"
 
-#include <QByteArray>
 #include <QMap>
 #include <QString>
 #include <QStringList>
 
 #include <chrono>
 #include <optional>
-#include <sys/types.h>
-#include <vector>
 
 // Runs one command-line tool (docker, git, xcrun, osascript, ...) as a child process: no shell,
 // a cleaned environment with a fixed PATH, null input, both outputs captured, a time limit, and
@@ -50,9 +47,10 @@ struct Result {
 // Runs `executable` (a full path, never looked up in PATH) with `arguments` and blocks the
 // calling worker thread until the tool has ended and its output is collected. The environment is
 // baseEnvironment() with `extraEnvironment` laid over it. When `timeout` runs out, or
-// `cancellation` (may be null) fires, the tool and its descendants are stopped: SIGTERM now,
-// SIGKILL 5 s later to those still the same processes. A grandchild that keeps an output open
-// holds the call at most about 2 s after the tool itself ended. Never call on the GUI thread.
+// `cancellation` (may be null) fires, the tool and everything it started are stopped (ToolStop):
+// SIGTERM now, SIGKILL 5 s later to what is left, and the call returns once nothing is left. A
+// grandchild that keeps an output open holds the call at most about 2 s after the tool itself
+// ended. Never call on the GUI thread.
 [[nodiscard]] Result run(const QString& executable, const QStringList& arguments,
                          std::chrono::milliseconds timeout, const Environment& extraEnvironment = {},
                          const CancellationToken* cancellation = nullptr);
@@ -68,23 +66,5 @@ struct Result {
 // repository git picks (GIT_*) or docker's build plug-in (BUILDX_*), with PATH set to the
 // system folders, Homebrew's and `home`/.docker/bin.
 [[nodiscard]] Environment cleanedEnvironment(const Environment& inherited, const QString& home);
-
-// Appends `data` to `buffer` but never beyond `cap` bytes; the rest is dropped.
-void appendCapped(QByteArray& buffer, const char* data, qsizetype size, qsizetype cap);
-
-// One process found while stopping a tool, with the start time that identifies it.
-struct StoppedProcess {
-    pid_t pid = 0;
-    qint64 startTime = 0;  // Platform::processStartTime when it was found
-    bool operator==(const StoppedProcess&) const = default;
-};
-
-// `root` and all its descendants, each process's descendants before the process itself, so
-// `root` comes last. Processes whose start time cannot be read are left out.
-[[nodiscard]] std::vector<StoppedProcess> processTree(pid_t root);
-
-// Sends SIGKILL to each process whose current start time still equals the recorded one, so a
-// process id the system has meanwhile given to another program is never hit.
-void killUnchanged(const std::vector<StoppedProcess>& processes);
 
 }  // namespace ProcessRunner

@@ -31,15 +31,29 @@ QString machineDescription();
 
 // ---- Processes ----
 
-// Direct children of a process; empty when they cannot be listed.
-std::vector<pid_t> childProcesses(pid_t parent);
-
 // When the process started, as seconds x 1,000,000 + microseconds since 1970; absent when
 // its information cannot be read (it has ended, or is not ours to see).
 std::optional<qint64> processStartTime(pid_t pid);
 
 // The executable path of every process the person can see.
 QStringList runningExecutables();
+
+// Makes this process the adopter of its descendants' orphans (a Linux child subreaper), so a
+// tool's grandchild whose parent exited stays findable and can be stopped. False where the
+// system has no such notion (macOS: orphans go to launchd and are found by process group).
+bool adoptOrphans();
+
+// One row of the system's process table.
+struct ProcessEntry {
+    pid_t pid = 0;
+    pid_t parent = 0;
+    pid_t group = 0;      // process group
+    bool ended = false;   // a zombie: ended, not yet collected by its parent
+    bool operator==(const ProcessEntry&) const = default;
+};
+
+// Every process the person can see, read in one pass; empty when the table can't be read.
+std::vector<ProcessEntry> processTable();
 
 // Opens a pipe whose two ends no launched program inherits unless they are handed over
 // explicitly (close-on-exec from the start where the system allows it). False, with errno
@@ -72,6 +86,11 @@ std::optional<QDateTime> birthTime(const QString& path);
 // macOS); absent where the system keeps none of its own.
 std::optional<QString> userTempFolder();
 
+// The creation time of `name` inside the open folder `folder` (AT_FDCWD for a path), in
+// nanoseconds since 1970, of a final symbolic link itself; absent where the file system keeps
+// none (statx btime on Linux, st_birthtime on macOS).
+std::optional<qint64> birthNanosecondsAt(int folder, const char* name);
+
 // Modification, status-change and access times of a status record in nanoseconds since 1970,
 // at the file system's own precision (the fields are named differently on each system).
 qint64 modificationNanoseconds(const struct stat& info);
@@ -88,6 +107,10 @@ std::optional<QByteArray> sharedStorageKey(const QString& path);
 // renamex_np RENAME_EXCL on macOS), so an object is never put back over another. 0 on success,
 // otherwise the errno (EEXIST when the name is taken).
 int renameNoReplace(const QString& from, const QString& to);
+
+// renameNoReplace between two open folders: `from` inside `fromFolder` becomes `to` inside
+// `toFolder`, only when `to` is free. 0 on success, otherwise the errno (EXDEV across volumes).
+int renameNoReplaceAt(int fromFolder, const char* from, int toFolder, const char* to);
 
 // ---- Volumes ----
 

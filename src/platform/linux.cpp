@@ -12,6 +12,7 @@
 #include <linux/fiemap.h>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
+#include <sys/prctl.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
@@ -32,16 +33,6 @@ QList<QByteArray> statFieldsAfterName(pid_t pid)
     if (nameEnd < 0)
         return {};
     return line.mid(nameEnd + 2).trimmed().split(' ');
-}
-
-std::optional<qint64> parentOf(pid_t pid)
-{
-    const QList<QByteArray> fields = statFieldsAfterName(pid);
-    if (fields.size() < 2)
-        return std::nullopt;
-    bool ok = false;
-    const qint64 parent = fields[1].toLongLong(&ok);
-    return ok ? std::optional<qint64>(parent) : std::nullopt;
 }
 
 QList<pid_t> allProcessIds()
@@ -98,18 +89,6 @@ std::optional<struct statvfs> volumeInfo(const QString& path)
 
 }  // namespace
 
-std::vector<pid_t> childProcesses(pid_t parent)
-{
-    // /proc/PID/task/*/children needs a kernel option that is often off; the parent field of
-    // every process's stat file is always there.
-    std::vector<pid_t> children;
-    for (pid_t id : allProcessIds()) {
-        if (parentOf(id) == parent)
-            children.push_back(id);
-    }
-    return children;
-}
-
 std::optional<qint64> processStartTime(pid_t pid)
 {
     static const qint64 bootSeconds = bootTimeSeconds();
@@ -165,6 +144,14 @@ std::optional<QString> userTempFolder()
     return std::nullopt;  // Linux keeps no per-user temporary folder; $TMPDIR is the person's choice
 }
 
+std::optional<qint64> birthNanosecondsAt(int folder, const char* name)
+{
+    struct statx info {};
+    if (::statx(folder, name, AT_SYMLINK_NOFOLLOW, STATX_BTIME, &info) != 0 || (info.stx_mask & STATX_BTIME) == 0)
+        return std::nullopt;
+    return qint64(info.stx_btime.tv_sec) * 1'000'000'000 + info.stx_btime.tv_nsec;
+}
+
 std::optional<qint64> availableCapacity(const QString& path)
 {
     const auto info = volumeInfo(path);
@@ -190,6 +177,23 @@ QString machineDescription()
     if (processor.isEmpty())
         processor = QSysInfo::currentCpuArchitecture();
     return system + QStringLiteral(" on ") + processor;
+}
+
+bool adoptOrphans()
+{
+    return ::prctl(PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0) == 0;
+}
+
+std::vector<ProcessEntry> processTable()
+{
+    std::vector<ProcessEntry> table;
+    for (pid_t id : allProcessIds()) {
+        const QList<QByteArray> fields = statFieldsAfterName(id);  // state, parent, group, ...
+        if (fields.size() < 3)
+            continue;  // ended while the table was read
+        table.push_back({id, pid_t(fields[1].toLongLong()), pid_t(fields[2].toLongLong()), fields[0] == "Z"});
+    }
+    return table;
 }
 
 bool openPrivatePipe(int ends[2])
@@ -280,6 +284,11 @@ int renameNoReplace(const QString& from, const QString& to)
     if (::renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) == 0)
         return 0;
     return errno;
+}
+
+int renameNoReplaceAt(int fromFolder, const char* from, int toFolder, const char* to)
+{
+    return ::renameat2(fromFolder, from, toFolder, to, RENAME_NOREPLACE) == 0 ? 0 : errno;
 }
 
 qint64 modificationNanoseconds(const struct stat& info)

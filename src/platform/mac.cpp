@@ -13,6 +13,7 @@
 #include <fcntl.h>
 #include <libproc.h>
 #include <spawn.h>
+#include <sys/proc.h>
 #include <sys/sysctl.h>
 #include <unistd.h>
 
@@ -60,13 +61,6 @@ std::optional<qint64> volumeNumber(const QString& path, CFStringRef key)
 
 }  // namespace
 
-std::vector<pid_t> childProcesses(pid_t parent)
-{
-    std::vector<pid_t> ids(4096);
-    const int count = proc_listchildpids(parent, ids.data(), int(ids.size() * sizeof(pid_t)));
-    return positiveIds(std::move(ids), count);
-}
-
 std::optional<qint64> processStartTime(pid_t pid)
 {
     struct proc_bsdinfo info {};
@@ -75,17 +69,42 @@ std::optional<qint64> processStartTime(pid_t pid)
     return qint64(info.pbi_start_tvsec) * 1'000'000 + qint64(info.pbi_start_tvusec);
 }
 
-QStringList runningExecutables()
+bool adoptOrphans()
+{
+    return false;  // no subreaper on macOS; a stop finds orphans through their process group
+}
+
+namespace {
+
+std::vector<pid_t> allProcessIds()
 {
     const int estimate = proc_listallpids(nullptr, 0);
     if (estimate <= 0)
         return {};
     std::vector<pid_t> ids(size_t(estimate) + 64);  // room for processes started meanwhile
     const int count = proc_listallpids(ids.data(), int(ids.size() * sizeof(pid_t)));
-    ids = positiveIds(std::move(ids), count);
+    return positiveIds(std::move(ids), count);
+}
+
+}  // namespace
+
+std::vector<ProcessEntry> processTable()
+{
+    std::vector<ProcessEntry> table;
+    for (pid_t id : allProcessIds()) {
+        struct proc_bsdinfo info {};
+        if (proc_pidinfo(id, PROC_PIDTBSDINFO, 0, &info, sizeof info) != int(sizeof info))
+            continue;  // ended while the table was read, or not ours to see
+        table.push_back({id, pid_t(info.pbi_ppid), pid_t(info.pbi_pgid), info.pbi_status == SZOMB});
+    }
+    return table;
+}
+
+QStringList runningExecutables()
+{
     QStringList paths;
     char path[PROC_PIDPATHINFO_MAXSIZE];
-    for (pid_t id : ids) {
+    for (pid_t id : allProcessIds()) {
         if (proc_pidpath(id, path, sizeof path) > 0)
             paths.append(QFile::decodeName(path));
     }
@@ -142,6 +161,14 @@ std::optional<QString> userTempFolder()
     return QFile::decodeName(buffer);
 }
 
+std::optional<qint64> birthNanosecondsAt(int folder, const char* name)
+{
+    struct stat info {};
+    if (::fstatat(folder, name, &info, AT_SYMLINK_NOFOLLOW) != 0 || info.st_birthtimespec.tv_sec <= 0)
+        return std::nullopt;
+    return qint64(info.st_birthtimespec.tv_sec) * 1'000'000'000 + info.st_birthtimespec.tv_nsec;
+}
+
 std::optional<qint64> availableCapacity(const QString& path)
 {
     return volumeNumber(path, kCFURLVolumeAvailableCapacityForImportantUsageKey);
@@ -190,6 +217,11 @@ int renameNoReplace(const QString& from, const QString& to)
     if (::renamex_np(source.constData(), target.constData(), RENAME_EXCL) == 0)
         return 0;
     return errno;
+}
+
+int renameNoReplaceAt(int fromFolder, const char* from, int toFolder, const char* to)
+{
+    return ::renameatx_np(fromFolder, from, toFolder, to, RENAME_EXCL) == 0 ? 0 : errno;
 }
 
 qint64 modificationNanoseconds(const struct stat& info)

@@ -52,7 +52,7 @@ std::optional<FileTarget::ContentStamp> contentStamp(const QString& path)
     const auto info = FileStatus::of(path);
     if (!info || !S_ISREG(info->st_mode))
         return std::nullopt;
-    return FileTarget::ContentStamp{info->st_size, Platform::modificationNanoseconds(*info)};
+    return FileTarget::ContentStamp::of(*info);
 }
 
 }  // namespace

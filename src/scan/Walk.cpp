@@ -74,7 +74,7 @@ DuplicateFinder::File duplicateCandidate(const QString& path, const struct stat&
     file.allocated = static_cast<qint64>(info.st_blocks) * 512;
     file.device = static_cast<qint32>(info.st_dev);
     file.inode = static_cast<quint64>(info.st_ino);
-    file.stamp = {info.st_size, Platform::modificationNanoseconds(info)};
+    file.stamp = FileTarget::ContentStamp::of(info);
     return file;
 }
 

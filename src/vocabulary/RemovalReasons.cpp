@@ -64,6 +64,12 @@ QString emptyTrashInstead()
     return QCoreApplication::translate("Remover", "The Trash is emptied with Empty Trash.");
 }
 
+QString ambiguousName()
+{
+    //: Why an item can't be moved to the Trash: its file name is not valid text, so it can't be told apart from a similar name
+    return QCoreApplication::translate("Remover", "Its name can't be read exactly. Rename it to remove it.");
+}
+
 QString trashFailed(const QString& systemReason)
 {
     if (systemReason.trimmed().isEmpty()) {

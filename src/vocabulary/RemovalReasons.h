@@ -16,6 +16,8 @@ namespace RemovalReasons {
 [[nodiscard]] QString running();
 [[nodiscard]] QString changedInLastDay();
 [[nodiscard]] QString emptyTrashInstead();
+// Its name holds bytes that are not valid text, so the name shown could mean another file.
+[[nodiscard]] QString ambiguousName();
 // The file manager's trash refused; `systemReason` is its own description, may be empty.
 [[nodiscard]] QString trashFailed(const QString& systemReason);
 // A tool could not even be started; `systemReason` is the system's description.

@@ -3,6 +3,8 @@
 
 #include <QDir>
 
+#include <QFile>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -78,6 +80,13 @@ TEST(Fingerprint, IgnoresFinderMetadataFiles)
     EXPECT_EQ(after.files, before.files);
     EXPECT_EQ(after.layout, before.layout);
     EXPECT_EQ(after.stamps, before.stamps);
+
+    // Only Finder's file is noise: a folder of that name holds someone's data.
+    tree.file(QStringLiteral("p/sub/.DS_Store.d/kept"), 10);
+    ASSERT_TRUE(QFile::remove(tree.path(QStringLiteral("p/sub/.DS_Store"))));
+    ASSERT_TRUE(QFile::rename(tree.path(QStringLiteral("p/sub/.DS_Store.d")), tree.path(QStringLiteral("p/sub/.DS_Store"))));
+    tree.setTimes(QStringLiteral("p/sub"), longAgo);
+    EXPECT_EQ(stampOf(top).files, before.files + 1);
 }
 
 TEST(Fingerprint, AMissingPathIsUnreadableAndAStoppedWalkHasNoResult)

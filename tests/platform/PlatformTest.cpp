@@ -42,23 +42,30 @@ private:
     QProcess m_process;
 };
 
-bool contains(const std::vector<pid_t>& ids, pid_t id)
+std::optional<Platform::ProcessEntry> entryOf(pid_t pid)
 {
-    return std::find(ids.begin(), ids.end(), id) != ids.end();
+    for (const Platform::ProcessEntry& entry : Platform::processTable()) {
+        if (entry.pid == pid)
+            return entry;
+    }
+    return std::nullopt;
 }
 
 }  // namespace
 
-TEST(Platform, ChildProcessesListsAChildUntilItIsCollected)
+TEST(Platform, ProcessTableListsAChildWithItsParentAndGroupUntilItIsCollected)
 {
     Sleeper sleeper;
     ASSERT_TRUE(sleeper.started());
-    const pid_t child = sleeper.pid();
-    EXPECT_TRUE(contains(Platform::childProcesses(::getpid()), child));
-    EXPECT_FALSE(contains(Platform::childProcesses(child), child));
+    const pid_t pid = sleeper.pid();
+    const std::optional<Platform::ProcessEntry> child = entryOf(pid);
+    ASSERT_TRUE(child.has_value());
+    EXPECT_EQ(child->parent, ::getpid());
+    EXPECT_EQ(child->group, ::getpgrp());
+    EXPECT_FALSE(child->ended);
 
     sleeper.end();
-    EXPECT_FALSE(contains(Platform::childProcesses(::getpid()), child));
+    EXPECT_EQ(entryOf(pid), std::nullopt);
 }
 
 TEST(Platform, ProcessStartTimeIsStableAndTellsProcessesApart)

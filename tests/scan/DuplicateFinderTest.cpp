@@ -57,7 +57,7 @@ protected:
         file.allocated = qint64(info.st_blocks) * 512;
         file.device = qint32(info.st_dev);
         file.inode = info.st_ino;
-        file.stamp = {info.st_size, qint64(info.st_mtim.tv_sec) * 1'000'000'000 + info.st_mtim.tv_nsec};
+        file.stamp = FileTarget::ContentStamp::of(info);
         return file;
     }
 

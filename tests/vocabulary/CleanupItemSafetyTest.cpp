@@ -168,7 +168,7 @@ TEST(CleanupItem, EqualityAndHashCoverNestedFields)
     CleanupItem b = a;
     EXPECT_EQ(qHash(a), qHash(b));
     FileTarget stamped = target("/p/node_modules");
-    stamped.content = FileTarget::ContentStamp{1, 2};
+    stamped.content = FileTarget::ContentStamp{1, 2, 3};
     b.removal = Removal::trash({stamped});
     expectDiffer(a, b);
     CleanupItem c = a;

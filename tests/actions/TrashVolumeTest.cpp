@@ -1,0 +1,191 @@
+#include "actions/Remover.h"
+#include "actions/TrashFixture.h"
+#include "vocabulary/RemovalReasons.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+// Scan folders on another file system: /dev/shm is a tmpfs of its own here; a full disk and an
+// exhausted inode table need a small tmpfs, mounted in a private mount namespace by a second
+// run of this test program (as root, through unshare).
+
+namespace {
+
+const QByteArray ownId = QByteArray::number(::getuid());
+
+std::optional<struct stat> statusOf(const QString& path)
+{
+    struct stat info {};
+    if (::lstat(QFile::encodeName(path).constData(), &info) != 0)
+        return std::nullopt;
+    return info;
+}
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QStringList entriesOf(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+}
+
+class TrashVolume : public TrashFixture {};
+
+TEST_F(TrashVolume, AScanFolderOnAnotherDiskIsCleanedIntoThatDisksOwnTrash)
+{
+    QTemporaryDir scanFolder(QStringLiteral("/dev/shm/dustlark-XXXXXX"));
+    ASSERT_TRUE(scanFolder.isValid());
+    environment.otherVolumeFolders = {scanFolder.path()};
+    const QString path = scanFolder.filePath(QStringLiteral("build/out.o"));
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("object") == 6);
+    file.close();
+    const ino_t inode = statusOf(path)->st_ino;
+
+    ASSERT_EQ(Remover::remove(trashItem({path}), environment), RemovalOutcome::movedToTrash());
+    const QString trash = QStringLiteral("/dev/shm/.Trash-") + QString::fromLatin1(ownId);
+    const QString trashed = trash + QStringLiteral("/files/out.o");
+    const QString info = trash + QStringLiteral("/info/out.o.trashinfo");
+    const auto landed = statusOf(trashed);
+    const QByteArray record = contentOf(info);
+    QFile::remove(trashed);
+    QFile::remove(info);
+
+    ASSERT_TRUE(landed.has_value());
+    EXPECT_EQ(landed->st_ino, inode);  // renamed on its own disk, not copied
+    EXPECT_TRUE(record.contains("\nPath=" + QFile::encodeName(path).mid(QByteArray("/dev/shm/").size()) + '\n')) << record.constData();
+    EXPECT_TRUE(trashedNames().isEmpty());  // nothing crossed to the home trash
+}
+
+// The child half of the tests below: runs only inside the private mount namespace.
+class PrivateMount : public TrashFixture {
+protected:
+    void SetUp() override
+    {
+        mountPoint = qEnvironmentVariable("DUSTLARK_PRIVATE_MOUNT");
+        if (mountPoint.isEmpty())
+            GTEST_SKIP() << "runs inside TrashVolume.SmallFileSystemsInAPrivateMountNamespace";
+        TrashFixture::SetUp();
+    }
+
+    void mountTmpfs(const QString& options) const
+    {
+        QProcess::execute(QStringLiteral("umount"), {mountPoint});
+        ASSERT_EQ(QProcess::execute(QStringLiteral("mount"), {QStringLiteral("-t"), QStringLiteral("tmpfs"), QStringLiteral("-o"),
+                                                              options, QStringLiteral("tmpfs"), mountPoint}), 0);
+    }
+
+    QString makeTarget() const
+    {
+        const QString scan = mountPoint + QStringLiteral("/scan");
+        QDir().mkpath(scan);
+        const QString path = scan + QStringLiteral("/cache.bin");
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write("kept") == 4);
+        return path;
+    }
+
+    // Fills the file system: data until no block is left, or empty files until no inode is.
+    void fill(bool inodes) const
+    {
+        for (int i = 0; i < 100'000; ++i) {
+            const QByteArray name = QFile::encodeName(mountPoint + QStringLiteral("/fill-%1").arg(i));
+            const int fd = ::open(name.constData(), O_CREAT | O_WRONLY, 0600);
+            if (fd < 0)
+                return;
+            const QByteArray block(inodes ? 0 : 65536, 'f');
+            const bool full = !inodes && ::write(fd, block.constData(), size_t(block.size())) < block.size();
+            ::close(fd);
+            if (full)
+                return;
+        }
+    }
+
+    void expectRefusedWithTheSystemsReason(const QString& path, int error) const
+    {
+        const RemovalOutcome outcome = Remover::remove(trashItem({path}), environment);
+        const QString reason = RemovalReasons::trashFailed(QString::fromStdString(std::generic_category().message(error)));
+        EXPECT_EQ(outcome, RemovalOutcome::failed(reason));
+        EXPECT_EQ(contentOf(path), QByteArray("kept"));
+        const QString trash = mountPoint + QStringLiteral("/.Trash-") + QString::fromLatin1(ownId);
+        EXPECT_TRUE(entriesOf(trash + QStringLiteral("/files")).isEmpty());
+        EXPECT_TRUE(entriesOf(trash + QStringLiteral("/info")).isEmpty());  // no empty record left behind
+    }
+
+    QString mountPoint;
+};
+
+TEST_F(PrivateMount, FullDiskGivesASentenceAndLosesNothing)
+{
+    mountTmpfs(QStringLiteral("size=256k"));
+    const QString path = makeTarget();
+    environment.otherVolumeFolders = {mountPoint + QStringLiteral("/scan")};
+    QDir().mkpath(mountPoint + QStringLiteral("/.Trash-") + QString::fromLatin1(ownId) + QStringLiteral("/files"));
+    QDir().mkpath(mountPoint + QStringLiteral("/.Trash-") + QString::fromLatin1(ownId) + QStringLiteral("/info"));
+    fill(false);  // the trash folders exist before the disk fills
+    expectRefusedWithTheSystemsReason(path, ENOSPC);
+}
+
+TEST_F(PrivateMount, NoInodesLeftGivesASentenceAndLosesNothing)
+{
+    mountTmpfs(QStringLiteral("size=4m,nr_inodes=32"));
+    const QString path = makeTarget();
+    environment.otherVolumeFolders = {mountPoint + QStringLiteral("/scan")};
+    QDir().mkpath(mountPoint + QStringLiteral("/.Trash-") + QString::fromLatin1(ownId) + QStringLiteral("/files"));
+    QDir().mkpath(mountPoint + QStringLiteral("/.Trash-") + QString::fromLatin1(ownId) + QStringLiteral("/info"));
+    fill(true);
+    expectRefusedWithTheSystemsReason(path, ENOSPC);
+}
+
+// A shared .Trash is used only when it is a real folder with the sticky bit; a link is not.
+TEST_F(PrivateMount, TheSharedTrashIsUsedOnlyWhenItIsARealStickyFolder)
+{
+    mountTmpfs(QStringLiteral("size=4m"));
+    environment.otherVolumeFolders = {mountPoint + QStringLiteral("/scan")};
+    TempTree elsewhere;
+    ASSERT_EQ(::symlink(QFile::encodeName(elsewhere.root()).constData(), QFile::encodeName(mountPoint + QStringLiteral("/.Trash")).constData()), 0);
+    ASSERT_EQ(Remover::remove(trashItem({makeTarget()}), environment), RemovalOutcome::movedToTrash());
+    EXPECT_TRUE(entriesOf(elsewhere.root()).isEmpty());
+    EXPECT_EQ(entriesOf(mountPoint + QStringLiteral("/.Trash-") + QString::fromLatin1(ownId) + QStringLiteral("/files")), QStringList{QStringLiteral("cache.bin")});
+
+    ASSERT_EQ(::unlink(QFile::encodeName(mountPoint + QStringLiteral("/.Trash")).constData()), 0);
+    ASSERT_EQ(::mkdir(QFile::encodeName(mountPoint + QStringLiteral("/.Trash")).constData(), 01777), 0);
+    ASSERT_EQ(::chmod(QFile::encodeName(mountPoint + QStringLiteral("/.Trash")).constData(), 01777), 0);
+    ASSERT_EQ(Remover::remove(trashItem({makeTarget()}), environment), RemovalOutcome::movedToTrash());
+    EXPECT_EQ(entriesOf(mountPoint + QStringLiteral("/.Trash/") + QString::fromLatin1(ownId) + QStringLiteral("/files")), QStringList{QStringLiteral("cache.bin")});
+}
+
+TEST_F(TrashVolume, SmallFileSystemsInAPrivateMountNamespace)
+{
+    const QString unshare = QStandardPaths::findExecutable(QStringLiteral("unshare"));
+    if (::geteuid() != 0 || unshare.isEmpty())
+        GTEST_SKIP() << "needs root and unshare(1) to mount a private tmpfs";
+    QProcess child;
+    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+    variables.insert(QStringLiteral("DUSTLARK_PRIVATE_MOUNT"), home.dir(QStringLiteral("mnt")));
+    child.setProcessEnvironment(variables);
+    child.setProcessChannelMode(QProcess::MergedChannels);
+    child.start(unshare, {QStringLiteral("--mount"), QStringLiteral("--propagation"), QStringLiteral("private"),
+                          QCoreApplication::applicationFilePath(), QStringLiteral("--gtest_filter=PrivateMount.*")});
+    ASSERT_TRUE(child.waitForFinished(120'000));
+    const QByteArray output = child.readAll();
+    if (output.contains("unshare failed") || output.contains("Operation not permitted"))
+        GTEST_SKIP() << "mount namespaces are not allowed here: " << output.constData();
+    EXPECT_EQ(child.exitCode(), 0) << output.constData();
+    EXPECT_TRUE(output.contains("[  PASSED  ] 3 tests.")) << output.constData();
+}
+
+}  // namespace
