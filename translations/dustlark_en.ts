@@ -4,67 +4,67 @@
 <context>
     <name>AIPrompt</name>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="24"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="25"/>
         <source>runs `%1` (permanent)</source>
         <extracomment>AI prompt: how a tool removes a row, after &quot;How Dustlark would remove it: &quot;. Keep the backticks; %1 is the command line</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="65"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="66"/>
         <source>Dustlark category: %1. %2</source>
         <extracomment>AI prompt line. Placeholders: category title; its explanation</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="72"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="73"/>
         <source>Mac: %1</source>
         <extracomment>AI prompt line. %1 names the system version and the processor</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="79"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="80"/>
         <source>Answer in %1.</source>
         <extracomment>AI prompt line for a person whose language the app has no translation for. %1 is that language&apos;s name</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="81"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="82"/>
         <source>Answer in English.</source>
         <extracomment>AI prompt&apos;s last line. Translators: write this sentence naming your own language, e.g. &quot;Réponds en français.&quot;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="88"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="89"/>
         <source>Item: %1</source>
         <extracomment>AI prompt line for a row without a tag. Placeholder: item name</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="90"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="91"/>
         <source>Item: %1 (%2)</source>
         <extracomment>AI prompt line. Placeholders: item name; its tag</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="98"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="99"/>
         <source>Paths:</source>
         <extracomment>AI prompt: heading of the row&apos;s paths, listed one per line below it</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="109"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="110"/>
         <source>Largest contents:</source>
         <extracomment>AI prompt: heading of a folder&apos;s largest entries, listed one per line below it</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="112"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="113"/>
         <source>%1: %2</source>
         <extracomment>AI prompt: one entry of a folder. Placeholders: its name; its size on disk</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/prompt/AIPrompt.cpp" line="39"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="40"/>
         <source>runs `%1` after `docker rm` of %n stopped containers (permanent)</source>
         <extracomment>AI prompt: how Docker removes an image that stopped containers hold. Keep the backticks; %1 is the command line; %n is the number of containers</extracomment>
         <translation>
@@ -73,7 +73,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/prompt/AIPrompt.cpp" line="115"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="116"/>
         <source>%n more entries</source>
         <extracomment>AI prompt: the entries of a folder left out of the list. %n is their number</extracomment>
         <translation>
@@ -82,121 +82,121 @@
         </translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="123"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="124"/>
         <source>Dustlark&apos;s note: %1</source>
         <extracomment>AI prompt line. Placeholder: the row&apos;s detail line</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="125"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="126"/>
         <source>Dustlark&apos;s safety hint: %1</source>
         <extracomment>AI prompt line. Placeholder: the safety label (&quot;Safe&quot;, &quot;Ask AI&quot; or &quot;Risky&quot;)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="127"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="128"/>
         <source>Size on disk: %1</source>
         <extracomment>AI prompt line. Placeholder: the size on disk</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="130"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="131"/>
         <source>Last changed or used: %1</source>
         <extracomment>AI prompt line. Placeholder: the date and time the row was last changed or used</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="132"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="133"/>
         <source>How Dustlark would remove it: %1</source>
         <extracomment>AI prompt line. Placeholder: how the row goes, e.g. &quot;moves it to the Trash (…)&quot;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="140"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="141"/>
         <source>Please tell me:</source>
         <extracomment>AI prompt: heading of the four questions</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="142"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="143"/>
         <source>1. What this is and which app or tool uses it.</source>
         <extracomment>AI prompt question</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="144"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="145"/>
         <source>2. What breaks or is lost if I remove it, and whether it comes back on its own.</source>
         <extracomment>AI prompt question</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="146"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="147"/>
         <source>3. How I could restore it if I need it later.</source>
         <extracomment>AI prompt question</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="148"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="149"/>
         <source>4. Your recommendation: remove, keep, or check something first (say exactly what to check).</source>
         <extracomment>AI prompt question</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="159"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="160"/>
         <source>Removal: everything goes to the Trash (it can be put back until the Trash is emptied).</source>
         <extracomment>AI prompt line about a list of rows that all go to the Trash</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="161"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="162"/>
         <source>Removal: some items are removed permanently by their tool.</source>
         <extracomment>AI prompt line about a list of rows some of which a tool removes for good</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="172"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="173"/>
         <source>%1. %2 — %3 — %4</source>
         <extracomment>AI prompt: one numbered row of a list. Placeholders: number; name; detail line; size</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="174"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="175"/>
         <source>%1. %2 — %3 — %4 — %5</source>
         <extracomment>AI prompt: one numbered row of a list. Placeholders: number; name; detail line; size; its paths joined by &quot;; &quot;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="186"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="187"/>
         <source>(%1 more not listed)</source>
         <extracomment>AI prompt: the rows left out of a long list. %1 is their number</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="202"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="203"/>
         <source>empties the Trash (permanent)</source>
         <extracomment>AI prompt: how emptying the Trash works, after &quot;How Dustlark would remove it: &quot;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="204"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="205"/>
         <source>moves it to the Trash (it can be put back until the Trash is emptied)</source>
         <extracomment>AI prompt: how a row goes to the Trash, after &quot;How Dustlark would remove it: &quot;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="210"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="211"/>
         <source>I&apos;m cleaning up my Mac with Dustlark and want to know whether it&apos;s safe to remove this item.</source>
         <extracomment>AI prompt&apos;s first line, about one row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="225"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="226"/>
         <source>I&apos;m cleaning up my Mac with Dustlark. For each item below, tell me whether it&apos;s safe to remove.</source>
         <extracomment>AI prompt&apos;s first line, about a list of rows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="229"/>
+        <location filename="../src/prompt/AIPrompt.cpp" line="230"/>
         <source>Answer as a table: number, item, verdict (Remove / Keep / Check), and one short reason. For Check, say exactly what to check (for example, whether saved passwords are synced elsewhere). Then list the numbers to remove.</source>
         <extracomment>AI prompt: what the answer about a list of rows should look like</extracomment>
         <translation type="unfinished"></translation>
@@ -212,6 +212,276 @@
     </message>
 </context>
 <context>
+    <name>AgentsScanner</name>
+    <message>
+        <location filename="../src/scan/AgentsScanner.cpp" line="58"/>
+        <source>last changed %1</source>
+        <extracomment>Fact in the detail line of an AI agents row; %1 is a relative date like &quot;3 days ago&quot;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerProjects.cpp" line="66"/>
+        <source>Claude app scratch</source>
+        <extracomment>Name of the project of Claude desktop&apos;s scratch sessions, shown in a Claude Code sessions row</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerProjects.cpp" line="69"/>
+        <source>Claude sandbox status</source>
+        <extracomment>Name of the project of Claude&apos;s sandbox status sessions, shown in a Claude Code sessions row</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="132"/>
+        <source>%1 data · %2</source>
+        <extracomment>Row title of a data folder of an AI agent that is not installed; %1 is the agent, %2 the folder</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="134"/>
+        <source>%1 isn&apos;t installed; its chats, settings and caches are here</source>
+        <extracomment>Note of a data folder of an AI agent that is not installed; %1 is the agent</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="146"/>
+        <source>Claude virtual machine image</source>
+        <extracomment>Row title in the AI agents list</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="148"/>
+        <source>Used by Claude&apos;s agent mode; downloaded again the next time it&apos;s needed</source>
+        <extracomment>Note of the Claude virtual machine image row</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="156"/>
+        <source>Claude Code sessions · %1</source>
+        <extracomment>Row title of one project&apos;s Claude Code sessions; %1 is the project, like ~/code/app</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="158"/>
+        <source>Session history /resume uses</source>
+        <extracomment>Note of a Claude Code sessions row; /resume is a command and stays as it is</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="172"/>
+        <source>Codex sessions · %1-%2</source>
+        <extracomment>Row title of one month of Codex sessions; %1 is the year, %2 the month number</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="174"/>
+        <source>Session history `codex resume` uses</source>
+        <extracomment>Note of a Codex sessions row; the command stays as it is</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="186"/>
+        <source>Codex archived sessions</source>
+        <extracomment>Row title in the AI agents list</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="188"/>
+        <source>Sessions you archived</source>
+        <extracomment>Note of the Codex archived sessions row</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="190"/>
+        <source>Codex migration backups</source>
+        <extracomment>Row title in the AI agents list</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="192"/>
+        <source>Copies Codex made while migrating its data</source>
+        <extracomment>Note of the Codex migration backups row</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="202"/>
+        <source>Codex backup files (%n)</source>
+        <extracomment>Row title in the AI agents list; %n is the number of backup files</extracomment>
+        <translation>
+            <numerusform>Codex backup files (%n)</numerusform>
+            <numerusform>Codex backup files (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="204"/>
+        <source>Old copies of Codex&apos;s databases and settings (*.bak)</source>
+        <extracomment>Note of the Codex backup files row</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="213"/>
+        <source>Cursor state backup</source>
+        <extracomment>Row title in the AI agents list</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="215"/>
+        <source>One-time backup of Cursor&apos;s state database (chat history lives in the live copy)</source>
+        <extracomment>Note of the Cursor state backup row</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="222"/>
+        <source>Cursor agent chats</source>
+        <extracomment>Row title in the AI agents list</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="224"/>
+        <source>Saved chats of Cursor&apos;s agent</source>
+        <extracomment>Note of the Cursor agent chats row</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="230"/>
+        <source>Chat history and checkpoints; resuming and restoring use them</source>
+        <extracomment>Note of the Gemini CLI and Qwen Code temporary files rows</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="234"/>
+        <source>Antigravity backup</source>
+        <extracomment>Row title in the AI agents list</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="236"/>
+        <source>A backup copy of Antigravity&apos;s data</source>
+        <extracomment>Note of the Antigravity backup row</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="238"/>
+        <source>Antigravity browser profile</source>
+        <extracomment>Row title in the AI agents list</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="240"/>
+        <source>The browser profile the agent uses; may hold sign-ins</source>
+        <extracomment>Note of the Antigravity browser profile row</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="242"/>
+        <source>Gemini CLI temporary files</source>
+        <extracomment>Row title in the AI agents list</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="247"/>
+        <source>Qwen Code temporary files</source>
+        <extracomment>Row title in the AI agents list</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="256"/>
+        <source>%1 state of deleted projects (%n)</source>
+        <extracomment>Row title in the AI agents list; %1 is an editor, %n the number of folders</extracomment>
+        <translation>
+            <numerusform>%1 state of deleted projects (%n)</numerusform>
+            <numerusform>%1 state of deleted projects (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="258"/>
+        <source>Saved editor state of folders that no longer exist</source>
+        <extracomment>Note of an editor&apos;s state of deleted projects row</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="270"/>
+        <source>%1 old extension versions (%n)</source>
+        <extracomment>Row title in the AI agents list; %1 is an editor, %n the number of extension folders</extracomment>
+        <translation>
+            <numerusform>%1 old extension versions (%n)</numerusform>
+            <numerusform>%1 old extension versions (%n)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="272"/>
+        <source>Older copies kept after extensions updated</source>
+        <extracomment>Note of an editor&apos;s old extension versions row</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="281"/>
+        <source>%1 task history in %2</source>
+        <extracomment>Row title in the AI agents list; %1 is an agent extension like Cline, %2 the editor it runs in</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AgentsScannerRows.cpp" line="283"/>
+        <source>Saved tasks and conversations</source>
+        <extracomment>Note of an agent extension&apos;s task history row</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AndroidScanner</name>
+    <message>
+        <location filename="../src/scan/AndroidScanner.cpp" line="44"/>
+        <source>Android emulator with its apps and data</source>
+        <extracomment>Detail line of an Android emulator row</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AndroidScanner.cpp" line="48"/>
+        <source>changed %1</source>
+        <extracomment>Fact in an Android emulator&apos;s detail line; %1 is a relative date like &apos;3 months ago&apos;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AndroidScanner.cpp" line="118"/>
+        <source>Emulator</source>
+        <extracomment>Badge of an Android emulator row</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AppCachesScanner</name>
+    <message>
+        <location filename="../src/scan/AppCachesScanner.cpp" line="55"/>
+        <source>Mail attachment copies</source>
+        <extracomment>Row title in the app caches list: copies of attachments Mail made when they were opened</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AppCachesScanner.cpp" line="57"/>
+        <source>Opened attachments; the messages keep the originals</source>
+        <extracomment>Detail line of the Mail attachment copies row</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AppCachesScanner.cpp" line="100"/>
+        <source>Web caches in ~/.config/%1</source>
+        <extracomment>Detail line of an app&apos;s web caches row on Linux; %1 is the app&apos;s folder in ~/.config</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AppCachesScanner.cpp" line="102"/>
+        <source>Web caches in ~/Library/Application Support/%1</source>
+        <extracomment>Detail line of an app&apos;s web caches row; %1 is the app&apos;s folder in Application Support</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AppCachesScanner.cpp" line="226"/>
+        <source>Inside app data</source>
+        <extracomment>Badge of a row of web caches found inside an app&apos;s data folder</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>AppLanguage</name>
     <message>
         <location filename="../src/vocabulary/AppLanguage.cpp" line="88"/>
@@ -223,13 +493,13 @@
 <context>
     <name>AppModel</name>
     <message>
-        <location filename="../src/model/AppModel.cpp" line="202"/>
+        <location filename="../src/model/AppModel.cpp" line="222"/>
         <source>The scan was stopped before this category finished.</source>
         <extracomment>Banner of a category whose scanner had not finished when the person stopped the scan</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/model/AppModel.cpp" line="217"/>
+        <location filename="../src/model/AppModel.cpp" line="237"/>
         <source>The scan was stopped; this list may be incomplete.</source>
         <extracomment>Banner of a category whose scanner returned early because the scan was stopped</extracomment>
         <translation type="unfinished"></translation>
@@ -242,8 +512,65 @@
     </message>
     <message>
         <location filename="../src/model/AppModelSafeList.cpp" line="11"/>
+        <location filename="../src/model/AppModelStorage.cpp" line="62"/>
         <source>“%1” is on the Safe List.</source>
-        <extracomment>Toast after a row was put on the Safe List; %1 is the row&apos;s title</extracomment>
+        <extracomment>Toast after a row was put on the Safe List; %1 is the row&apos;s title
+----------
+Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AppsScanner</name>
+    <message>
+        <location filename="../src/scan/AppsScanner.cpp" line="31"/>
+        <source>App %1</source>
+        <extracomment>Uninstaller row detail of an app without data; %1 is the app&apos;s size</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../src/scan/AppsScanner.cpp" line="34"/>
+        <source>App %1 + app data %2 in %n places</source>
+        <extracomment>Uninstaller row detail; %1 is the app&apos;s size, %2 its data size, %n the number of places</extracomment>
+        <translation>
+            <numerusform>App %1 + app data %2 in %n place</numerusform>
+            <numerusform>App %1 + app data %2 in %n places</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AppsScanner.cpp" line="42"/>
+        <source>never opened</source>
+        <extracomment>Fact in an uninstaller row&apos;s detail line</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AppsScanner.cpp" line="45"/>
+        <source>opened %1</source>
+        <extracomment>Fact in an uninstaller row&apos;s detail line; %1 is a relative date like &quot;3 months ago&quot;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AppsScanner.cpp" line="51"/>
+        <source>“%1” folder stays: it may belong to %2</source>
+        <extracomment>Fact in an uninstaller row&apos;s detail line; first %1 is a folder name, %2 another app&apos;s name</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AppsScanner.cpp" line="69"/>
+        <source>Your apps</source>
+        <extracomment>Badge of an app installed in ~/Applications</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AppsScanner.cpp" line="82"/>
+        <source>Running. Quit it to remove it.</source>
+        <extracomment>Why a running app can&apos;t be selected</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/AppsScanner.cpp" line="131"/>
+        <source>Without Full Disk Access, the data of App Store apps (their containers) isn&apos;t listed as leftovers.</source>
+        <extracomment>Note above the Apps list</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -664,31 +991,37 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPageActions.cpp" line="34"/>
+        <location filename="../src/ui/CategoryPageActions.cpp" line="35"/>
         <source>Add to Safe List</source>
         <extracomment>Row menu: never show this row in scans again</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPageActions.cpp" line="38"/>
+        <location filename="../src/ui/CategoryPageActions.cpp" line="39"/>
         <source>Add Project to Safe List</source>
         <extracomment>Row menu: never show anything inside this row&apos;s project or repository folder again</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPageActions.cpp" line="42"/>
+        <location filename="../src/ui/CategoryPageActions.cpp" line="43"/>
         <source>Show in Finder</source>
         <extracomment>Row menu: open the folder that holds this row in the file manager</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPageActions.cpp" line="45"/>
+        <location filename="../src/ui/CategoryPageActions.cpp" line="46"/>
         <source>Ask an AI Assistant</source>
         <extracomment>Row menu: copy a description of this row to paste into an AI assistant</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPageActions.cpp" line="82"/>
+        <location filename="../src/ui/CategoryPageActions.cpp" line="52"/>
+        <source>Move to Another Disk…</source>
+        <extracomment>Row menu: copy this row&apos;s files to another disk, check the copy, then trash the original</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/CategoryPageActions.cpp" line="87"/>
         <source>“%1” is on the Safe List.</source>
         <extracomment>Toast after a row was put on the Safe List; %1 is the row&apos;s title</extracomment>
         <translation type="unfinished"></translation>
@@ -926,17 +1259,212 @@
     </message>
 </context>
 <context>
+    <name>DevicesScanner</name>
+    <message>
+        <location filename="../src/scan/DevicesScanner.cpp" line="42"/>
+        <source>date unknown</source>
+        <extracomment>Detail of a device backup whose date can&apos;t be read</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DevicesScanner.cpp" line="44"/>
+        <source>backed up %1</source>
+        <extracomment>Detail of a device backup; %1 is a relative date like &apos;2 years ago&apos;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DevicesScanner.cpp" line="76"/>
+        <source>iPhone or iPad backup</source>
+        <extracomment>Title of a device backup whose device name can&apos;t be read</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DevicesScanner.cpp" line="78"/>
+        <source>Backup</source>
+        <extracomment>Badge of a device backup row</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DevicesScanner.cpp" line="94"/>
+        <source>Device backups can be listed only with Full Disk Access.</source>
+        <extracomment>Note above iPhone &amp; iPad when backups can&apos;t be listed</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DockerScanner</name>
+    <message>
+        <location filename="../src/scan/DockerScanner.cpp" line="93"/>
+        <source>Docker Desktop&apos;s disk image takes %1 on this Mac</source>
+        <extracomment>Part of the Docker summary list; %1 is a size like &apos;60 GB&apos;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DockerScanner.cpp" line="95"/>
+        <source>Docker Desktop may return freed space to macOS gradually.</source>
+        <extracomment>Note in the Docker category</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DockerScanner.cpp" line="156"/>
+        <source>Docker uses: %1</source>
+        <extracomment>Summary above the Docker list; %1 is a comma-separated list like &apos;images 3 GB, build cache 5 GB&apos;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DockerScanner.cpp" line="178"/>
+        <source>Docker isn&apos;t installed.</source>
+        <extracomment>Note in the Docker category</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DockerScanner.cpp" line="184"/>
+        <source>Docker is set to use another computer. Dustlark cleans only Docker on this Mac.</source>
+        <extracomment>Note in the Docker category</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DockerScanner.cpp" line="190"/>
+        <source>Docker isn&apos;t running. Start Docker and scan again to see its containers and images.</source>
+        <extracomment>Note in the Docker category</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DockerScannerRows.cpp" line="36"/>
+        <source>Created %1</source>
+        <extracomment>Docker image detail; %1 is the image&apos;s age like &apos;3 months ago&apos;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DockerScannerRows.cpp" line="41"/>
+        <source>also removes stopped container %1</source>
+        <extracomment>Docker image detail; %1 is the name of a stopped container made from the image</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DockerScannerRows.cpp" line="44"/>
+        <source>also removes stopped containers %1</source>
+        <extracomment>Docker image detail; %1 lists the names of stopped containers made from the image</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DockerScannerRows.cpp" line="53"/>
+        <source>Untagged image</source>
+        <extracomment>Title of a Docker image without a name</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DockerScannerRows.cpp" line="55"/>
+        <source>Image</source>
+        <extracomment>Badge of a Docker image</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DockerScannerRows.cpp" line="72"/>
+        <source>Anonymous volume %1</source>
+        <extracomment>Title of an unnamed Docker volume; %1 is the start of its identifier</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DockerScannerRows.cpp" line="81"/>
+        <source>no container uses it</source>
+        <extracomment>Docker volume detail</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DockerScannerRows.cpp" line="83"/>
+        <source>may hold a database or uploads</source>
+        <extracomment>Docker volume detail</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DockerScannerRows.cpp" line="88"/>
+        <source>Compose project %1</source>
+        <extracomment>Docker volume detail; %1 is a Compose project name</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DockerScannerRows.cpp" line="98"/>
+        <source>images %1</source>
+        <extracomment>Part of the Docker summary list; %1 is a size like &apos;1.2 GB&apos;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DockerScannerRows.cpp" line="101"/>
+        <source>containers %1</source>
+        <extracomment>Part of the Docker summary list; %1 is a size like &apos;1.2 GB&apos;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DockerScannerRows.cpp" line="104"/>
+        <source>local volumes %1</source>
+        <extracomment>Part of the Docker summary list; %1 is a size like &apos;1.2 GB&apos;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DockerScannerRows.cpp" line="107"/>
+        <source>build cache %1</source>
+        <extracomment>Part of the Docker summary list; %1 is a size like &apos;1.2 GB&apos;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DockerScannerRows.cpp" line="117"/>
+        <source>Container</source>
+        <extracomment>Badge of a stopped Docker container</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DockerScannerRows.cpp" line="144"/>
+        <source>Build cache</source>
+        <extracomment>Title of Docker&apos;s build cache row</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DockerScannerRows.cpp" line="146"/>
+        <source>Cache</source>
+        <extracomment>Badge of Docker&apos;s build cache row</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DockerScannerRows.cpp" line="148"/>
+        <source>Layers kept by docker build; the next build takes longer</source>
+        <extracomment>Detail of Docker&apos;s build cache row</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/DockerScannerRows.cpp" line="173"/>
+        <source>Volume</source>
+        <extracomment>Badge of a Docker volume</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>DuplicateFinder</name>
     <message>
-        <location filename="../src/scan/DuplicateFinder.cpp" line="370"/>
+        <location filename="../src/scan/DuplicateFinder.cpp" line="415"/>
         <source>created %1</source>
         <extracomment>Fact in a Duplicates row&apos;s detail line; %1 is a relative date like &apos;3 months ago&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DuplicateFinder.cpp" line="379"/>
+        <location filename="../src/scan/DuplicateFinder.cpp" line="424"/>
         <source>Oldest copy</source>
         <extracomment>Badge of the oldest copy among duplicates</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FolderActions</name>
+    <message>
+        <location filename="../src/ui/FolderActions.cpp" line="16"/>
+        <source>Show in Finder</source>
+        <extracomment>Row menu of a storage folder: open the folder that holds it in the file manager</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/FolderActions.cpp" line="18"/>
+        <source>Add to Safe List</source>
+        <extracomment>Row menu of a storage folder: never show anything inside it in scans</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -962,443 +1490,591 @@
     </message>
 </context>
 <context>
+    <name>InstallersScanner</name>
+    <message>
+        <location filename="../src/scan/InstallersScanner.cpp" line="79"/>
+        <source>changed %1</source>
+        <extracomment>Fact in an Installers row&apos;s detail, after its folder; %1 is a relative date like &apos;3 months ago&apos;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/InstallersScanner.cpp" line="99"/>
+        <source>Some folders couldn&apos;t be read. Allow access when macOS asks.</source>
+        <extracomment>Note above Installers when some folders of Downloads or Desktop can&apos;t be read</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>KnownLocations</name>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="42"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="71"/>
         <source>Xcode cache</source>
         <extracomment>Row title in the Xcode list: Xcode&apos;s own cache folder</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="45"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="74"/>
         <source>SwiftUI previews</source>
         <extracomment>Row title in the Xcode list: data of SwiftUI previews</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="48"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="77"/>
         <source>Simulator caches</source>
         <extracomment>Row title in the Xcode list: caches of the iOS simulator</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="51"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="80"/>
         <source>Test simulator clones</source>
         <extracomment>Row title in the Xcode list: simulator copies made for running tests</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="54"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="83"/>
         <source>Xcode downloads</source>
         <extracomment>Row title in the Xcode list: files Xcode downloaded</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="58"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="87"/>
         <source>Device logs</source>
         <extracomment>Row title in the Xcode list: logs copied from connected iPhones and iPads</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="67"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="115"/>
         <source>Gradle caches</source>
         <extracomment>Row title in the Android list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="70"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="118"/>
         <source>Gradle wrapper · </source>
         <extracomment>Prefix of a row title in the Android list; a Gradle version such as gradle-8.5-bin follows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="73"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="121"/>
         <source>Gradle daemon logs</source>
         <extracomment>Row title in the Android list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="76"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="124"/>
         <source>Android cache</source>
         <extracomment>Row title in the Android list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="79"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="127"/>
         <source>Android build cache</source>
         <extracomment>Row title in the Android list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="82"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="96"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="130"/>
         <source>Android Studio cache · </source>
         <extracomment>Prefix of a row title in the Android list; a folder name such as AndroidStudio2024.1 follows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="85"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="98"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="133"/>
         <source>Android SDK system image</source>
         <extracomment>Detail line of an Android system image row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="88"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="99"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="136"/>
         <source>NDK </source>
         <extracomment>Prefix of a row title in the Android list; an NDK version number follows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="90"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="100"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="138"/>
         <source>Android NDK version; projects that pin it download it again</source>
         <extracomment>Detail line of an Android NDK row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="93"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="102"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="141"/>
         <source>Build tools </source>
         <extracomment>Prefix of a row title in the Android list; a version number follows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="95"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="103"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="143"/>
         <source>Android SDK build tools version</source>
         <extracomment>Detail line of an Android build tools row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="98"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="105"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="146"/>
         <source>SDK platform </source>
         <extracomment>Prefix of a row title in the Android list; a platform name such as android-34 follows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="100"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="106"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="148"/>
         <source>Android SDK platform</source>
         <extracomment>Detail line of an Android SDK platform row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="103"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="151"/>
         <source>Gradle JDK · </source>
         <extracomment>Prefix of a row title in the Android list; a Java version folder follows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="105"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="153"/>
         <source>Java downloaded by Gradle toolchains</source>
         <extracomment>Detail line of a row of Java that Gradle downloaded</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="114"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="188"/>
         <source>npm cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="117"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="161"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="191"/>
         <source>Yarn cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="120"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="194"/>
         <source>Yarn Berry cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="123"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="162"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="197"/>
         <source>pnpm store</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="125"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="163"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="199"/>
         <source>Projects link their packages from here</source>
         <extracomment>Detail line of the pnpm store row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="128"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="202"/>
         <source>Bun cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="131"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="164"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="205"/>
         <source>Homebrew downloads</source>
         <extracomment>Row title in the package caches list: packages Homebrew downloaded</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="134"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="165"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="208"/>
         <source>pip cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="137"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="211"/>
         <source>uv cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="140"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="214"/>
         <source>CocoaPods cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="143"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="167"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="217"/>
         <source>Swift Package Manager cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="146"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="220"/>
         <source>Carthage cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="149"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="168"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="223"/>
         <source>Go build cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="152"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="226"/>
         <source>Cargo downloads</source>
         <extracomment>Row title in the package caches list: crates Cargo downloaded</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="155"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="229"/>
         <source>Cargo registry index</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="158"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="232"/>
         <source>Cargo git dependencies</source>
         <extracomment>Row title in the package caches list: dependencies Cargo fetched from git</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="161"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="235"/>
         <source>Go modules</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="163"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="237"/>
         <source>Projects download them again on the next build</source>
         <extracomment>Detail line of the Go modules row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="166"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="240"/>
         <source>Dart and Flutter packages</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="168"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="242"/>
         <source>`flutter pub get` downloads them again</source>
         <extracomment>Detail line of the Dart and Flutter packages row; the command stays as it is</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="171"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="245"/>
         <source>NuGet packages</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="174"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="248"/>
         <source>NuGet HTTP cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="177"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="169"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="251"/>
         <source>Poetry cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="179"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="170"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="253"/>
         <source>Includes Poetry&apos;s virtual environments; `poetry install` creates them again</source>
         <extracomment>Detail line of the Poetry cache row; the command stays as it is</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="182"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="171"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="256"/>
         <source>node-gyp headers</source>
         <extracomment>Row title in the package caches list: C headers node-gyp downloaded</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="185"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="172"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="259"/>
         <source>Electron downloads</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="188"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="174"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="262"/>
         <source>electron-builder cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="191"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="175"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="265"/>
         <source>Deno cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="194"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="176"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="268"/>
         <source>TypeScript cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="197"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="177"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="271"/>
         <source>Composer cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="200"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="274"/>
         <source>Prisma engines</source>
         <extracomment>Row title in the package caches list: database engines Prisma downloaded</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="203"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="178"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="277"/>
         <source>Playwright browsers</source>
         <extracomment>Row title in the package caches list: browsers Playwright downloaded for tests</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="205"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="179"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="279"/>
         <source>Tests need `npx playwright install` afterwards</source>
         <extracomment>Detail line of the Playwright browsers row; the command stays as it is</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="208"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="282"/>
         <source>Puppeteer browsers</source>
         <extracomment>Row title in the package caches list: browsers Puppeteer downloaded</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="211"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="285"/>
         <source>Maven repository</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="213"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="287"/>
         <source>May hold artifacts you installed locally</source>
         <extracomment>Detail line of the Maven repository row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="222"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="296"/>
         <source>Ollama models</source>
         <extracomment>Row title in the AI models list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="224"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="298"/>
         <source>All models pulled with Ollama; `ollama pull` downloads them again</source>
         <extracomment>Detail line of the Ollama models row; the command stays as it is</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="236"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="310"/>
         <source>Downloaded iPhone update; Finder downloads it again when needed</source>
         <extracomment>Detail line of a downloaded iPhone software update</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="239"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="313"/>
         <source>Downloaded iPad update; Finder downloads it again when needed</source>
         <extracomment>Detail line of a downloaded iPad software update</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="256"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="333"/>
         <source>VS Code caches</source>
         <extracomment>Row title in the editors list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="258"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="335"/>
         <source>Cursor caches</source>
         <extracomment>Row title in the editors list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="260"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="337"/>
         <source>Windsurf caches</source>
         <extracomment>Row title in the editors list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="263"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="340"/>
         <source>JetBrains cache · </source>
         <extracomment>Prefix of a row title in the editors list; an IDE folder such as IntelliJIdea2024.1 follows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="266"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="344"/>
         <source>Zed cache</source>
         <extracomment>Row title in the editors list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="293"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="372"/>
         <source>Crash reports</source>
         <extracomment>Row title in the logs list: reports macOS wrote when apps crashed or hung</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="295"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="374"/>
         <source>Reports of apps that crashed or hung; needed only to report a problem</source>
         <extracomment>Detail line of the crash reports row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="298"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="377"/>
         <source>Diagnostic logs; the app starts new ones when it needs them</source>
         <extracomment>Detail line of an app&apos;s log folder in the logs list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="307"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="386"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="398"/>
         <source>VS Code logs</source>
         <extracomment>Row title in the logs list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="310"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="389"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="399"/>
         <source>Cursor logs</source>
         <extracomment>Row title in the logs list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="313"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="392"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="400"/>
         <source>Windsurf logs</source>
         <extracomment>Row title in the logs list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="316"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="395"/>
         <source>npm debug logs</source>
         <extracomment>Row title in the logs list: logs npm writes when a command fails</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LargeFoldersPage</name>
+    <message>
+        <location filename="../src/ui/LargeFoldersPage.cpp" line="25"/>
+        <source>Folder</source>
+        <extracomment>Column heading of the large folders: the folder</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/LargeFoldersPage.cpp" line="27"/>
+        <source>Size</source>
+        <extracomment>Column heading of the large folders: its size</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/LargeFoldersPage.cpp" line="29"/>
+        <source>Files</source>
+        <extracomment>Column heading of the large folders: how many files it holds</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/LargeFoldersPage.cpp" line="31"/>
+        <source>Small Files</source>
+        <extracomment>Column heading of the large folders: the share of its bytes in small files</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/LargeFoldersPage.cpp" line="33"/>
+        <source>Kind</source>
+        <extracomment>Column heading of the large folders: the kind of data</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/LargeFoldersPage.cpp" line="45"/>
+        <source>Large Folders</source>
+        <extracomment>Heading of the large folders screen</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/LargeFoldersPage.cpp" line="47"/>
+        <source>Folders that are big because they hold thousands of small files (each under 1 MB), such as package folders and caches. A folder inside a listed one is counted only once.</source>
+        <extracomment>Explanation on the large folders screen</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LeftoversScanner</name>
+    <message>
+        <location filename="../src/scan/LeftoversScanner.cpp" line="29"/>
+        <source>settings and caches only</source>
+        <extracomment>Fact in a leftovers row&apos;s detail line</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/LeftoversScanner.cpp" line="32"/>
+        <source>has %1</source>
+        <extracomment>Fact in a leftovers row&apos;s detail line; %1 is a list like &apos;saved passwords, bookmarks&apos;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../src/scan/LeftoversScanner.cpp" line="48"/>
+        <source>%n places</source>
+        <extracomment>Badge of a leftovers row; %n is the number of places in ~/Library</extracomment>
+        <translation>
+            <numerusform>%n place</numerusform>
+            <numerusform>%n places</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../src/scan/LeftoversScanner.cpp" line="52"/>
+        <source>last changed %1</source>
+        <extracomment>Fact in a leftovers row&apos;s detail line; %1 is a relative date like &quot;3 months ago&quot;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/LeftoversScannerSigns.cpp" line="19"/>
+        <source>saved passwords</source>
+        <extracomment>Kind of personal data found in a leftover, in a list</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/LeftoversScannerSigns.cpp" line="21"/>
+        <source>bookmarks</source>
+        <extracomment>Kind of personal data found in a leftover, in a list</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/LeftoversScannerSigns.cpp" line="23"/>
+        <source>browsing history</source>
+        <extracomment>Kind of personal data found in a leftover, in a list</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/LeftoversScannerSigns.cpp" line="25"/>
+        <source>documents</source>
+        <extracomment>Kind of personal data found in a leftover, in a list</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/LeftoversScannerSigns.cpp" line="27"/>
+        <source>databases</source>
+        <extracomment>Kind of personal data found in a leftover, in a list</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1426,25 +2102,25 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <location filename="../src/ui/MainWindow.cpp" line="26"/>
+        <location filename="../src/ui/MainWindow.cpp" line="28"/>
         <source>Dustlark</source>
         <extracomment>Window title (the app&apos;s name)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MainWindow.cpp" line="94"/>
+        <location filename="../src/ui/MainWindow.cpp" line="98"/>
         <source>File</source>
         <extracomment>Menu of the app&apos;s commands</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MainWindow.cpp" line="97"/>
+        <location filename="../src/ui/MainWindow.cpp" line="101"/>
         <source>Settings…</source>
         <extracomment>Menu entry that opens the settings window</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MainWindow.cpp" line="109"/>
+        <location filename="../src/ui/MainWindow.cpp" line="113"/>
         <source>Quit Dustlark</source>
         <extracomment>Menu entry that quits the app</extracomment>
         <translation type="unfinished"></translation>
@@ -1535,6 +2211,264 @@
         <location filename="../src/ui/MainWindowToolbar.cpp" line="110"/>
         <source>%1 available</source>
         <extracomment>Free space on the disk, in the toolbar; %1 is a size such as &quot;120.5 GB&quot;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MoveDestinationPage</name>
+    <message>
+        <location filename="../src/ui/MoveDestinationPage.cpp" line="38"/>
+        <source>Move “%1” to another disk?</source>
+        <extracomment>Heading of the move sheet; %1 is the row&apos;s title</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/MoveDestinationPage.cpp" line="41"/>
+        <source>Dustlark copies it to the folder you choose, checks that the copy matches the original, and only then moves the original to the Trash.</source>
+        <extracomment>Under the move sheet&apos;s heading: what a move does, in order</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/MoveDestinationPage.cpp" line="56"/>
+        <source>To:</source>
+        <extracomment>Label before the chosen destination folder of a move</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/MoveDestinationPage.cpp" line="59"/>
+        <source>No folder chosen</source>
+        <extracomment>Shown where the destination folder goes until one is chosen</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/MoveDestinationPage.cpp" line="63"/>
+        <source>Choose Folder…</source>
+        <extracomment>Button that opens the folder chooser for a move&apos;s destination</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/MoveDestinationPage.cpp" line="74"/>
+        <source>Move</source>
+        <extracomment>Button that starts the move to another disk</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/MoveDestinationPage.cpp" line="88"/>
+        <source>Choose a Folder on Another Disk</source>
+        <extracomment>Title of the folder chooser for a move&apos;s destination</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/MoveDestinationPage.cpp" line="92"/>
+        <source>Choose</source>
+        <extracomment>Confirming button of the folder chooser of a move</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/MoveDestinationPage.cpp" line="104"/>
+        <source>Checking the folder…</source>
+        <extracomment>Shown while a chosen destination folder is being checked</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MoveOutcomePage</name>
+    <message>
+        <location filename="../src/ui/MoveOutcomePage.cpp" line="24"/>
+        <source>“%1” was moved</source>
+        <extracomment>Heading of the move sheet after a move; %1 is the row&apos;s title</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/MoveOutcomePage.cpp" line="26"/>
+        <source>It is now at %1. The original is in the Trash.</source>
+        <extracomment>After a move: %1 is the new location; the original went to the Trash</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/MoveOutcomePage.cpp" line="28"/>
+        <source>Show in Finder</source>
+        <extracomment>Button that opens the folder holding the moved item in the file manager</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/MoveOutcomePage.cpp" line="34"/>
+        <source>The move didn&apos;t finish</source>
+        <extracomment>Heading of the move sheet when a move failed or was stopped; the text below says how far it came</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/MoveOutcomePage.cpp" line="38"/>
+        <source>Done</source>
+        <extracomment>Button that closes the move sheet</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MoveProgressPage</name>
+    <message>
+        <location filename="../src/ui/MoveProgressPage.cpp" line="24"/>
+        <source>Moving “%1”…</source>
+        <extracomment>Heading of the move sheet while the copy runs; %1 is the row&apos;s title</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/MoveProgressPage.cpp" line="27"/>
+        <source>To %1</source>
+        <extracomment>Under the heading while a move runs; %1 is the destination folder</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/MoveProgressPage.cpp" line="33"/>
+        <source>Stop</source>
+        <extracomment>Button that stops a move: the copy ends and is removed, the original stays</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/MoveProgressPage.cpp" line="60"/>
+        <source>Stopping and removing the copy…</source>
+        <extracomment>Shown after Stop while the copy ends and is removed</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/MoveProgressPage.cpp" line="63"/>
+        <source>%1 of %2</source>
+        <extracomment>Progress of a move; %1 bytes copied so far, %2 in all, e.g. &quot;1.2 GB of 4.5 GB&quot;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/MoveProgressPage.cpp" line="66"/>
+        <source>Reading the original…</source>
+        <extracomment>Progress of a move before the first bytes arrived (the original is being read first)</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MoveSheet</name>
+    <message>
+        <location filename="../src/ui/MoveSheet.cpp" line="16"/>
+        <source>Move to Another Disk</source>
+        <extracomment>Window title of the move sheet (shown where sheets have a title bar)</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/MoveSheet.cpp" line="40"/>
+        <source>Dustlark is busy with a scan, a cleanup or another move. Try again when it has finished.</source>
+        <extracomment>Why a move could not start: the app is scanning, cleaning or moving something else</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Mover</name>
+    <message>
+        <location filename="../src/actions/MoverReasons.cpp" line="12"/>
+        <source>The destination folder isn&apos;t available.</source>
+        <extracomment>Move to Another Disk error: the chosen folder is missing or not a folder</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/actions/MoverReasons.cpp" line="18"/>
+        <source>Dustlark can&apos;t write to that folder.</source>
+        <extracomment>Move to Another Disk error: no permission to write into the chosen folder</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/actions/MoverReasons.cpp" line="24"/>
+        <source>That folder is on the same disk, so moving there frees no space. Choose another disk.</source>
+        <extracomment>Move to Another Disk error: the chosen folder is on the disk the item is on</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/actions/MoverReasons.cpp" line="30"/>
+        <source>That folder is inside the item itself. Choose another folder.</source>
+        <extracomment>Move to Another Disk error: the chosen folder lies inside the item being moved</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/actions/MoverReasons.cpp" line="36"/>
+        <source>Two parts of it are named “%1”, so they can&apos;t go into one folder.</source>
+        <extracomment>Move to Another Disk error: two parts of the item differ only in upper and lower case; %1 is the name</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/actions/MoverReasons.cpp" line="42"/>
+        <source>“%1” already exists in that folder.</source>
+        <extracomment>Move to Another Disk error: the destination already holds something of that name; %1 is the name</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/actions/MoverReasons.cpp" line="48"/>
+        <source>Only files and folders can be moved to another disk.</source>
+        <extracomment>Move to Another Disk error: the row is a Docker object, a simulator or the Trash</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/actions/MoverReasons.cpp" line="54"/>
+        <source>Some files in it can&apos;t be read, so the copy couldn&apos;t be checked. Nothing was changed.</source>
+        <extracomment>Move to Another Disk error: some entries of the item can&apos;t be read</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/actions/MoverReasons.cpp" line="60"/>
+        <source>Not enough space on that disk: %1 needed, %2 free.</source>
+        <extracomment>Move to Another Disk error: %1 is the size needed, %2 the free space, e.g. &quot;12 GB&quot;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/actions/MoverReasons.cpp" line="67"/>
+        <source>“Dustlark unfinished move” is still in that folder from an earlier move. Check it and remove it, then try again.</source>
+        <extracomment>Move to Another Disk error: a work folder of an earlier, interrupted move is in the destination</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/actions/MoverReasons.cpp" line="73"/>
+        <source>Copy failed: %1</source>
+        <extracomment>Move to Another Disk error: the copy tool failed; %1 is its message</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/actions/MoverReasons.cpp" line="79"/>
+        <source>The original changed while it was copied. Nothing was changed; try again.</source>
+        <extracomment>Move to Another Disk error: a file of the original was changed during the copy</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/actions/MoverReasons.cpp" line="85"/>
+        <source>The copy didn&apos;t match the original (%1 of %2 files). The original wasn&apos;t changed.</source>
+        <extracomment>Move to Another Disk error: the copy differs from the original; %1 is the copy&apos;s file count, %2 the original&apos;s</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/actions/MoverReasons.cpp" line="92"/>
+        <source>Copied and verified, but the original couldn&apos;t go to the Trash: %1</source>
+        <extracomment>Move to Another Disk error: the verified copy is in place but the original stayed; %1 is the reason</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/actions/MoverReasons.cpp" line="98"/>
+        <source>Stopped. The original wasn&apos;t changed.</source>
+        <extracomment>Move to Another Disk: the person pressed Stop or quit; everything copied was removed</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>OldDownloadsScanner</name>
+    <message>
+        <location filename="../src/scan/OldDownloadsScanner.cpp" line="57"/>
+        <source>last changed %1</source>
+        <extracomment>Detail of an Old Downloads row; %1 is a relative date like &apos;5 months ago&apos;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/OldDownloadsScanner.cpp" line="61"/>
+        <source>Folder</source>
+        <extracomment>Badge of an Old Downloads row that is a folder</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/OldDownloadsScanner.cpp" line="68"/>
+        <source>Downloads couldn&apos;t be read. Allow access when macOS asks.</source>
+        <extracomment>Note above Old Downloads when the Downloads folder can&apos;t be read</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1673,13 +2607,13 @@
 <context>
     <name>ProcessRunner</name>
     <message>
-        <location filename="../src/machinery/ProcessRunner.cpp" line="343"/>
+        <location filename="../src/machinery/ProcessRunner.cpp" line="322"/>
         <source>The tool didn&apos;t answer in time.</source>
         <extracomment>Error when a command-line tool (docker, xcrun) times out</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/machinery/ProcessRunner.cpp" line="350"/>
+        <location filename="../src/machinery/ProcessRunner.cpp" line="329"/>
         <source>Exit code %1</source>
         <extracomment>Error of a command-line tool that gave no message</extracomment>
         <translation type="unfinished"></translation>
@@ -1688,7 +2622,16 @@
 <context>
     <name>ProjectScanner</name>
     <message numerus="yes">
-        <location filename="../src/scan/ProjectScanner.cpp" line="145"/>
+        <location filename="../src/scan/ProjectScanner.cpp" line="149"/>
+        <source>%n files or folders were left out because their names can&apos;t be read as text. Rename them to include them.</source>
+        <extracomment>Note above Project Builds and Large Files; %n is the number of files and folders whose names aren&apos;t valid text</extracomment>
+        <translation>
+            <numerusform>%n file or folder was left out because its name can&apos;t be read as text. Rename it to include it.</numerusform>
+            <numerusform>%n files or folders were left out because their names can&apos;t be read as text. Rename them to include them.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../src/scan/ProjectScanner.cpp" line="158"/>
         <source>%n folders couldn&apos;t be read. Allow access when macOS asks, or give Dustlark Full Disk Access.</source>
         <extracomment>Note above Project Builds and Large Files; %n is the number of folders that couldn&apos;t be read</extracomment>
         <translation>
@@ -1721,79 +2664,79 @@
 <context>
     <name>RelativeDate</name>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="23"/>
+        <location filename="../src/format/RelativeDate.cpp" line="25"/>
         <source>last month</source>
         <extracomment>Relative date</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="25"/>
+        <location filename="../src/format/RelativeDate.cpp" line="27"/>
         <source>%1 months ago</source>
         <extracomment>Relative date; %1 is a number of months (2 to 11)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="30"/>
+        <location filename="../src/format/RelativeDate.cpp" line="32"/>
         <source>last year</source>
         <extracomment>Relative date</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="32"/>
+        <location filename="../src/format/RelativeDate.cpp" line="34"/>
         <source>%1 years ago</source>
         <extracomment>Relative date; %1 is a number of years (2 or more)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="42"/>
+        <location filename="../src/format/RelativeDate.cpp" line="44"/>
         <source>just now</source>
         <extracomment>Relative date of something that happened less than a minute ago</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="47"/>
+        <location filename="../src/format/RelativeDate.cpp" line="49"/>
         <source>1 minute ago</source>
         <extracomment>Relative date</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="49"/>
+        <location filename="../src/format/RelativeDate.cpp" line="51"/>
         <source>%1 minutes ago</source>
         <extracomment>Relative date; %1 is a number of minutes (2 to 59)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="55"/>
+        <location filename="../src/format/RelativeDate.cpp" line="57"/>
         <source>1 hour ago</source>
         <extracomment>Relative date</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="57"/>
+        <location filename="../src/format/RelativeDate.cpp" line="59"/>
         <source>%1 hours ago</source>
         <extracomment>Relative date; %1 is a number of hours (2 to 23)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="62"/>
+        <location filename="../src/format/RelativeDate.cpp" line="64"/>
         <source>yesterday</source>
         <extracomment>Relative date</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="65"/>
+        <location filename="../src/format/RelativeDate.cpp" line="67"/>
         <source>%1 days ago</source>
         <extracomment>Relative date; %1 is a number of days (2 to 6)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="71"/>
+        <location filename="../src/format/RelativeDate.cpp" line="73"/>
         <source>last week</source>
         <extracomment>Relative date</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="73"/>
+        <location filename="../src/format/RelativeDate.cpp" line="75"/>
         <source>%1 weeks ago</source>
         <extracomment>Relative date; %1 is a number of weeks (2 to 4)</extracomment>
         <translation type="unfinished"></translation>
@@ -1802,13 +2745,13 @@
 <context>
     <name>Remover</name>
     <message>
-        <location filename="../src/actions/DockerRemoval.cpp" line="49"/>
+        <location filename="../src/actions/DockerRemoval.cpp" line="48"/>
         <source>Docker isn&apos;t installed.</source>
         <extracomment>Cleanup failure reason for a Docker item</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/DockerRemoval.cpp" line="55"/>
+        <location filename="../src/actions/DockerRemoval.cpp" line="54"/>
         <source>Docker now uses a different setup than during the scan. Scan again.</source>
         <extracomment>Cleanup failure reason for a Docker item: the Docker endpoint differs from the scan&apos;s</extracomment>
         <translation type="unfinished"></translation>
@@ -1892,19 +2835,25 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/RemovalReasons.cpp" line="71"/>
+        <location filename="../src/vocabulary/RemovalReasons.cpp" line="70"/>
+        <source>Its name can&apos;t be read exactly. Rename it to remove it.</source>
+        <extracomment>Why an item can&apos;t be moved to the Trash: its file name is not valid text, so it can&apos;t be told apart from a similar name</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/vocabulary/RemovalReasons.cpp" line="77"/>
         <source>It couldn&apos;t be moved to the Trash.</source>
         <extracomment>Cleanup failure reason when the system&apos;s trash refused without saying why</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/RemovalReasons.cpp" line="74"/>
+        <location filename="../src/vocabulary/RemovalReasons.cpp" line="80"/>
         <source>It couldn&apos;t be moved to the Trash: %1</source>
         <extracomment>Cleanup failure reason. The placeholder is the system&apos;s own description of the error.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/RemovalReasons.cpp" line="80"/>
+        <location filename="../src/vocabulary/RemovalReasons.cpp" line="86"/>
         <source>The tool couldn&apos;t be started: %1</source>
         <extracomment>Cleanup failure reason. The placeholder is the system&apos;s reason, e.g. &quot;No such file or directory&quot;.</extracomment>
         <translation type="unfinished"></translation>
@@ -1931,21 +2880,42 @@
 <context>
     <name>ReportOptions</name>
     <message>
-        <location filename="../src/report/ReportOptions.cpp" line="27"/>
+        <location filename="../src/report/ReportOptions.cpp" line="32"/>
         <source>Unknown argument &quot;%1&quot;.</source>
         <extracomment>Error of the report tool; %1 is the argument it did not understand</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/report/ReportOptions.cpp" line="32"/>
+        <location filename="../src/report/ReportOptions.cpp" line="37"/>
         <source>%1 needs a value.</source>
         <extracomment>Error of the report tool; %1 is an option such as --home</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/report/ReportOptions.cpp" line="45"/>
+        <location filename="../src/report/ReportOptions.cpp" line="50"/>
         <source>Unknown category &quot;%1&quot;.</source>
         <extracomment>Error of the report tool; %1 is the category name it did not know</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RunningApps</name>
+    <message>
+        <location filename="../src/scan/RunningApps.cpp" line="110"/>
+        <source>Running. Quit %1 to remove it.</source>
+        <extracomment>Why a row can&apos;t be selected; %1 is the name of the app that uses it</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/RunningApps.cpp" line="116"/>
+        <source>Running. Quit %1 to clean its caches.</source>
+        <extracomment>Why an app&apos;s cache row can&apos;t be selected; %1 is the app&apos;s name</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/RunningApps.cpp" line="122"/>
+        <source>Running. Quit %1 to clean its cache.</source>
+        <extracomment>Why a browser&apos;s cache row can&apos;t be selected; %1 is the browser&apos;s name</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2184,6 +3154,129 @@
     </message>
 </context>
 <context>
+    <name>SimulatorScanner</name>
+    <message>
+        <location filename="../src/scan/SimulatorScanner.cpp" line="38"/>
+        <source>The tool&apos;s answer isn&apos;t valid JSON.</source>
+        <extracomment>Why the simulator tool&apos;s listing couldn&apos;t be used: it printed something that isn&apos;t valid JSON</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/SimulatorScanner.cpp" line="101"/>
+        <source>Couldn&apos;t list simulator devices: %1</source>
+        <extracomment>Note in the Simulators category; %1 is the tool&apos;s error sentence</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/SimulatorScanner.cpp" line="110"/>
+        <source>Couldn&apos;t list simulator runtimes: %1</source>
+        <extracomment>Note in the Simulators category; %1 is the tool&apos;s error sentence. The devices are still listed.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/SimulatorScanner.cpp" line="179"/>
+        <source>Xcode isn&apos;t installed, so there are no simulators to manage.</source>
+        <extracomment>Note in the Simulators category</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/SimulatorScannerRows.cpp" line="35"/>
+        <source>never used</source>
+        <extracomment>Fact in a simulator device&apos;s detail line</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/SimulatorScannerRows.cpp" line="37"/>
+        <source>used %1</source>
+        <extracomment>Fact in a simulator&apos;s detail line; %1 is a relative date like &apos;3 months ago&apos;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/SimulatorScannerRows.cpp" line="43"/>
+        <source>removing it keeps %1</source>
+        <extracomment>Fact in a simulator device&apos;s detail line; %1 is the runtime&apos;s name like &apos;iOS 17.5&apos;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/SimulatorScannerRows.cpp" line="47"/>
+        <source>runtime is missing</source>
+        <extracomment>Why a simulator device can&apos;t run, in parentheses of &quot;can&apos;t run: its iOS is gone (%1)&quot;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/SimulatorScannerRows.cpp" line="50"/>
+        <source>can&apos;t run: its iOS is gone (%1)</source>
+        <extracomment>Fact in a simulator device&apos;s detail line; %1 is Xcode&apos;s reason</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/SimulatorScannerRows.cpp" line="58"/>
+        <source>%1 runtime</source>
+        <extracomment>Title of a simulator runtime row; %1 is its name like &apos;iOS 17.5&apos;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/SimulatorScannerRows.cpp" line="66"/>
+        <source>Build %1</source>
+        <extracomment>Fact in a simulator runtime&apos;s detail line; %1 is a build like &apos;21F79&apos;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/SimulatorScannerRows.cpp" line="72"/>
+        <source>%1 devices stop working without it; getting it back is a %2 download</source>
+        <extracomment>Fact in a simulator runtime&apos;s detail line; %1 is a number of devices, %2 a size like &apos;7.4 GB&apos;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/SimulatorScannerRows.cpp" line="76"/>
+        <source>no devices use it</source>
+        <extracomment>Fact in a simulator runtime&apos;s detail line</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/SimulatorScannerRows.cpp" line="85"/>
+        <source>A simulator on it is running. Shut it down to remove it.</source>
+        <extracomment>Why a simulator runtime can&apos;t be selected</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/SimulatorScannerRows.cpp" line="88"/>
+        <source>Installed with Xcode; remove it in Xcode Settings › Components.</source>
+        <extracomment>Why a simulator runtime can&apos;t be selected</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/SimulatorScannerRows.cpp" line="118"/>
+        <source>Simulator %1</source>
+        <extracomment>A simulator runtime whose platform can&apos;t be told; %1 is its version like &apos;17.5&apos;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/SimulatorScannerRows.cpp" line="135"/>
+        <source>Device</source>
+        <extracomment>Badge of a simulator device</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/SimulatorScannerRows.cpp" line="137"/>
+        <source>Unavailable</source>
+        <extracomment>Badge of a simulator device that can&apos;t run, because its runtime is gone</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/SimulatorScannerRows.cpp" line="143"/>
+        <source>Running. Shut it down to remove it.</source>
+        <extracomment>Why a simulator device can&apos;t be selected</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/SimulatorScannerRows.cpp" line="155"/>
+        <source>Runtime</source>
+        <extracomment>Badge of a simulator runtime</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>SizeFilter</name>
     <message>
         <location filename="../src/vocabulary/SizeFilter.cpp" line="38"/>
@@ -2211,9 +3304,264 @@
     </message>
 </context>
 <context>
+    <name>StorageAnalyzer</name>
+    <message>
+        <location filename="../src/storage/StorageAnalyzer.cpp" line="73"/>
+        <source>1 folder couldn&apos;t be read; what it holds counts as %1.</source>
+        <extracomment>Note above the storage breakdown when one folder could not be read</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/storage/StorageAnalyzer.cpp" line="76"/>
+        <source>%1 folders couldn&apos;t be read; what they hold counts as %2.</source>
+        <extracomment>Note above the storage breakdown; %1 is the number of folders that could not be read, %2 the name of the remainder</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/storage/StorageAnalyzer.cpp" line="120"/>
+        <source>Without Full Disk Access, app containers, Mail, Messages and Safari data aren&apos;t measured and fall under macOS and system data.</source>
+        <extracomment>Note above the storage breakdown while the app lacks Full Disk Access</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>StorageBucket</name>
+    <message>
+        <location filename="../src/storage/StorageBucket.cpp" line="38"/>
+        <source>Applications</source>
+        <extracomment>Storage kind: applications</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/storage/StorageBucket.cpp" line="40"/>
+        <source>Developer</source>
+        <extracomment>Storage kind: developer tools&apos; data, build folders and package caches</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/storage/StorageBucket.cpp" line="42"/>
+        <source>Photos</source>
+        <extracomment>Storage kind: pictures and photo libraries</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/storage/StorageBucket.cpp" line="44"/>
+        <source>Videos</source>
+        <extracomment>Storage kind: movies and video projects</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/storage/StorageBucket.cpp" line="46"/>
+        <source>Music</source>
+        <extracomment>Storage kind: music, audio and the music and TV libraries</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/storage/StorageBucket.cpp" line="48"/>
+        <source>Documents</source>
+        <extracomment>Storage kind: pdf, text, office documents, e-books</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/storage/StorageBucket.cpp" line="50"/>
+        <source>Archives &amp; Disk Images</source>
+        <extracomment>Storage kind: zip, dmg, pkg, ...</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/storage/StorageBucket.cpp" line="52"/>
+        <source>iPhone &amp; iPad Backups</source>
+        <extracomment>Storage kind: backups of iPhones and iPads made on this computer</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/storage/StorageBucket.cpp" line="54"/>
+        <source>Mail &amp; Messages</source>
+        <extracomment>Storage kind: Mail and Messages data</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/storage/StorageBucket.cpp" line="56"/>
+        <source>App Data &amp; Caches</source>
+        <extracomment>Storage kind: app data in the Library</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/storage/StorageBucket.cpp" line="58"/>
+        <source>Trash</source>
+        <extracomment>Storage kind: the macOS Trash</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/storage/StorageBucket.cpp" line="60"/>
+        <source>Other Files</source>
+        <extracomment>Storage kind: files of any other type</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/storage/StorageBucket.cpp" line="75"/>
+        <source>macOS and System Data</source>
+        <extracomment>Storage breakdown: the used space the analysis could not attribute (the system, other accounts, protected data)</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/storage/StorageBucket.cpp" line="77"/>
+        <source>System and Other Data</source>
+        <extracomment>Storage breakdown on Linux: the used space the analysis could not attribute (the system, other accounts, protected data)</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>StorageHeader</name>
+    <message>
+        <location filename="../src/ui/StorageHeader.cpp" line="52"/>
+        <source>Stop</source>
+        <extracomment>Button of the storage screens while an analysis runs</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/StorageHeader.cpp" line="54"/>
+        <source>Measure Again</source>
+        <extracomment>Button of the storage screens: measure the disk again</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/StorageHeader.cpp" line="56"/>
+        <source>Measure Disk</source>
+        <extracomment>Button of the storage screens before any analysis</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/StorageHeader.cpp" line="66"/>
+        <source>Measured %1.</source>
+        <extracomment>Status line of the storage screens; %1 is a relative date (&quot;5 minutes ago&quot;)</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/StorageHeader.cpp" line="69"/>
+        <source>Not measured yet. Measuring reads your home folder; it changes nothing.</source>
+        <extracomment>Status line of the storage screens before any analysis</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/StorageHeader.cpp" line="93"/>
+        <source>Measuring… %1 items looked at · %2</source>
+        <extracomment>Status line while the disk is measured; %1 is a number of files and folders, %2 the folder being read</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>StoragePage</name>
+    <message>
+        <location filename="../src/ui/StoragePage.cpp" line="59"/>
+        <source>1 file</source>
+        <extracomment>Number of files in a storage folder, singular</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/StoragePage.cpp" line="61"/>
+        <source>%1 files</source>
+        <extracomment>Number of files in a storage folder; %1 is the number</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/StoragePage.cpp" line="69"/>
+        <source>Storage</source>
+        <extracomment>Heading of the storage screen</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/StoragePage.cpp" line="71"/>
+        <source>Where the space on your disk goes, by kind of data. Click a kind to see its folders, and a folder to see its largest files.</source>
+        <extracomment>Explanation on the storage screen</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/StoragePage.cpp" line="75"/>
+        <source>Back</source>
+        <extracomment>Button of the storage drill-down: go up one level</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/StoragePage.cpp" line="96"/>
+        <source>Kind</source>
+        <extracomment>Column heading of the storage legend: the kind of data</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/StoragePage.cpp" line="98"/>
+        <location filename="../src/ui/StoragePage.cpp" line="119"/>
+        <source>Size</source>
+        <extracomment>Column heading of the storage legend: the kind&apos;s size
+----------
+Column heading of the storage drill-down: its size</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/StoragePage.cpp" line="100"/>
+        <source>Share</source>
+        <extracomment>Column heading of the storage legend: the kind&apos;s share of the used space</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/StoragePage.cpp" line="117"/>
+        <source>Name</source>
+        <extracomment>Column heading of the storage drill-down: a folder or file</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/StoragePage.cpp" line="121"/>
+        <source>Files</source>
+        <extracomment>Column heading of the storage drill-down: how many files it holds</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/StoragePage.cpp" line="162"/>
+        <source>not measured</source>
+        <extracomment>Middle of the storage ring before any analysis</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/StoragePage.cpp" line="178"/>
+        <source>used</source>
+        <extracomment>Under the size in the middle of the storage ring: the disk&apos;s used space</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/StoragePage.cpp" line="180"/>
+        <source>measured</source>
+        <extracomment>Under the size in the middle of the storage ring when the disk&apos;s used space is unknown</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/StoragePage.cpp" line="207"/>
+        <source>The system, other accounts and data that can&apos;t be read without more access.</source>
+        <extracomment>Tooltip of the remainder in the storage legend</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/StoragePage.cpp" line="222"/>
+        <source>Choose a kind of data</source>
+        <extracomment>Above the storage drill-down before a kind of data is chosen</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/StoragePage.cpp" line="261"/>
+        <source>Files in this folder</source>
+        <extracomment>Storage drill-down: the files that lie directly in the folder, not in a sub-folder</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/StoragePage.cpp" line="340"/>
+        <source>Show in Finder</source>
+        <extracomment>Row menu of a file on the storage screen: open the folder that holds it in the file manager</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>SystemAccess</name>
     <message>
-        <location filename="../src/actions/FreedesktopTrash.cpp" line="150"/>
+        <location filename="../src/actions/FreedesktopTrash.cpp" line="108"/>
         <source>Some items in the Trash couldn&apos;t be removed. Empty the Trash again or use your file manager.</source>
         <extracomment>Empty Trash error on Linux, when some trashed items could not be deleted</extracomment>
         <translation type="unfinished"></translation>
@@ -2258,9 +3606,105 @@
 <context>
     <name>SystemTrash</name>
     <message>
-        <location filename="../src/actions/SystemTrash.cpp" line="25"/>
+        <location filename="../src/actions/FreedesktopTrashMove.cpp" line="32"/>
         <source>The Trash folder can&apos;t be set up.</source>
         <extracomment>Why a file couldn&apos;t be moved to the Trash: the system&apos;s Trash folder is missing and can&apos;t be made</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TemporaryScanner</name>
+    <message>
+        <location filename="../src/scan/TemporaryScannerRows.cpp" line="29"/>
+        <source>System temp</source>
+        <extracomment>Badge of a Temporary Files row found in the system&apos;s temporary folders</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/TemporaryScannerRows.cpp" line="31"/>
+        <source>Your temp folder</source>
+        <extracomment>Badge of a Temporary Files row found in the person&apos;s own temp folder (~/tmp)</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/TemporaryScannerRows.cpp" line="37"/>
+        <source>last changed %1</source>
+        <extracomment>Detail of a Temporary Files row; %1 is a relative date like &apos;5 days ago&apos;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/TemporaryScannerRows.cpp" line="75"/>
+        <source>Simulator device</source>
+        <extracomment>Title and badge of a temporary simulator device found in a temporary folder</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/TemporaryScannerRows.cpp" line="78"/>
+        <source>temporary device set in %1</source>
+        <extracomment>Detail of a temporary simulator device; %1 is its folder, like &apos;/tmp/XCTestDevices/…&apos;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/TemporaryScannerRows.cpp" line="82"/>
+        <source>Running. Shut it down to remove it.</source>
+        <extracomment>Why a running simulator device can&apos;t be selected</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/TemporaryScannerRows.cpp" line="100"/>
+        <source>Claude Code</source>
+        <extracomment>Badge of a Claude Code scratch entry in a temporary folder</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../src/scan/TemporaryScannerRows.cpp" line="118"/>
+        <source>%n old files in %1</source>
+        <extracomment>Title of a Temporary Files row that gathers the old files of one folder; %1 is the folder&apos;s name</extracomment>
+        <translation>
+            <numerusform>%n old file in %1</numerusform>
+            <numerusform>%n old files in %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../src/scan/TemporaryScannerRows.cpp" line="217"/>
+        <source>Claude Code temp files · %1</source>
+        <extracomment>Title of a Claude Code project&apos;s scratch folder; %1 is the project&apos;s folder, like &apos;~/www/app&apos;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/TemporaryScannerRows.cpp" line="219"/>
+        <source>Scratchpads and task output of this project&apos;s past sessions</source>
+        <extracomment>Detail of a Claude Code project&apos;s scratch folder</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/TemporaryScannerRows.cpp" line="223"/>
+        <source>Claude Code session files · %1</source>
+        <extracomment>Title of one Claude Code session&apos;s scratch files; %1 is the project&apos;s folder, like &apos;~/www/app&apos;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/TemporaryScannerRows.cpp" line="225"/>
+        <source>One past session&apos;s scratchpad and task output; it may hold work that isn&apos;t saved elsewhere</source>
+        <extracomment>Detail of one Claude Code session&apos;s scratch files</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/TemporaryScannerRows.cpp" line="230"/>
+        <source>Claude Code temp files</source>
+        <extracomment>Title of Claude Code scratch files that belong to no one project</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/TemporaryScannerRows.cpp" line="232"/>
+        <source>Scratchpads and task output of past sessions</source>
+        <extracomment>Detail of Claude Code scratch files that belong to no one project</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/TemporaryScannerRows.cpp" line="238"/>
+        <source>Shown: system temp items untouched for %1+ days (macOS also clears /tmp when it restarts) and items in your own temp folders untouched for %2+ days.</source>
+        <extracomment>Summary of Temporary Files; %1 and %2 are numbers of days (3 and 30)</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2295,6 +3739,42 @@
         <source>Couldn&apos;t empty the Trash</source>
         <extracomment>Title of the message when the Trash could not be emptied; the system&apos;s reason follows</extracomment>
         <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TrashScanner</name>
+    <message>
+        <location filename="../src/scan/TrashScanner.cpp" line="17"/>
+        <source>Trash</source>
+        <extracomment>Title of the one row of the Trash category</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/TrashScanner.cpp" line="26"/>
+        <source>Size unknown without Full Disk Access</source>
+        <extracomment>Detail of the Trash row when Dustlark may not read the Trash</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/TrashScanner.cpp" line="35"/>
+        <source>macOS lets Dustlark measure the Trash only with Full Disk Access. Empty Trash works without it.</source>
+        <extracomment>Note above the Trash category without Full Disk Access</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/TrashScanner.cpp" line="42"/>
+        <source>Some items in the Trash couldn&apos;t be read, so its size counts only the rest. Empty Trash removes them too.</source>
+        <extracomment>Note above the Trash category when some of its items could not be read</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../src/scan/TrashScanner.cpp" line="62"/>
+        <source>%n files</source>
+        <extracomment>Detail of the Trash row; %n is the number of files in the Trash</extracomment>
+        <translation>
+            <numerusform>%n file</numerusform>
+            <numerusform>%n files</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2351,6 +3831,75 @@
         <location filename="../src/scan/WorktreeFinderRows.cpp" line="177"/>
         <source>Git isn&apos;t installed, so Dustlark can&apos;t see changes not committed in these worktrees. Install Xcode&apos;s command line tools to see them.</source>
         <extracomment>Note above the Git Worktrees list when no git is installed</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>XcodeScanner</name>
+    <message>
+        <location filename="../src/scan/XcodeScanner.cpp" line="28"/>
+        <source>Another copy of Xcode; the one selected for builds is not this one</source>
+        <extracomment>Detail of a row of another Xcode copy, when no copy is known to be selected</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/XcodeScanner.cpp" line="30"/>
+        <source>Another copy of Xcode; the one selected for builds is %1</source>
+        <extracomment>Detail of a row of another Xcode copy; %1 is the selected copy&apos;s name like &apos;Xcode.app&apos;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/XcodeScanner.cpp" line="54"/>
+        <source>Xcode app</source>
+        <extracomment>Badge of a row of another copy of Xcode</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/XcodeScannerArchives.cpp" line="21"/>
+        <source>Version %1 (%2)</source>
+        <extracomment>Fact of an Xcode archive; %1 is the app&apos;s version, %2 its build number</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/XcodeScannerArchives.cpp" line="24"/>
+        <source>Version %1</source>
+        <extracomment>Fact of an Xcode archive; %1 is the app&apos;s version</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/XcodeScannerArchives.cpp" line="27"/>
+        <source>archived %1</source>
+        <extracomment>Fact of an Xcode archive; %1 is the date and time it was made</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/XcodeScannerArchives.cpp" line="30"/>
+        <source>uploaded to Apple</source>
+        <extracomment>Fact of an Xcode archive that was sent to App Store Connect</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/XcodeScannerArchives.cpp" line="37"/>
+        <source>Newest</source>
+        <extracomment>Badge of the newest Xcode archive of an app</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/XcodeScannerArchives.cpp" line="39"/>
+        <source>newest archive of this app: its build and crash symbols exist only here</source>
+        <extracomment>Fact of the newest Xcode archive of an app</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/XcodeScannerArchives.cpp" line="46"/>
+        <source>the build comes back from its git tag; only crash symbols for this build are lost</source>
+        <extracomment>Fact of an Xcode archive that is not the newest of its app</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/scan/XcodeScannerArchives.cpp" line="49"/>
+        <source>a newer build of this version exists</source>
+        <extracomment>Fact of an Xcode archive when a later archive of the same app has the same version</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -15,7 +15,7 @@ std::optional<FileTarget> of(const QString& path, const CancellationToken* cance
     if (!target || !info)
         return std::nullopt;
     if (S_ISREG(info->st_mode))
-        target->content = FileTarget::ContentStamp{info->st_size, Platform::modificationNanoseconds(*info)};
+        target->content = FileTarget::ContentStamp::of(*info);
     if (S_ISDIR(info->st_mode)) {
         target->tree = Fingerprint::compute(path, cancellation);
         if (!target->tree)

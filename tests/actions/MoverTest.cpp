@@ -195,7 +195,7 @@ TEST_F(MoverFixture, AFailedTrashLeavesTheVerifiedCopyAndSaysSo)
 {
     const QString project = makeProject(QStringLiteral("Projects/atlas"));
     const auto before = snapshot(project);
-    moveEnvironment.removal.trash = [](const QString&) { return TrashResult{std::nullopt, QStringLiteral("The Trash is full"), false}; };
+    moveEnvironment.removal.trash = [](const TrashRequest&) { return TrashResult{std::nullopt, QStringLiteral("The Trash is full"), false, false}; };
 
     const Mover::Outcome outcome = moveItem(trashItem({project}));
     EXPECT_TRUE(outcome.reason.startsWith(QStringLiteral("Copied and verified, but the original couldn't go to the Trash: ")))

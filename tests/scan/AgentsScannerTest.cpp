@@ -1,3 +1,4 @@
+#include "format/RelativeDate.h"
 #include "machinery/FileSizer.h"
 #include "platform/Platform.h"
 #include "scan/AgentsScanner.h"
@@ -114,7 +115,7 @@ TEST_F(AgentsScannerTest, RecentSessionsAreLockedAndOlderOnesCarryTheirAge)
     sessions = items();
     ASSERT_EQ(sessions.size(), 1);
     EXPECT_FALSE(sessions.first().lockedReason);
-    EXPECT_EQ(sessions.first().detail, QStringLiteral("Session history /resume uses · last changed 3 days ago"));
+    EXPECT_EQ(RelativeDate::expand(sessions.first().detail, context.now), QStringLiteral("Session history /resume uses · last changed 3 days ago"));
 }
 
 TEST_F(AgentsScannerTest, ARunningAppLocksItsRowsWhateverTheirAge)
