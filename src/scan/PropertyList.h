@@ -38,8 +38,6 @@ public:
     [[nodiscard]] static std::optional<QString> string(const QString& path, const QString& key);
 
 private:
-    void* node(const QStringList& keyPath) const;  // a plist_t inside m_root, or null
-
     explicit PropertyList(std::shared_ptr<void> root) : m_root(std::move(root)) {}
 
     // The node under `keyPath`, or null.
