@@ -98,6 +98,17 @@ std::optional<struct statvfs> volumeInfo(const QString& path)
 
 }  // namespace
 
+QString bundleValue(const QString& key)
+{
+    if (key == QLatin1String("CFBundleShortVersionString"))
+        return QStringLiteral(DUSTLARK_VERSION);
+    if (key == QLatin1String("CFBundleVersion"))
+        return QStringLiteral(DUSTLARK_BUILD);
+    if (key == QLatin1String("CFBundleIdentifier"))
+        return QStringLiteral(DUSTLARK_BUNDLE_ID);
+    return {};
+}
+
 std::vector<pid_t> childProcesses(pid_t parent)
 {
     // /proc/PID/task/*/children needs a kernel option that is often off; the parent field of

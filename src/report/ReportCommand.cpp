@@ -3,6 +3,7 @@
 #include "model/SettingsStore.h"
 #include "report/ScanRunner.h"
 #include "scan/ScannerCatalog.h"
+#include "update/UpdateChecker.h"
 #include "vocabulary/ScanFilter.h"
 
 #include <QDir>
@@ -75,8 +76,17 @@ ScanReport::Results scan(const ReportOptions& options, const Protection& protect
     return results;
 }
 
+QString versionLine()
+{
+    return QStringLiteral("dustlark-cli %1 (%2)").arg(UpdateChecker::currentVersion()).arg(UpdateChecker::currentBuild());
+}
+
 int run(const QStringList& arguments)
 {
+    if (arguments == QStringList{QStringLiteral("--version")}) {
+        std::printf("%s\n", qPrintable(versionLine()));
+        return 0;
+    }
     QString error;
     const auto options = ReportOptions::parse(arguments, &error);
     if (!options) {

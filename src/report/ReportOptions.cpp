@@ -4,7 +4,7 @@
 
 QString ReportOptions::usage()
 {
-    return QStringLiteral("usage: dustlark-cli scan [--home DIR] [--root DIR]... [--category RAW]... [--json]");
+    return QStringLiteral("usage: dustlark-cli scan [--home DIR] [--root DIR]... [--category RAW]... [--json] | --version");
 }
 
 std::optional<ReportOptions> ReportOptions::parse(const QStringList& arguments, QString* error)
