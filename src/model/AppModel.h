@@ -2,6 +2,7 @@
 
 #include "model/CleanupSession.h"
 #include "model/ScanTask.h"
+#include "update/UpdateChecker.h"
 #include "vocabulary/CategoryResult.h"
 #include "vocabulary/ScanFilter.h"
 #include "vocabulary/SizeFilter.h"
@@ -45,6 +46,8 @@ public:
         std::function<std::optional<QString>()> emptyTrash;
         // Bytes in the Trash now; absent when it can't be measured. Runs on a worker thread.
         std::function<std::optional<qint64>(const QString& home)> measureTrash;
+        // Where the update check asks; tests point it at a local server.
+        UpdateSite updateSite;
     };
     static Services defaultServices();
 
@@ -121,6 +124,16 @@ public:
     const QString& trashMessage() const { return m_trashMessage; }
     std::optional<qint64> trashBytes() const { return m_trashBytes; }
 
+    // --- Updates
+    // Asks the maker's site for a newer build; does nothing while a check runs. The answer
+    // arrives later as updateResult() with updateStateChanged().
+    void checkForUpdates();
+    bool isCheckingForUpdates() const { return m_isCheckingForUpdates; }
+    // The last check's answer; absent before the first check has finished.
+    const std::optional<UpdateChecker::Result>& updateResult() const { return m_updateResult; }
+    // The page that describes `release`, safe to open.
+    QUrl releasePage(const UpdateChecker::Release& release) const;
+
 signals:
     void resultsChanged(CategoryID category);
     void cleanupChanged();
@@ -129,6 +142,7 @@ signals:
     void selectionChanged();
     void systemStateChanged();
     void toastChanged(const QString& text);
+    void updateStateChanged();
 
 private:
     struct RunningScan {
@@ -173,4 +187,6 @@ private:
     bool m_isEmptyingTrash = false;
     QString m_trashMessage;
     std::optional<qint64> m_trashBytes;
+    bool m_isCheckingForUpdates = false;
+    std::optional<UpdateChecker::Result> m_updateResult;
 };
