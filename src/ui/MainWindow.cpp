@@ -3,6 +3,7 @@
 #include "actions/SystemAccess.h"
 #include "format/ByteCount.h"
 #include "model/AppModel.h"
+#include "ui/AboutPage.h"
 #include "ui/CategoryPage.h"
 #include "ui/CleanupSheet.h"
 #include "ui/OverviewPage.h"
@@ -45,6 +46,7 @@ MainWindow::MainWindow(AppModel* model, QWidget* parent)
     overview->setOpenFullDiskAccess([] { SystemAccess::openFullDiskAccessSettings(); });
     setScreenPage(Kind::overview, overview);
     setScreenPage(Kind::safeList, new SafeListPage(m_model, this));
+    setScreenPage(Kind::about, new AboutPage(m_model, this));
 
     connect(m_sidebar, &Sidebar::destinationChosen, this, &MainWindow::choose);
     connect(m_model, &AppModel::resultsChanged, this, &MainWindow::updateSidebarCategory);
