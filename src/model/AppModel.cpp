@@ -13,6 +13,7 @@
 
 #include <QCoreApplication>
 #include <QPointer>
+#include <QProcess>
 #include <QThreadPool>
 
 AppModel::Services AppModel::defaultServices()
@@ -36,6 +37,13 @@ AppModel::Services AppModel::defaultServices()
         if (!measurement.complete)
             return std::nullopt;
         return measurement.bytes;
+    };
+    services.runningApp = runningAppBundle();
+    services.relaunch = [](const QString& appPath) {
+        if (!QProcess::startDetached(QStringLiteral("/usr/bin/open"), {QStringLiteral("-n"), appPath}))
+            return false;
+        QCoreApplication::quit();
+        return true;
     };
     return services;
 }

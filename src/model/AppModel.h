@@ -2,7 +2,9 @@
 
 #include "model/CleanupSession.h"
 #include "model/ScanTask.h"
+#include "update/ImageInstall.h"
 #include "update/UpdateChecker.h"
+#include "update/Updater.h"
 #include "vocabulary/CategoryResult.h"
 #include "vocabulary/ScanFilter.h"
 #include "vocabulary/SizeFilter.h"
@@ -48,6 +50,11 @@ public:
         std::function<std::optional<qint64>(const QString& home)> measureTrash;
         // Where the update check asks; tests point it at a local server.
         UpdateSite updateSite;
+        // The running ".app" folder an update replaces; empty where the app is no bundle.
+        QString runningApp;
+        ImageInstall::Tools updateTools;
+        // Starts the app at the path and quits this one; false when the system couldn't start it.
+        std::function<bool(const QString& appPath)> relaunch;
     };
     static Services defaultServices();
 
@@ -133,6 +140,15 @@ public:
     const std::optional<UpdateChecker::Result>& updateResult() const { return m_updateResult; }
     // The page that describes `release`, safe to open.
     QUrl releasePage(const UpdateChecker::Release& release) const;
+    // Whether this copy may replace itself with an available release (never on Linux).
+    bool canInstallUpdate() const;
+    // Downloads, checks and installs the available release, then relaunches and quits. A
+    // failure's sentence becomes updateInstallError(); the running copy is then unchanged.
+    void installUpdate();
+    bool isInstallingUpdate() const { return m_isInstallingUpdate; }
+    const QString& updateInstallError() const { return m_updateInstallError; }
+    // The ".app" folder this program runs from; empty when it isn't in one.
+    static QString runningAppBundle();
 
 signals:
     void resultsChanged(CategoryID category);
@@ -187,6 +203,10 @@ private:
     bool m_isEmptyingTrash = false;
     QString m_trashMessage;
     std::optional<qint64> m_trashBytes;
+    void installDownloaded(const Updater::Download& download, const UpdateChecker::Release& release);
+    void finishInstall(const std::optional<QString>& error);
     bool m_isCheckingForUpdates = false;
+    bool m_isInstallingUpdate = false;
+    QString m_updateInstallError;
     std::optional<UpdateChecker::Result> m_updateResult;
 };

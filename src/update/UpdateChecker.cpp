@@ -63,6 +63,11 @@ QString currentVersion()
     return Platform::bundleValue(QStringLiteral("CFBundleShortVersionString"));
 }
 
+QString bundleIdentifier()
+{
+    return Platform::bundleValue(QStringLiteral("CFBundleIdentifier"));
+}
+
 qint64 currentBuild()
 {
     return parseBuild(Platform::bundleValue(QStringLiteral("CFBundleVersion")));

@@ -36,6 +36,8 @@ struct Result {
 
 // The running app's version as people read it ("CFBundleShortVersionString").
 QString currentVersion();
+// The running app's bundle identifier ("CFBundleIdentifier"), which an update must carry too.
+QString bundleIdentifier();
 // The running app's build number ("CFBundleVersion"); 0 when missing or not a number.
 qint64 currentBuild();
 // A build number as Info.plist holds it: decimal digits only, else 0.

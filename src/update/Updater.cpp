@@ -2,7 +2,11 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QDir>
 #include <QFileInfo>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QSslConfiguration>
 
 #include <openssl/evp.h>
 
@@ -37,7 +41,51 @@ std::optional<QByteArray> sha256Of(const QString& path, QString* error)
     return QByteArray(reinterpret_cast<const char*>(digest), int(length)).toHex();
 }
 
+QNetworkRequest imageRequest(const UpdateSite& site, const QUrl& url)
+{
+    QNetworkRequest request(url);
+    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
+    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
+    request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
+    request.setAttribute(QNetworkRequest::CacheSaveControlAttribute, false);
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::SameOriginRedirectPolicy);
+    request.setTransferTimeout(site.timeoutMs);
+    if (!site.extraCertificates.isEmpty()) {
+        QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
+        tls.addCaCertificates(QSslCertificate::fromData(site.extraCertificates, QSsl::Pem));
+        request.setSslConfiguration(tls);
+    }
+    return request;
+}
+
 }  // namespace
+
+void download(const UpdateSite& site, const QUrl& url, QObject* context, std::function<void(Download)> done)
+{
+    auto image = std::make_shared<QTemporaryFile>(QDir::tempPath() + QStringLiteral("/Dustlark-update-XXXXXXupdate.dmg"));
+    if (!image->open()) {
+        done({nullptr, image->errorString()});
+        return;
+    }
+    auto* manager = new QNetworkAccessManager(context);
+    QNetworkReply* reply = manager->get(imageRequest(site, url));
+    QObject::connect(reply, &QNetworkReply::readyRead, reply, [reply, image] {
+        if (image->write(reply->readAll()) < 0)
+            reply->abort();
+    });
+    QObject::connect(reply, &QNetworkReply::finished, manager, [manager, reply, image, done] {
+        image->write(reply->readAll());
+        const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+        QString error = reply->error() != QNetworkReply::NoError ? reply->errorString() : QString();
+        if (error.isEmpty() && status != 200)
+            error = QStringLiteral("HTTP %1").arg(status);
+        if (error.isEmpty() && !image->flush())
+            error = image->errorString();
+        reply->deleteLater();
+        manager->deleteLater();
+        done(error.isEmpty() ? Download{image, {}} : Download{nullptr, error});
+    });
+}
 
 bool canInstallHere(const QString& appPath)
 {

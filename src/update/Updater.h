@@ -1,7 +1,13 @@
 #pragma once
 
-#include <QString>
+#include "update/Release.h"
 
+#include <QObject>
+#include <QString>
+#include <QTemporaryFile>
+
+#include <functional>
+#include <memory>
 #include <optional>
 
 // Replacing the running copy with a downloaded release (macOS). Built so far: the rule for
@@ -24,6 +30,18 @@ namespace Updater {
 // signature proves who built an app, only the digest proves this is the image the version
 // file describes.
 [[nodiscard]] std::optional<QString> checkImage(const QString& imagePath, const std::optional<QString>& sha256);
+
+// A downloaded disk image in a temporary file named "Dustlark-update-…update.dmg", removed when
+// the last holder lets go; or the system's message when the download failed.
+struct Download {
+    std::shared_ptr<QTemporaryFile> image;
+    QString error;
+};
+
+// Downloads `url` over the site's TLS settings into a new temporary file and calls `done` once
+// on the calling thread, unless `context` was destroyed first. Cookies and caches are not used;
+// a cut or failed transfer is an error, never a short file.
+void download(const UpdateSite& site, const QUrl& url, QObject* context, std::function<void(Download)> done);
 
 // "The downloaded update didn't pass the check. This copy wasn't changed."
 [[nodiscard]] QString didNotPassCheck();
