@@ -13,14 +13,17 @@ using UpdateChecker::Result;
 
 UpdateBox::UpdateBox(AppModel* model, QWidget* parent)
     : QWidget(parent), m_model(model), m_check(new QPushButton(this)), m_status(PageLabels::body({}, this)),
-      m_releasePage(new QPushButton(this)), m_open([](const QUrl& url) { QDesktopServices::openUrl(url); })
+      m_releasePage(new QPushButton(this)), m_install(new QPushButton(this)), m_open([](const QUrl& url) { QDesktopServices::openUrl(url); })
 {
     //: Button that asks the maker's web site whether a newer build exists
     m_check->setText(tr("Check for Updates"));
     //: Button that opens the web page of an available update
     m_releasePage->setText(tr("Open Release Page"));
+    //: Button that downloads, checks and installs an available update, then starts it
+    m_install->setText(tr("Install and Relaunch"));
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(m_check);
+    buttons->addWidget(m_install);
     buttons->addWidget(m_releasePage);
     buttons->addStretch(1);
     auto* layout = new QVBoxLayout(this);
@@ -29,6 +32,7 @@ UpdateBox::UpdateBox(AppModel* model, QWidget* parent)
     layout->addWidget(m_status);
     connect(m_check, &QPushButton::clicked, m_model, &AppModel::checkForUpdates);
     connect(m_releasePage, &QPushButton::clicked, this, &UpdateBox::openReleasePage);
+    connect(m_install, &QPushButton::clicked, m_model, &AppModel::installUpdate);
     connect(m_model, &AppModel::updateStateChanged, this, &UpdateBox::refresh);
     refresh();
 }
@@ -37,9 +41,17 @@ void UpdateBox::refresh()
 {
     const auto& result = m_model->updateResult();
     const Result::Available* available = result ? result->as<Result::Available>() : nullptr;
-    m_check->setEnabled(!m_model->isCheckingForUpdates());
+    const bool busy = m_model->isCheckingForUpdates() || m_model->isInstallingUpdate();
+    m_check->setEnabled(!busy);
     m_releasePage->setVisible(available != nullptr);
-    if (m_model->isCheckingForUpdates())
+    m_install->setVisible(available && m_model->canInstallUpdate());
+    m_install->setEnabled(!busy);
+    if (m_model->isInstallingUpdate())
+        //: Shown while an update downloads, is checked and installed
+        m_status->setText(tr("Installing the update…"));
+    else if (!m_model->updateInstallError().isEmpty())
+        m_status->setText(m_model->updateInstallError());
+    else if (m_model->isCheckingForUpdates())
         //: Shown while the update check runs
         m_status->setText(tr("Checking for updates…"));
     else if (!result)

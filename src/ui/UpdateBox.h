@@ -10,8 +10,8 @@ class QPushButton;
 class QUrl;
 
 // "Check for Updates" with the answer beneath it, shared by the settings and the About screen.
-// An available release shows its version and a button to its release page; this copy cannot
-// replace itself, so installing is left to the person. GUI thread only.
+// An available release shows its version, "Install and Relaunch" where this copy may replace
+// itself, and a button to its release page. GUI thread only.
 class UpdateBox : public QWidget {
     Q_OBJECT
 
@@ -23,6 +23,7 @@ public:
 
     QPushButton* checkButton() const { return m_check; }
     QPushButton* releasePageButton() const { return m_releasePage; }
+    QPushButton* installButton() const { return m_install; }
     QLabel* status() const { return m_status; }
 
 private:
@@ -33,5 +34,6 @@ private:
     QPushButton* m_check;
     QLabel* m_status;
     QPushButton* m_releasePage;
+    QPushButton* m_install;
     std::function<void(const QUrl&)> m_open;
 };

@@ -1,11 +1,13 @@
 #include "WindowFixture.h"
 #include "support/ModelFixture.h"
+#include "support/TempTree.h"
 #include "support/Wait.h"
 #include "ui/AboutPage.h"
 #include "ui/Sidebar.h"
 #include "ui/UpdateBox.h"
 #include "support/HttpsTestServer.h"
 
+#include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
 #include <QTreeWidgetItem>
@@ -60,6 +62,7 @@ TEST(AboutPage, ChecksForUpdatesAndOpensOnlyTheMakersPage)
     ASSERT_TRUE(waitUntil([&] { return page.updates()->checkButton()->isEnabled(); }, 15'000));
     EXPECT_EQ(page.updates()->status()->text(), QStringLiteral("Dustlark 9.0 is available."));
     EXPECT_FALSE(page.updates()->releasePageButton()->isHidden());
+    EXPECT_TRUE(page.updates()->installButton()->isHidden()) << "a copy outside a bundle can't replace itself";
     page.updates()->releasePageButton()->click();
     EXPECT_EQ(opened, QList<QUrl>{QUrl(server.origin() + QStringLiteral("/dustlark-mac/"))});
 
@@ -69,4 +72,32 @@ TEST(AboutPage, ChecksForUpdatesAndOpensOnlyTheMakersPage)
     EXPECT_EQ(page.updates()->status()->text(),
               QStringLiteral("The update information isn't available right now. Try again later."));
     EXPECT_TRUE(page.updates()->releasePageButton()->isHidden());
+}
+
+TEST(AboutPage, InstallIsOfferedWhereTheCopyMayReplaceItselfAndSaysWhyItFailed)
+{
+    HttpsTestServer server;
+    ASSERT_TRUE(server.isListening()) << qPrintable(server.error());
+    server.serve(QStringLiteral("/files/Dustlark.dmg"), HttpsTestServer::Response(200, "not the image"));
+    server.serve(QStringLiteral("/dustlark-mac/version.json"),
+                 HttpsTestServer::Response(200, QStringLiteral(R"({"version":"9.0","build":999999,"dmg":"%1/files/Dustlark.dmg","sha256":"%2"})")
+                                                    .arg(server.origin(), QString(64, QLatin1Char('0'))).toUtf8()));
+    TempTree tree;
+    ModelFixture fixture({}, QStringLiteral("/Users/a"), [&](AppModel::Services& services) {
+        services.updateSite.origin = QUrl(server.origin());
+        services.updateSite.extraCertificates = server.certificatePem();
+        services.runningApp = tree.dir(QStringLiteral("Applications/Dustlark.app"));
+        services.relaunch = [](const QString&) { return true; };
+    });
+    AboutPage page(&fixture.model());
+    UpdateBox* box = page.updates();
+    box->checkButton()->click();
+    ASSERT_TRUE(waitUntil([&] { return box->checkButton()->isEnabled(); }, 15'000));
+    ASSERT_FALSE(box->installButton()->isHidden());
+
+    box->installButton()->click();
+    EXPECT_FALSE(box->installButton()->isEnabled());
+    ASSERT_TRUE(waitUntil([&] { return box->installButton()->isEnabled(); }, 15'000));
+    EXPECT_EQ(box->status()->text(), QStringLiteral("The downloaded update didn't pass the check. This copy wasn't changed."));
+    EXPECT_TRUE(QFileInfo::exists(tree.path(QStringLiteral("Applications/Dustlark.app"))));
 }
