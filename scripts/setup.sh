@@ -3,7 +3,7 @@
 set -euo pipefail
 
 DEBIAN_PACKAGES=(qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
-    libssl-dev libplist-dev libgtest-dev libgmock-dev cmake g++ git pkg-config ccache xvfb xauth python3
+    libssl-dev libplist-dev libgtest-dev libgmock-dev cmake g++ git openssl pkg-config ccache xvfb xauth python3
     qt6-base-private-dev trash-cli exfatprogs exfat-fuse)  # trash-cli: the trash round trip; exFAT: a real exFAT disk for the mover tests
 BREW_PACKAGES=(qt openssl@3 libplist googletest cmake pkg-config)
 

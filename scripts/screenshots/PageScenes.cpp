@@ -1,9 +1,12 @@
-// The Overview with a history of cleanups, and a filled Safe List.
+// The Overview with a history of cleanups, a filled Safe List, and About after an update check.
 #include "Scenes.h"
 #include "model/AppModel.h"
 #include "model/SettingsStore.h"
 #include "model/StatsStore.h"
+#include "support/HttpsTestServer.h"
 #include "support/ModelFixture.h"
+#include "support/Wait.h"
+#include "ui/AboutPage.h"
 #include "ui/OverviewPage.h"
 #include "ui/SafeListPage.h"
 #include "ui/WindowFixture.h"
@@ -74,6 +77,23 @@ QImage safeList()
     return settled(page);
 }
 
+// The answer comes from a local HTTPS server, as in the tests, so the picture shows a real check.
+QImage about()
+{
+    HttpsTestServer server;
+    server.serve(QStringLiteral("/dustlark-mac/version.json"),
+                 HttpsTestServer::Response(200, R"({"version":"0.2.0","build":2})"));
+    ModelFixture fixture({}, QStringLiteral("/Users/a"), [&](AppModel::Services& services) {
+        services.updateSite.origin = QUrl(server.origin());
+        services.updateSite.extraCertificates = server.certificatePem();
+    });
+    AboutPage page(&fixture.model());
+    fixture.model().checkForUpdates();
+    if (!waitUntil([&] { return fixture.model().updateResult().has_value(); }, 15'000))
+        return {};
+    return settled(page);
+}
+
 }  // namespace
 
 QList<Scene> pageScenes()
@@ -81,5 +101,6 @@ QList<Scene> pageScenes()
     return {
         {QStringLiteral("overview.png"), overview},
         {QStringLiteral("safe-list.png"), safeList},
+        {QStringLiteral("about.png"), about},
     };
 }

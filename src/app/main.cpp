@@ -1,8 +1,10 @@
 #include "model/AppModel.h"
 #include "model/SettingsStore.h"
 #include "model/StatsStore.h"
+#include "ui/AppIcon.h"
 #include "ui/MainWindow.h"
 #include "ui/SettingsPage.h"
+#include "update/UpdateChecker.h"
 #include "vocabulary/AppLanguage.h"
 
 #include <QApplication>
@@ -13,6 +15,8 @@ int main(int argc, char* argv[])
     QApplication app(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("Dustlark"));
     QApplication::setApplicationName(QStringLiteral("Dustlark"));
+    QApplication::setApplicationVersion(UpdateChecker::currentVersion());
+    QApplication::setWindowIcon(AppIcon::icon());
 
     // The native store: NSUserDefaults on macOS, an INI file under ~/.config on Linux.
     QSettings settings;
@@ -24,7 +28,9 @@ int main(int argc, char* argv[])
     model.refreshSystemState();
 
     MainWindow window(&model);
-    window.setSettingsPage(new SettingsPage(&settingsStore, &settings));
+    auto* settingsPage = new SettingsPage(&settingsStore, &settings);
+    settingsPage->showUpdates(&model);
+    window.setSettingsPage(settingsPage);
     window.show();
     return app.exec();
 }

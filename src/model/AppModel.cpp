@@ -15,6 +15,7 @@
 
 #include <QCoreApplication>
 #include <QPointer>
+#include <QProcess>
 #include <QThreadPool>
 
 AppModel::Services AppModel::defaultServices()
@@ -49,6 +50,13 @@ AppModel::Services AppModel::defaultServices()
     services.diskUsed = [](const QString& home) -> std::optional<qint64> {
         const auto disk = DiskSpace::current(home);
         return disk ? std::optional<qint64>(disk->total - disk->available) : std::nullopt;
+    };
+    services.runningApp = runningAppBundle();
+    services.relaunch = [](const QString& appPath) {
+        if (!QProcess::startDetached(QStringLiteral("/usr/bin/open"), {QStringLiteral("-n"), appPath}))
+            return false;
+        QCoreApplication::quit();
+        return true;
     };
     return services;
 }

@@ -5,6 +5,9 @@
 #include "model/MoveSession.h"
 #include "model/ScanTask.h"
 #include "storage/StorageAnalyzer.h"
+#include "update/ImageInstall.h"
+#include "update/UpdateChecker.h"
+#include "update/Updater.h"
 #include "vocabulary/CategoryResult.h"
 #include "vocabulary/ScanFilter.h"
 #include "vocabulary/SizeFilter.h"
@@ -56,6 +59,13 @@ public:
         // Moves one item to another disk; runs on the move's worker thread.
         std::function<Mover::Outcome(const CleanupItem&, const QString& destination, const Mover::Progress&,
                                      const CancellationToken& stop)> moveItem;
+        // Where the update check asks; tests point it at a local server.
+        UpdateSite updateSite;
+        // The running ".app" folder an update replaces; empty where the app is no bundle.
+        QString runningApp;
+        ImageInstall::Tools updateTools;
+        // Starts the app at the path and quits this one; false when the system couldn't start it.
+        std::function<bool(const QString& appPath)> relaunch;
     };
     static Services defaultServices();
 
@@ -154,6 +164,24 @@ public:
     // that refuses `destination` for `item`, or nothing. The disk is read on a worker thread.
     void checkMoveDestination(const CleanupItem& item, const QString& destination, QObject* context,
                               std::function<void(std::optional<QString>)> answer);
+    // --- Updates
+    // Asks the maker's site for a newer build; does nothing while a check runs. The answer
+    // arrives later as updateResult() with updateStateChanged().
+    void checkForUpdates();
+    bool isCheckingForUpdates() const { return m_isCheckingForUpdates; }
+    // The last check's answer; absent before the first check has finished.
+    const std::optional<UpdateChecker::Result>& updateResult() const { return m_updateResult; }
+    // The page that describes `release`, safe to open.
+    QUrl releasePage(const UpdateChecker::Release& release) const;
+    // Whether this copy may replace itself with an available release (never on Linux).
+    bool canInstallUpdate() const;
+    // Downloads, checks and installs the available release, then relaunches and quits. A
+    // failure's sentence becomes updateInstallError(); the running copy is then unchanged.
+    void installUpdate();
+    bool isInstallingUpdate() const { return m_isInstallingUpdate; }
+    const QString& updateInstallError() const { return m_updateInstallError; }
+    // The ".app" folder this program runs from; empty when it isn't in one.
+    static QString runningAppBundle();
 
 signals:
     void resultsChanged(CategoryID category);
@@ -165,6 +193,7 @@ signals:
     void toastChanged(const QString& text);
     void storageChanged();
     void moveChanged();
+    void updateStateChanged();
 
 private:
     struct RunningScan {
@@ -221,4 +250,10 @@ private:
     void finishQuitWhenIdle();
     std::unique_ptr<MoveSession> m_move;
     std::thread m_moveThread;
+    void installDownloaded(const Updater::Download& download, const UpdateChecker::Release& release);
+    void finishInstall(const std::optional<QString>& error);
+    bool m_isCheckingForUpdates = false;
+    bool m_isInstallingUpdate = false;
+    QString m_updateInstallError;
+    std::optional<UpdateChecker::Result> m_updateResult;
 };

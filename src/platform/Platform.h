@@ -29,6 +29,11 @@ Desktop desktop();
 // One line naming this machine for an AI assistant, e.g. "macOS 14.5 on Apple M2".
 QString machineDescription();
 
+// A string of the running app's own Info.plist ("CFBundleShortVersionString", "CFBundleVersion",
+// "CFBundleIdentifier"); empty when the key is missing. The Linux build has no bundle and answers
+// these three keys with the values CMake compiled in.
+QString bundleValue(const QString& key);
+
 // ---- Processes ----
 
 // When the process started, as seconds x 1,000,000 + microseconds since 1970; absent when

@@ -89,6 +89,17 @@ std::optional<struct statvfs> volumeInfo(const QString& path)
 
 }  // namespace
 
+QString bundleValue(const QString& key)
+{
+    if (key == QLatin1String("CFBundleShortVersionString"))
+        return QStringLiteral(DUSTLARK_VERSION);
+    if (key == QLatin1String("CFBundleVersion"))
+        return QStringLiteral(DUSTLARK_BUILD);
+    if (key == QLatin1String("CFBundleIdentifier"))
+        return QStringLiteral(DUSTLARK_BUNDLE_ID);
+    return {};
+}
+
 std::optional<qint64> processStartTime(pid_t pid)
 {
     static const qint64 bootSeconds = bootTimeSeconds();

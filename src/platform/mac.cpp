@@ -61,6 +61,19 @@ std::optional<qint64> volumeNumber(const QString& path, CFStringRef key)
 
 }  // namespace
 
+QString bundleValue(const QString& key)
+{
+    const CFBundleRef bundle = CFBundleGetMainBundle();
+    if (!bundle)
+        return {};
+    const CFStringRef name = CFStringCreateWithCString(nullptr, key.toUtf8().constData(), kCFStringEncodingUTF8);
+    const CFTypeRef value = CFBundleGetValueForInfoDictionaryKey(bundle, name);
+    CFRelease(name);
+    if (!value || CFGetTypeID(value) != CFStringGetTypeID())
+        return {};
+    return QString::fromCFString(static_cast<CFStringRef>(value));
+}
+
 std::optional<qint64> processStartTime(pid_t pid)
 {
     struct proc_bsdinfo info {};

@@ -6,6 +6,7 @@
 #include "report/StorageReportOutput.h"
 #include "report/ScanRunner.h"
 #include "scan/ScannerCatalog.h"
+#include "update/UpdateChecker.h"
 #include "vocabulary/ScanFilter.h"
 
 #include <QDir>
@@ -106,8 +107,17 @@ int printStorage(const ReportOptions& options)
 
 }  // namespace
 
+QString versionLine()
+{
+    return QStringLiteral("dustlark-cli %1 (%2)").arg(UpdateChecker::currentVersion()).arg(UpdateChecker::currentBuild());
+}
+
 int run(const QStringList& arguments)
 {
+    if (arguments == QStringList{QStringLiteral("--version")}) {
+        std::printf("%s\n", qPrintable(versionLine()));
+        return 0;
+    }
     QString error;
     const auto options = ReportOptions::parse(arguments, &error);
     if (!options) {

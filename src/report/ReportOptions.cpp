@@ -5,7 +5,7 @@
 QString ReportOptions::usage()
 {
     return QStringLiteral("usage: dustlark-cli scan [--home DIR] [--root DIR]... [--category RAW]... [--json]"
-                          " | storage [--home DIR] [--json]");
+                          " | storage [--home DIR] [--json] | --version");
 }
 
 std::optional<ReportOptions> ReportOptions::parse(const QStringList& arguments, QString* error)

@@ -3,6 +3,7 @@
 #include "actions/SystemAccess.h"
 #include "format/ByteCount.h"
 #include "model/AppModel.h"
+#include "ui/AboutPage.h"
 #include "ui/CategoryPage.h"
 #include "ui/CleanupSheet.h"
 #include "ui/LargeFoldersPage.h"
@@ -49,6 +50,7 @@ MainWindow::MainWindow(AppModel* model, QWidget* parent)
     setScreenPage(Kind::safeList, new SafeListPage(m_model, this));
     setScreenPage(Kind::storage, new StoragePage(m_model, this));
     setScreenPage(Kind::largeFolders, new LargeFoldersPage(m_model, this));
+    setScreenPage(Kind::about, new AboutPage(m_model, this));
 
     connect(m_sidebar, &Sidebar::destinationChosen, this, &MainWindow::choose);
     connect(m_model, &AppModel::resultsChanged, this, &MainWindow::updateSidebarCategory);

@@ -2,6 +2,7 @@
 
 #include "model/SettingsStore.h"
 #include "ui/PageLabels.h"
+#include "ui/UpdateBox.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -55,6 +56,16 @@ void SettingsPage::chooseLanguage(const QString& code)
     AppLanguage::choose(*m_preferences, code);
     m_languagePicker->setCurrentIndex(std::max(0, m_languagePicker->findData(code)));
     refreshRelaunch();
+}
+
+void SettingsPage::showUpdates(AppModel* model)
+{
+    auto* layout = static_cast<QVBoxLayout*>(this->layout());
+    const int beforeStretch = layout->count() - 1;
+    layout->insertSpacing(beforeStretch, 12);
+    //: Heading of the update check in the settings
+    layout->insertWidget(beforeStretch + 1, PageLabels::heading(tr("Updates"), this));
+    layout->insertWidget(beforeStretch + 2, new UpdateBox(model, this));
 }
 
 QWidget* SettingsPage::makeLanguageSection()

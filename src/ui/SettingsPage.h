@@ -7,6 +7,7 @@
 
 #include <functional>
 
+class AppModel;
 class QComboBox;
 class QLabel;
 class QPushButton;
@@ -30,6 +31,9 @@ public:
     FolderListEditor* scanFolders() const { return m_scanFolders; }
     QComboBox* languagePicker() const { return m_languagePicker; }
     QPushButton* relaunchButton() const { return m_relaunchButton; }
+
+    // Adds the update check, which needs the model the page itself does not otherwise use.
+    void showUpdates(AppModel* model);
 
     // Stores the language with this code ("" follows the system).
     void chooseLanguage(const QString& code);

@@ -137,3 +137,11 @@ TEST_F(ReportCliTest, UnreadableFoldersGiveTheFullDiskAccessNote)
     EXPECT_EQ(categoryNamed(categories, "aiModels")[QStringLiteral("notes")].toArray(),
               QJsonArray{LocationScanner::unreadableNote()});
 }
+
+TEST(ReportCliVersion, PrintsTheVersionAndBuildThatCMakeSet)
+{
+    const CliRun run = runProgram(QStringLiteral(DUSTLARK_CLI), {QStringLiteral("--version")});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.standardOutput, QByteArray("dustlark-cli " DUSTLARK_EXPECTED_VERSION " (" DUSTLARK_EXPECTED_BUILD ")\n"));
+    EXPECT_EQ(runProgram(QStringLiteral(DUSTLARK_CLI), {QStringLiteral("--version"), QStringLiteral("--json")}).exitCode, 2);
+}

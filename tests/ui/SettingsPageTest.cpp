@@ -1,8 +1,11 @@
 #include "WindowFixture.h"
 #include "model/SettingsStore.h"
+#include "support/ModelFixture.h"
 #include "ui/SettingsPage.h"
+#include "ui/UpdateBox.h"
 
 #include <QComboBox>
+#include <QLayout>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -70,4 +73,16 @@ TEST(SettingsPage, AStoredLanguageWithoutTranslationStaysSelected)
     SettingsPage page(&fixture.settings, &fixture.preferences, fixture.languages);
     EXPECT_EQ(page.languagePicker()->currentData().toString(), "fr");
     EXPECT_EQ(page.languagePicker()->count(), 4);
+}
+
+TEST(SettingsPage, OffersTheUpdateCheckAboveTheFreeSpace)
+{
+    SettingsFixture fixture;
+    ModelFixture model;
+    SettingsPage page(&fixture.settings, &fixture.preferences, fixture.languages);
+    page.showUpdates(&model.model());
+    const QList<UpdateBox*> boxes = page.findChildren<UpdateBox*>();
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes[0]->checkButton()->text(), QStringLiteral("Check for Updates"));
+    EXPECT_TRUE(page.layout()->itemAt(page.layout()->count() - 1)->spacerItem()) << "the stretch stays last";
 }
