@@ -212,6 +212,63 @@
     </message>
 </context>
 <context>
+    <name>AboutPage</name>
+    <message>
+        <location filename="../src/ui/AboutPage.cpp" line="21"/>
+        <source>Version %1 (%2)</source>
+        <extracomment>Version line of the About screen; %1 is the version (1.4), %2 the build number (140)</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/AboutPage.cpp" line="28"/>
+        <source>A scan only reads. You choose what goes to the Trash.</source>
+        <extracomment>The app&apos;s promise, on the overview and the About screen</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/AboutPage.cpp" line="31"/>
+        <source>Updates</source>
+        <extracomment>Heading of the update check on the About screen</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/AboutPage.cpp" line="62"/>
+        <source>GNU Lesser General Public License, version 3</source>
+        <extracomment>Licence of Qt on the About screen</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/AboutPage.cpp" line="64"/>
+        <source>Apache License, version 2.0</source>
+        <extracomment>Licence of OpenSSL on the About screen</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/AboutPage.cpp" line="66"/>
+        <source>GNU Lesser General Public License, version 2.1</source>
+        <extracomment>Licence of libplist on the About screen</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/AboutPage.cpp" line="83"/>
+        <source>Libraries and Licences</source>
+        <extracomment>Heading of the licences of the libraries Dustlark ships</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/AboutPage.cpp" line="85"/>
+        <source>Dustlark is built with these libraries and ships them under their licences. The LGPL libraries are linked so that they can be replaced by your own build.</source>
+        <extracomment>Note above the licences on the About screen</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/AboutPage.cpp" line="95"/>
+        <source>Show Licence</source>
+        <extracomment>Button that shows the full text of a library&apos;s licence</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>AgentsScanner</name>
     <message>
         <location filename="../src/scan/AgentsScanner.cpp" line="58"/>
@@ -493,13 +550,13 @@
 <context>
     <name>AppModel</name>
     <message>
-        <location filename="../src/model/AppModel.cpp" line="222"/>
+        <location filename="../src/model/AppModel.cpp" line="230"/>
         <source>The scan was stopped before this category finished.</source>
         <extracomment>Banner of a category whose scanner had not finished when the person stopped the scan</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/model/AppModel.cpp" line="237"/>
+        <location filename="../src/model/AppModel.cpp" line="245"/>
         <source>The scan was stopped; this list may be incomplete.</source>
         <extracomment>Banner of a category whose scanner returned early because the scan was stopped</extracomment>
         <translation type="unfinished"></translation>
@@ -517,6 +574,18 @@
         <extracomment>Toast after a row was put on the Safe List; %1 is the row&apos;s title
 ----------
 Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/model/AppModelUpdate.cpp" line="54"/>
+        <source>the release has no disk image on the maker&apos;s site</source>
+        <extracomment>Inside &quot;Couldn&apos;t install the update (...)&quot; when the release names no disk image on the maker&apos;s site</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/model/AppModelUpdate.cpp" line="90"/>
+        <source>The update is installed, but it couldn&apos;t be started. Open Dustlark again.</source>
+        <extracomment>Shown when the update is in place but macOS couldn&apos;t start the new copy</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1490,6 +1559,15 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     </message>
 </context>
 <context>
+    <name>ImageInstall</name>
+    <message>
+        <location filename="../src/update/ImageInstall.cpp" line="53"/>
+        <source>the disk image holds no app</source>
+        <extracomment>Inside &quot;Couldn&apos;t install the update (...)&quot; when the downloaded disk image holds no app</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>InstallersScanner</name>
     <message>
         <location filename="../src/scan/InstallersScanner.cpp" line="79"/>
@@ -2102,25 +2180,25 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>MainWindow</name>
     <message>
-        <location filename="../src/ui/MainWindow.cpp" line="28"/>
+        <location filename="../src/ui/MainWindow.cpp" line="29"/>
         <source>Dustlark</source>
         <extracomment>Window title (the app&apos;s name)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MainWindow.cpp" line="98"/>
+        <location filename="../src/ui/MainWindow.cpp" line="100"/>
         <source>File</source>
         <extracomment>Menu of the app&apos;s commands</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MainWindow.cpp" line="101"/>
+        <location filename="../src/ui/MainWindow.cpp" line="103"/>
         <source>Settings…</source>
         <extracomment>Menu entry that opens the settings window</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MainWindow.cpp" line="113"/>
+        <location filename="../src/ui/MainWindow.cpp" line="115"/>
         <source>Quit Dustlark</source>
         <extracomment>Menu entry that quits the app</extracomment>
         <translation type="unfinished"></translation>
@@ -3072,49 +3150,55 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>SettingsPage</name>
     <message>
-        <location filename="../src/ui/SettingsPage.cpp" line="25"/>
+        <location filename="../src/ui/SettingsPage.cpp" line="26"/>
         <source>Settings</source>
         <extracomment>Heading of the settings</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/SettingsPage.cpp" line="27"/>
+        <location filename="../src/ui/SettingsPage.cpp" line="28"/>
         <source>Scan Folders</source>
         <extracomment>Heading of the scan folders in the settings</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/SettingsPage.cpp" line="29"/>
+        <location filename="../src/ui/SettingsPage.cpp" line="30"/>
         <source>Dustlark looks for project builds, Git worktrees, large files and duplicates in these folders.</source>
         <extracomment>Explanation of the scan folders in the settings</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/SettingsPage.cpp" line="64"/>
+        <location filename="../src/ui/SettingsPage.cpp" line="67"/>
+        <source>Updates</source>
+        <extracomment>Heading of the update check in the settings</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/SettingsPage.cpp" line="75"/>
         <source>Language:</source>
         <extracomment>Label of the interface language picker in the settings</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/SettingsPage.cpp" line="67"/>
+        <location filename="../src/ui/SettingsPage.cpp" line="78"/>
         <source>Relaunch</source>
         <extracomment>Button that restarts the app so a newly chosen language takes effect</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/SettingsPage.cpp" line="79"/>
+        <location filename="../src/ui/SettingsPage.cpp" line="90"/>
         <source>Interface Language</source>
         <extracomment>Heading of the interface language in the settings</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/SettingsPage.cpp" line="108"/>
+        <location filename="../src/ui/SettingsPage.cpp" line="119"/>
         <source>The new language is used after Dustlark relaunches.</source>
         <extracomment>Shown after choosing another interface language</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/SettingsPage.cpp" line="118"/>
+        <location filename="../src/ui/SettingsPage.cpp" line="129"/>
         <source>Dustlark couldn&apos;t relaunch. Quit it and open it again.</source>
         <extracomment>Shown when the app could not start itself again</extracomment>
         <translation type="unfinished"></translation>
@@ -3775,6 +3859,81 @@ Column heading of the storage drill-down: its size</extracomment>
             <numerusform>%n file</numerusform>
             <numerusform>%n files</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>UpdateBox</name>
+    <message>
+        <location filename="../src/ui/UpdateBox.cpp" line="19"/>
+        <source>Check for Updates</source>
+        <extracomment>Button that asks the maker&apos;s web site whether a newer build exists</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/UpdateBox.cpp" line="21"/>
+        <source>Open Release Page</source>
+        <extracomment>Button that opens the web page of an available update</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/UpdateBox.cpp" line="23"/>
+        <source>Install and Relaunch</source>
+        <extracomment>Button that downloads, checks and installs an available update, then starts it</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/UpdateBox.cpp" line="51"/>
+        <source>Installing the update…</source>
+        <extracomment>Shown while an update downloads, is checked and installed</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/UpdateBox.cpp" line="56"/>
+        <source>Checking for updates…</source>
+        <extracomment>Shown while the update check runs</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/UpdateBox.cpp" line="61"/>
+        <source>Dustlark %1 is available.</source>
+        <extracomment>Shown when a newer build exists; %1 is its version, e.g. 1.4</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/UpdateBox.cpp" line="66"/>
+        <source>This is the newest build of Dustlark.</source>
+        <extracomment>Shown when the update check found no newer build</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UpdateChecker</name>
+    <message>
+        <location filename="../src/update/UpdateChecker.cpp" line="21"/>
+        <source>The update information isn&apos;t available right now. Try again later.</source>
+        <extracomment>Check for Updates error when the web site answered with something other than the version file</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/update/UpdateChecker.cpp" line="99"/>
+        <source>Couldn&apos;t check for updates: %1</source>
+        <extracomment>Check for Updates error. The placeholder is the system&apos;s error message.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Updater</name>
+    <message>
+        <location filename="../src/update/Updater.cpp" line="121"/>
+        <source>The downloaded update didn&apos;t pass the check. This copy wasn&apos;t changed.</source>
+        <extracomment>Install and Relaunch error when the downloaded image or app fails its digest or signature check</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/update/Updater.cpp" line="127"/>
+        <source>Couldn&apos;t install the update (%1). This copy wasn&apos;t changed.</source>
+        <extracomment>Install and Relaunch error. The placeholder is the system&apos;s or a tool&apos;s message.</extracomment>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
