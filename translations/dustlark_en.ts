@@ -1060,21 +1060,15 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPageActions.cpp" line="35"/>
+        <location filename="../src/ui/CategoryPageActions.cpp" line="36"/>
         <source>Add to Safe List</source>
         <extracomment>Row menu: never show this row in scans again</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPageActions.cpp" line="39"/>
+        <location filename="../src/ui/CategoryPageActions.cpp" line="40"/>
         <source>Add Project to Safe List</source>
         <extracomment>Row menu: never show anything inside this row&apos;s project or repository folder again</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location filename="../src/ui/CategoryPageActions.cpp" line="43"/>
-        <source>Show in Finder</source>
-        <extracomment>Row menu: open the folder that holds this row in the file manager</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1090,7 +1084,7 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPageActions.cpp" line="87"/>
+        <location filename="../src/ui/CategoryPageActions.cpp" line="86"/>
         <source>“%1” is on the Safe List.</source>
         <extracomment>Toast after a row was put on the Safe List; %1 is the row&apos;s title</extracomment>
         <translation type="unfinished"></translation>
@@ -1524,12 +1518,6 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 </context>
 <context>
     <name>FolderActions</name>
-    <message>
-        <location filename="../src/ui/FolderActions.cpp" line="16"/>
-        <source>Show in Finder</source>
-        <extracomment>Row menu of a storage folder: open the folder that holds it in the file manager</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
     <message>
         <location filename="../src/ui/FolderActions.cpp" line="18"/>
         <source>Add to Safe List</source>
@@ -2352,31 +2340,25 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>MoveOutcomePage</name>
     <message>
-        <location filename="../src/ui/MoveOutcomePage.cpp" line="24"/>
+        <location filename="../src/ui/MoveOutcomePage.cpp" line="25"/>
         <source>“%1” was moved</source>
         <extracomment>Heading of the move sheet after a move; %1 is the row&apos;s title</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MoveOutcomePage.cpp" line="26"/>
+        <location filename="../src/ui/MoveOutcomePage.cpp" line="27"/>
         <source>It is now at %1. The original is in the Trash.</source>
         <extracomment>After a move: %1 is the new location; the original went to the Trash</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MoveOutcomePage.cpp" line="28"/>
-        <source>Show in Finder</source>
-        <extracomment>Button that opens the folder holding the moved item in the file manager</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location filename="../src/ui/MoveOutcomePage.cpp" line="34"/>
+        <location filename="../src/ui/MoveOutcomePage.cpp" line="33"/>
         <source>The move didn&apos;t finish</source>
         <extracomment>Heading of the move sheet when a move failed or was stopped; the text below says how far it came</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MoveOutcomePage.cpp" line="38"/>
+        <location filename="../src/ui/MoveOutcomePage.cpp" line="37"/>
         <source>Done</source>
         <extracomment>Button that closes the move sheet</extracomment>
         <translation type="unfinished"></translation>
@@ -2977,6 +2959,26 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     </message>
 </context>
 <context>
+    <name>Reveal</name>
+    <message>
+        <location filename="../src/ui/Reveal.cpp" line="18"/>
+        <source>Show in Finder</source>
+        <extracomment>Menu entry and button that show an item selected in Finder</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/Reveal.cpp" line="20"/>
+        <source>Show in File Manager</source>
+        <extracomment>Menu entry and button that show an item in the desktop&apos;s file manager (Linux)</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/Reveal.cpp" line="32"/>
+        <source>No file manager could show “%1”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>RunningApps</name>
     <message>
         <location filename="../src/scan/RunningApps.cpp" line="110"/>
@@ -3537,44 +3539,44 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>StoragePage</name>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="59"/>
+        <location filename="../src/ui/StoragePage.cpp" line="60"/>
         <source>1 file</source>
         <extracomment>Number of files in a storage folder, singular</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="61"/>
+        <location filename="../src/ui/StoragePage.cpp" line="62"/>
         <source>%1 files</source>
         <extracomment>Number of files in a storage folder; %1 is the number</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="69"/>
+        <location filename="../src/ui/StoragePage.cpp" line="70"/>
         <source>Storage</source>
         <extracomment>Heading of the storage screen</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="71"/>
+        <location filename="../src/ui/StoragePage.cpp" line="72"/>
         <source>Where the space on your disk goes, by kind of data. Click a kind to see its folders, and a folder to see its largest files.</source>
         <extracomment>Explanation on the storage screen</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="75"/>
+        <location filename="../src/ui/StoragePage.cpp" line="76"/>
         <source>Back</source>
         <extracomment>Button of the storage drill-down: go up one level</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="96"/>
+        <location filename="../src/ui/StoragePage.cpp" line="97"/>
         <source>Kind</source>
         <extracomment>Column heading of the storage legend: the kind of data</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="98"/>
-        <location filename="../src/ui/StoragePage.cpp" line="119"/>
+        <location filename="../src/ui/StoragePage.cpp" line="99"/>
+        <location filename="../src/ui/StoragePage.cpp" line="120"/>
         <source>Size</source>
         <extracomment>Column heading of the storage legend: the kind&apos;s size
 ----------
@@ -3582,63 +3584,57 @@ Column heading of the storage drill-down: its size</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="100"/>
+        <location filename="../src/ui/StoragePage.cpp" line="101"/>
         <source>Share</source>
         <extracomment>Column heading of the storage legend: the kind&apos;s share of the used space</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="117"/>
+        <location filename="../src/ui/StoragePage.cpp" line="118"/>
         <source>Name</source>
         <extracomment>Column heading of the storage drill-down: a folder or file</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="121"/>
+        <location filename="../src/ui/StoragePage.cpp" line="122"/>
         <source>Files</source>
         <extracomment>Column heading of the storage drill-down: how many files it holds</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="162"/>
+        <location filename="../src/ui/StoragePage.cpp" line="163"/>
         <source>not measured</source>
         <extracomment>Middle of the storage ring before any analysis</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="178"/>
+        <location filename="../src/ui/StoragePage.cpp" line="179"/>
         <source>used</source>
         <extracomment>Under the size in the middle of the storage ring: the disk&apos;s used space</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="180"/>
+        <location filename="../src/ui/StoragePage.cpp" line="181"/>
         <source>measured</source>
         <extracomment>Under the size in the middle of the storage ring when the disk&apos;s used space is unknown</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="207"/>
+        <location filename="../src/ui/StoragePage.cpp" line="208"/>
         <source>The system, other accounts and data that can&apos;t be read without more access.</source>
         <extracomment>Tooltip of the remainder in the storage legend</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="222"/>
+        <location filename="../src/ui/StoragePage.cpp" line="223"/>
         <source>Choose a kind of data</source>
         <extracomment>Above the storage drill-down before a kind of data is chosen</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="261"/>
+        <location filename="../src/ui/StoragePage.cpp" line="262"/>
         <source>Files in this folder</source>
         <extracomment>Storage drill-down: the files that lie directly in the folder, not in a sub-folder</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location filename="../src/ui/StoragePage.cpp" line="340"/>
-        <source>Show in Finder</source>
-        <extracomment>Row menu of a file on the storage screen: open the folder that holds it in the file manager</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -146,9 +146,13 @@ QStringList revealCommand(const QString& path)
     return {QStringLiteral("/usr/bin/xdg-open"), folder};
 }
 
-bool reveal(const QString& path)
+bool reveal(const QString& path, const QString& opener)
 {
-    const QStringList command = revealCommand(path);
+    if (!isMac() && Platform::showItemInFileManager(existingOrParent(path)))
+        return true;
+    QStringList command = revealCommand(path);
+    if (!isMac())
+        command.first() = opener;
     return QProcess::startDetached(command.first(), command.mid(1));
 }
 

@@ -36,8 +36,10 @@ bool openFullDiskAccessSettings();
 // opened on Linux. A path that no longer exists shows its parent folder.
 [[nodiscard]] QStringList revealCommand(const QString& path);
 
-// Starts revealCommand detached (the file manager must outlive the call). False when it
-// couldn't be started.
-bool reveal(const QString& path);
+// Shows `path` in the file manager: Finder selects it (`open -R`); on Linux the desktop's file
+// manager is asked to select it over D-Bus, and when none answers its folder is opened with
+// `opener` (the desktop's own opener). False when nothing could be started. May block for a
+// few seconds: call it on a worker thread.
+bool reveal(const QString& path, const QString& opener = QStringLiteral("/usr/bin/xdg-open"));
 
 }  // namespace SystemAccess

@@ -117,6 +117,14 @@ int renameNoReplace(const QString& from, const QString& to);
 // `toFolder`, only when `to` is free. 0 on success, otherwise the errno (EXDEV across volumes).
 int renameNoReplaceAt(int fromFolder, const char* from, int toFolder, const char* to);
 
+// ---- The desktop ----
+
+// Asks the desktop's file manager to show `path` selected (org.freedesktop.FileManager1's
+// ShowItems over the session's D-Bus on Linux). False when no file manager answered; always
+// false on macOS, where Finder is asked with `open -R` instead. Blocks for up to three seconds:
+// call it on a worker thread.
+bool showItemInFileManager(const QString& path);
+
 // ---- Volumes ----
 
 // Free bytes of the volume holding `path` that the system would let the person use

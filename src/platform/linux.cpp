@@ -1,9 +1,12 @@
 #include "platform/Platform.h"
 
+#include <QDBusConnection>
+#include <QDBusMessage>
 #include <QDir>
 #include <QFile>
 #include <QSysInfo>
 #include <QTimeZone>
+#include <QUrl>
 
 #include <cerrno>
 #include <cstdio>  // renameat2 / renamex_np
@@ -320,6 +323,18 @@ qint64 accessNanoseconds(const struct stat& info)
 Desktop desktop()
 {
     return Desktop::freedesktop;
+}
+
+bool showItemInFileManager(const QString& path)
+{
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected())
+        return false;
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("/org/freedesktop/FileManager1"),
+        QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("ShowItems"));
+    call << QStringList{QUrl::fromLocalFile(path).toString()} << QString();
+    return bus.call(call, QDBus::Block, 3000).type() == QDBusMessage::ReplyMessage;
 }
 
 }  // namespace Platform

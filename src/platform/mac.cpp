@@ -257,4 +257,9 @@ Desktop desktop()
     return Desktop::finder;
 }
 
+bool showItemInFileManager(const QString&)
+{
+    return false;  // Finder is asked with `open -R` (SystemAccess::revealCommand)
+}
+
 }  // namespace Platform

@@ -85,14 +85,16 @@ public:
     bool isOpen() const { return m_fd >= 0; }
     int fd() const { return m_fd; }
 
-    // True when the open file is still the regular file the walk saw, at the same length.
+    // True when the open file is still the regular file the walk saw, unchanged. The times count
+    // too: a file deleted and made again often gets the same inode back.
     bool isStill(const File& file) const
     {
         struct stat info {};
         if (::fstat(m_fd, &info) != 0 || !S_ISREG(info.st_mode))
             return false;
         return static_cast<qint32>(info.st_dev) == file.device
-            && static_cast<quint64>(info.st_ino) == file.inode && info.st_size == file.size;
+            && static_cast<quint64>(info.st_ino) == file.inode && info.st_size == file.size
+            && FileTarget::ContentStamp::of(info) == file.stamp;
     }
 
 private:

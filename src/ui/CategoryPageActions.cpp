@@ -5,6 +5,7 @@
 #include "ui/CategoryListModel.h"
 #include "ui/CategoryPage.h"
 #include "ui/MoveSheet.h"
+#include "ui/Reveal.h"
 
 #include <QDesktopServices>
 #include <QFileInfo>
@@ -39,8 +40,7 @@ void CategoryPage::addRowActions(QMenu* menu, const CleanupItem& item)
         menu->addAction(tr("Add Project to Safe List"), this, [this, project] { addProjectToSafeList(project); });
     }
     menu->addSeparator();
-    //: Row menu: open the folder that holds this row in the file manager
-    QAction* reveal = menu->addAction(tr("Show in Finder"), this, [this, item] { this->reveal(item); });
+    QAction* reveal = menu->addAction(Reveal::title(), this, [this, item] { this->reveal(item); });
     reveal->setEnabled(!item.removal.paths().isEmpty());
     //: Row menu: copy a description of this row to paste into an AI assistant
     QAction* ask = menu->addAction(tr("Ask an AI Assistant"), this, [this, item] {
@@ -75,8 +75,7 @@ void CategoryPage::reveal(const CleanupItem& item)
     const QStringList paths = item.removal.paths();
     if (paths.isEmpty())
         return;
-    // Opening the parent folder is the portable way; it needs no file-system call here.
-    QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(paths.first()).path()));
+    Reveal::show(m_model, paths.first());
 }
 
 void CategoryPage::addProjectToSafeList(const QString& project)

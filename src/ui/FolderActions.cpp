@@ -1,6 +1,7 @@
 #include "ui/FolderActions.h"
 
 #include "model/AppModel.h"
+#include "ui/Reveal.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>
@@ -12,16 +13,9 @@ namespace FolderActions {
 
 void addTo(QMenu* menu, AppModel* model, const QString& path)
 {
-    //: Row menu of a storage folder: open the folder that holds it in the file manager
-    menu->addAction(QCoreApplication::translate("FolderActions", "Show in Finder"), menu, [path] { reveal(path); });
+    menu->addAction(Reveal::title(), menu, [model, path] { Reveal::show(model, path); });
     //: Row menu of a storage folder: never show anything inside it in scans
     menu->addAction(QCoreApplication::translate("FolderActions", "Add to Safe List"), menu, [model, path] { model->addFolderToSafeList(path); });
-}
-
-void reveal(const QString& path)
-{
-    // Opening the parent folder is the portable way; it needs no file-system call here.
-    QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(path).path()));
 }
 
 }  // namespace FolderActions

@@ -11,7 +11,5 @@ class QWidget;
 namespace FolderActions {
 
 void addTo(QMenu* menu, AppModel* model, const QString& path);
-// Opens the folder that holds `path` in the file manager (Finder on macOS).
-void reveal(const QString& path);
 
 }  // namespace FolderActions

@@ -1,6 +1,7 @@
 #include "ui/MoveOutcomePage.h"
 
 #include "model/MoveSession.h"
+#include "ui/Reveal.h"
 #include "ui/SheetText.h"
 
 #include <QDesktopServices>
@@ -11,7 +12,7 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
-MoveOutcomePage::MoveOutcomePage(const MoveSession& session, QWidget* parent)
+MoveOutcomePage::MoveOutcomePage(AppModel* model, const MoveSession& session, QWidget* parent)
     : QWidget(parent), m_title(new QLabel(this)), m_text(new QLabel(this)), m_done(new QPushButton(this))
 {
     const Mover::Outcome outcome = session.outcome().value_or(Mover::Outcome{});
@@ -24,10 +25,8 @@ MoveOutcomePage::MoveOutcomePage(const MoveSession& session, QWidget* parent)
         m_title->setText(tr("“%1” was moved").arg(name));
         //: After a move: %1 is the new location; the original went to the Trash
         m_text->setText(tr("It is now at %1. The original is in the Trash.").arg(outcome.destination));
-        //: Button that opens the folder holding the moved item in the file manager
-        m_show = buttons->addButton(tr("Show in Finder"), QDialogButtonBox::ActionRole);
-        const QString folder = QFileInfo(outcome.destination).path();
-        connect(m_show, &QPushButton::clicked, this, [folder] { QDesktopServices::openUrl(QUrl::fromLocalFile(folder)); });
+        m_show = buttons->addButton(Reveal::title(), QDialogButtonBox::ActionRole);
+        connect(m_show, &QPushButton::clicked, this, [model, moved = outcome.destination] { Reveal::show(model, moved); });
     } else {
         // Not "wasn't moved": when only the Trash step failed, the verified copy is in place.
         //: Heading of the move sheet when a move failed or was stopped; the text below says how far it came

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class AppModel;
 class MoveSession;
 class QLabel;
 class QPushButton;
@@ -12,7 +13,7 @@ class MoveOutcomePage : public QWidget {
     Q_OBJECT
 
 public:
-    explicit MoveOutcomePage(const MoveSession& session, QWidget* parent = nullptr);
+    MoveOutcomePage(AppModel* model, const MoveSession& session, QWidget* parent = nullptr);
 
     QLabel* title() const { return m_title; }
     QLabel* text() const { return m_text; }

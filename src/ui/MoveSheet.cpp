@@ -53,7 +53,7 @@ void MoveSheet::follow()
         showPage(m_progress);
     }
     if (!m_session->isRunning() && !m_outcome) {
-        m_outcome = new MoveOutcomePage(*m_session, this);
+        m_outcome = new MoveOutcomePage(m_model, *m_session, this);
         connect(m_outcome, &MoveOutcomePage::done, this, &MoveSheet::reject);
         showPage(m_outcome);
     }

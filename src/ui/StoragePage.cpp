@@ -10,6 +10,7 @@
 #include "ui/StorageHeader.h"
 #include "ui/StorageRing.h"
 #include "vocabulary/PathRules.h"
+#include "ui/Reveal.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -336,8 +337,7 @@ void StoragePage::showDetailMenu(const QPoint& at)
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     if (item->data(detailName, rowKindRole).toInt() == fileRow)
-        //: Row menu of a file on the storage screen: open the folder that holds it in the file manager
-        menu->addAction(tr("Show in Finder"), menu, [path] { FolderActions::reveal(path); });
+        menu->addAction(Reveal::title(), menu, [this, path] { Reveal::show(m_model, path); });
     else
         FolderActions::addTo(menu, m_model, path);
     menu->popup(m_details->viewport()->mapToGlobal(at));

@@ -1,9 +1,11 @@
 #include "WindowFixture.h"
 #include "format/ByteCount.h"
+#include "platform/Platform.h"
 #include "support/Wait.h"
 #include "ui/CategoryItemDelegate.h"
 #include "ui/CategoryListModel.h"
 #include "ui/CategoryPage.h"
+#include "ui/Reveal.h"
 #include "ui/Toast.h"
 
 #include <QApplication>
@@ -262,4 +264,24 @@ TEST(CategoryPage, EmptyTrashAsksThenEmptiesOrReportsWhy)
     ASSERT_TRUE(waitUntil([&] { return fixture.question() != nullptr; }));
     EXPECT_EQ(fixture.question()->text(), "Couldn't empty the Trash");
     EXPECT_EQ(fixture.question()->informativeText(), "Finder isn't allowed to empty the Trash.");
+}
+
+// With no file manager on the session's bus and no opener to fall back on, the person is told,
+// instead of a menu entry that silently does nothing.
+TEST(CategoryPage, ShowingAnItemNoFileManagerCanShowSaysSo)
+{
+    WindowFixture fixture;
+    const CleanupItem row = fixture.addFile(CategoryID::logs, "Library/Logs/a.log");
+    CategoryPage* page = fixture.open(CategoryID::logs, {row});
+    ASSERT_TRUE(page);
+    QMenu* menu = page->makeRowMenu(fixture.rowOf(row.id));
+    ASSERT_TRUE(menu);
+    QStringList titles;
+    for (QAction* action : menu->actions())
+        titles.append(action->text());
+    EXPECT_TRUE(titles.contains(Platform::desktop() == Platform::Desktop::finder ? "Show in Finder" : "Show in File Manager"));
+
+    Reveal::show(&fixture.model(), row.id, fixture.home().path("no-such-opener"));
+    ASSERT_TRUE(waitUntil([&] { return fixture.window().toast()->isVisible(); }));
+    EXPECT_EQ(fixture.window().toast()->text(), "No file manager could show “a.log”.");
 }

@@ -13,5 +13,7 @@ TestEnvironment::TestEnvironment()
     qputenv("XDG_CACHE_HOME", QFile::encodeName(base + QStringLiteral("/cache")));
     QFile::setPermissions(base + QStringLiteral("/runtime"), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(base + QStringLiteral("/runtime")));
+    // No test may talk to the developer's desktop (its file manager, its notifications).
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + QFile::encodeName(base + QStringLiteral("/runtime/no-bus")));
     QStandardPaths::setTestModeEnabled(false);
 }

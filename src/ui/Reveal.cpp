@@ -1,0 +1,38 @@
+#include "ui/Reveal.h"
+
+#include "actions/SystemAccess.h"
+#include "model/AppModel.h"
+#include "platform/Platform.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QPointer>
+#include <QThreadPool>
+
+namespace Reveal {
+
+QString title()
+{
+    if (Platform::desktop() == Platform::Desktop::finder)
+        //: Menu entry and button that show an item selected in Finder
+        return QCoreApplication::translate("Reveal", "Show in Finder");
+    //: Menu entry and button that show an item in the desktop's file manager (Linux)
+    return QCoreApplication::translate("Reveal", "Show in File Manager");
+}
+
+void show(AppModel* model, const QString& path, const QString& opener)
+{
+    QPointer<AppModel> receiver(model);
+    QThreadPool::globalInstance()->start([receiver, path, opener] {
+        if (SystemAccess::reveal(path, opener))
+            return;
+        QMetaObject::invokeMethod(qApp, [receiver, path] {
+            if (receiver)
+                //: Toast when no file manager could show an item; %1 is its name
+                receiver->showToast(QCoreApplication::translate("Reveal", "No file manager could show “%1”.")
+                                        .arg(QFileInfo(path).fileName()));
+        }, Qt::QueuedConnection);
+    });
+}
+
+}  // namespace Reveal
