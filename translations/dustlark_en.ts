@@ -982,109 +982,109 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>CategoryPage</name>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="103"/>
+        <location filename="../src/ui/CategoryPage.cpp" line="104"/>
         <source>Rescan</source>
         <extracomment>Button that scans one category again</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="120"/>
+        <location filename="../src/ui/CategoryPage.cpp" line="121"/>
         <source>Select All</source>
         <extracomment>Checkbox that selects every row the list shows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="125"/>
+        <location filename="../src/ui/CategoryPage.cpp" line="126"/>
         <source>Search</source>
         <extracomment>Placeholder of the search field above a list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="130"/>
+        <location filename="../src/ui/CategoryPage.cpp" line="131"/>
         <source>Ask AI About These</source>
         <extracomment>Button that copies one question about every shown row for an AI assistant</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="132"/>
+        <location filename="../src/ui/CategoryPage.cpp" line="133"/>
         <source>Copies a description of the shown rows for an AI assistant (Claude, Codex, ChatGPT).</source>
         <extracomment>Tooltip of the button that copies a question about every shown row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="135"/>
+        <location filename="../src/ui/CategoryPage.cpp" line="136"/>
         <source>Empty Trash…</source>
         <extracomment>Button of the Trash category; a confirmation follows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="156"/>
+        <location filename="../src/ui/CategoryPage.cpp" line="157"/>
         <source>Shows only rows of at least this size, in every list.</source>
         <extracomment>Tooltip of the size filter above every list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="213"/>
+        <location filename="../src/ui/CategoryPage.cpp" line="217"/>
         <source>Scans the scan folders again; Project Builds, Git Worktrees, Large Files and Duplicates refresh together</source>
         <extracomment>Tooltip of the rescan button of Project Builds, Git Worktrees, Large Files and Duplicates</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="216"/>
+        <location filename="../src/ui/CategoryPage.cpp" line="220"/>
         <source>Scans this category again</source>
         <extracomment>Tooltip of the rescan button of every other category</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="283"/>
+        <location filename="../src/ui/CategoryPage.cpp" line="287"/>
         <source>Nothing matches the filter.</source>
         <extracomment>Empty state when the size filter or the search hides every row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="286"/>
+        <location filename="../src/ui/CategoryPage.cpp" line="290"/>
         <source>Scanning…</source>
         <extracomment>Empty state while the category is being scanned</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="289"/>
+        <location filename="../src/ui/CategoryPage.cpp" line="293"/>
         <source>Scan to see what&apos;s here.</source>
         <extracomment>Empty state of a category that was never scanned</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="291"/>
+        <location filename="../src/ui/CategoryPage.cpp" line="295"/>
         <source>Nothing to clean here.</source>
         <extracomment>Empty state when the scan found nothing in this category</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPageActions.cpp" line="36"/>
+        <location filename="../src/ui/CategoryPageActions.cpp" line="60"/>
         <source>Add to Safe List</source>
         <extracomment>Row menu: never show this row in scans again</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPageActions.cpp" line="40"/>
+        <location filename="../src/ui/CategoryPageActions.cpp" line="64"/>
         <source>Add Project to Safe List</source>
         <extracomment>Row menu: never show anything inside this row&apos;s project or repository folder again</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPageActions.cpp" line="46"/>
+        <location filename="../src/ui/CategoryPageActions.cpp" line="70"/>
         <source>Ask an AI Assistant</source>
         <extracomment>Row menu: copy a description of this row to paste into an AI assistant</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPageActions.cpp" line="52"/>
+        <location filename="../src/ui/CategoryPageActions.cpp" line="76"/>
         <source>Move to Another Disk…</source>
         <extracomment>Row menu: copy this row&apos;s files to another disk, check the copy, then trash the original</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPageActions.cpp" line="86"/>
+        <location filename="../src/ui/CategoryPageActions.cpp" line="110"/>
         <source>“%1” is on the Safe List.</source>
         <extracomment>Toast after a row was put on the Safe List; %1 is the row&apos;s title</extracomment>
         <translation type="unfinished"></translation>
@@ -1504,13 +1504,13 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>DuplicateFinder</name>
     <message>
-        <location filename="../src/scan/DuplicateFinder.cpp" line="415"/>
+        <location filename="../src/scan/DuplicateFinder.cpp" line="417"/>
         <source>created %1</source>
         <extracomment>Fact in a Duplicates row&apos;s detail line; %1 is a relative date like &apos;3 months ago&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DuplicateFinder.cpp" line="424"/>
+        <location filename="../src/scan/DuplicateFinder.cpp" line="426"/>
         <source>Oldest copy</source>
         <extracomment>Badge of the oldest copy among duplicates</extracomment>
         <translation type="unfinished"></translation>

@@ -93,7 +93,9 @@ CategoryItemDelegate::Geometry CategoryItemDelegate::geometry(const QStyleOption
     Geometry g;
     g.checkbox = QRect(rect.left() + sidePadding, rect.center().y() - box / 2, box, box);
     const int pillHeight = QFontMetrics(safetyFont(option.font)).height() + 4;
-    g.safety = QRect(rect.right() - sidePadding - safetyWidth(option.font), rect.center().y() - pillHeight / 2,
+    const int moreWidth = pillHeight + 6;
+    g.more = QRect(rect.right() - sidePadding - moreWidth, rect.center().y() - pillHeight / 2, moreWidth, pillHeight);
+    g.safety = QRect(g.more.left() - 6 - safetyWidth(option.font), rect.center().y() - pillHeight / 2,
                      safetyWidth(option.font), pillHeight);
     const int figures = figuresWidth(option.font);
     const int figuresLeft = g.safety.left() - gap - figures;
@@ -181,6 +183,20 @@ void CategoryItemDelegate::paintItem(QPainter* painter, const QStyleOptionViewIt
         painter->drawText(g.date, Qt::AlignRight | Qt::AlignVCenter, RelativeDate::format(*item->date));
     }
     paintSafety(painter, option, index, g.safety);
+    paintMoreButton(painter, option, g.more);
+}
+
+// Shown where the person is: under the pointer, and on the current row for the keyboard.
+void CategoryItemDelegate::paintMoreButton(QPainter* painter, const QStyleOptionViewItem& option, const QRect& rect) const
+{
+    if (!(option.state & (QStyle::State_MouseOver | QStyle::State_HasFocus | QStyle::State_Selected)))
+        return;
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(option.palette.color(QPalette::Button));
+    painter->drawRoundedRect(rect, rect.height() / 2.0, rect.height() / 2.0);
+    painter->setPen(textColor(option, false));
+    painter->setFont(option.font);
+    painter->drawText(rect, Qt::AlignCenter, QStringLiteral("•••"));
 }
 
 void CategoryItemDelegate::paintCheckbox(QPainter* painter, const QStyleOptionViewItem& option,
@@ -305,6 +321,11 @@ bool CategoryItemDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
     if (g.checkbox.adjusted(-4, -4, 4, 4).contains(at)) {
         if (release)
             toggle(model, index);
+        return true;
+    }
+    if (g.more.contains(at)) {
+        if (release)
+            emit menuRequested(index, g.more.bottomLeft());
         return true;
     }
     if (g.safety.contains(at) && m_model->itemAt(index)->safety(m_home) == Safety::askAI) {

@@ -19,6 +19,7 @@ public:
         QRect size;
         QRect date;
         QRect safety;
+        QRect more;  // the ••• button that opens the row's menu
     };
 
     // Space left and right of a row's contents.
@@ -39,6 +40,8 @@ public:
 signals:
     // The Ask AI label of a row was clicked.
     void askAIClicked(const QModelIndex& index);
+    // The row's ••• button was clicked; `at` is where the menu opens, in the view's viewport.
+    void menuRequested(const QModelIndex& index, const QPoint& at);
 
 private:
     void paintItem(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const;
@@ -51,6 +54,7 @@ private:
                      const QRect& rect) const;
     void paintSafety(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index,
                      const QRect& rect) const;
+    void paintMoreButton(QPainter* painter, const QStyleOptionViewItem& option, const QRect& rect) const;
     bool toggle(QAbstractItemModel* model, const QModelIndex& index) const;
 
     const CategoryListModel* m_model;

@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QMenu>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStackedWidget>
@@ -166,6 +167,7 @@ void CategoryPage::makeList()
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setMouseTracking(true);
+    m_list->viewport()->setAttribute(Qt::WA_Hover);  // the ••• button shows under the pointer
     m_list->setContextMenuPolicy(Qt::CustomContextMenu);
     m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     connect(m_list, &QListView::customContextMenuRequested, this, &CategoryPage::showRowMenu);
@@ -177,6 +179,8 @@ void CategoryPage::makeList()
         m_list->verticalScrollBar()->setValue(m_scrollBeforeReload);
     });
     connect(m_delegate, &CategoryItemDelegate::askAIClicked, this, &CategoryPage::askAbout);
+    connect(m_delegate, &CategoryItemDelegate::menuRequested, this, &CategoryPage::popUpRowMenu);
+    m_list->installEventFilter(this);
 
     m_emptyState->setAlignment(Qt::AlignCenter);
     m_emptyState->setForegroundRole(QPalette::PlaceholderText);

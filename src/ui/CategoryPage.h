@@ -36,6 +36,8 @@ public:
 
     // The row menu of `index` (an item row), deleted when closed; null for other rows.
     QMenu* makeRowMenu(const QModelIndex& index);
+    // Opens the row menu of `index` at `at`, a point of the list's viewport.
+    void popUpRowMenu(const QModelIndex& index, const QPoint& at);
     QString emptyStateText() const;
     bool showsList() const;
 
@@ -49,6 +51,11 @@ public:
     QPushButton* askAboutShownButton() const { return m_askAboutShown; }
     QPushButton* emptyTrashButton() const { return m_emptyTrash; }
     SelectionBar* selectionBar() const { return m_selectionBar; }
+
+protected:
+    // The keyboard's way to the row menu: the menu key (or Shift+F10) on the current row opens it
+    // under the row's ••• button.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     QLayout* makeHeader();

@@ -2,6 +2,7 @@
 // assistant, revealing a row in the file manager and the Safe List.
 #include "model/AppModel.h"
 #include "model/SettingsStore.h"
+#include "ui/CategoryItemDelegate.h"
 #include "ui/CategoryListModel.h"
 #include "ui/CategoryPage.h"
 #include "ui/MoveSheet.h"
@@ -9,6 +10,7 @@
 
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QListView>
 #include <QMenu>
 #include <QUrl>
@@ -17,6 +19,28 @@ void CategoryPage::showRowMenu(const QPoint& at)
 {
     if (QMenu* menu = makeRowMenu(m_list->indexAt(at)))
         menu->popup(m_list->viewport()->mapToGlobal(at));
+}
+
+void CategoryPage::popUpRowMenu(const QModelIndex& index, const QPoint& at)
+{
+    if (QMenu* menu = makeRowMenu(index))
+        menu->popup(m_list->viewport()->mapToGlobal(at));
+}
+
+bool CategoryPage::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != m_list || event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+    const auto* key = static_cast<QKeyEvent*>(event);
+    const bool menuKey = key->key() == Qt::Key_Menu || (key->key() == Qt::Key_F10 && key->modifiers() == Qt::ShiftModifier);
+    const QModelIndex current = m_list->currentIndex();
+    if (!menuKey || !m_listModel->itemAt(current))
+        return QWidget::eventFilter(watched, event);
+    QStyleOptionViewItem option;
+    option.initFrom(m_list->viewport());
+    option.rect = m_list->visualRect(current);
+    popUpRowMenu(current, m_delegate->geometry(option, current).more.bottomLeft());
+    return true;
 }
 
 QMenu* CategoryPage::makeRowMenu(const QModelIndex& index)

@@ -285,3 +285,28 @@ TEST(CategoryPage, ShowingAnItemNoFileManagerCanShowSaysSo)
     ASSERT_TRUE(waitUntil([&] { return fixture.window().toast()->isVisible(); }));
     EXPECT_EQ(fixture.window().toast()->text(), "No file manager could show “a.log”.");
 }
+
+// The Safe List screen points at "the ••• menu of any row": it opens the row's menu by pointer
+// and by the keyboard's menu key on the current row.
+TEST(CategoryPage, EachRowsMoreButtonOpensItsMenu)
+{
+    WindowFixture fixture;
+    const CleanupItem row = fixture.addFile(CategoryID::logs, "Library/Logs/a.log");
+    CategoryPage* page = fixture.open(CategoryID::logs, {row});
+    ASSERT_TRUE(page);
+    const QModelIndex index = fixture.rowOf(row.id);
+    const QPoint at = fixture.geometryOf(index).more.center();
+    QTest::mouseClick(page->list()->viewport(), Qt::LeftButton, {}, at);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_TRUE(menu);
+    QStringList titles;
+    for (QAction* action : menu->actions())
+        titles.append(action->text());
+    EXPECT_TRUE(titles.contains("Add to Safe List"));
+    EXPECT_FALSE(fixture.model().isSelected(row.id)) << "the button is not the checkbox";
+    menu->close();
+
+    page->list()->setCurrentIndex(index);
+    QTest::keyClick(page->list(), Qt::Key_Menu);
+    EXPECT_TRUE(qobject_cast<QMenu*>(QApplication::activePopupWidget()));
+}
