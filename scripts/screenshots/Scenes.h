@@ -16,6 +16,7 @@ struct Scene {
 QList<Scene> categoryScenes();
 QList<Scene> pageScenes();
 QList<Scene> storageScenes();
+QList<Scene> moveScenes();
 
 // The window with a sheet laid over it the way macOS shows one: centred under the toolbar.
 QImage withSheet(QWidget& window, QWidget& sheet);

@@ -39,7 +39,7 @@ int main(int argc, char** argv)
     const QDir folder(arguments.first());
     QDir().mkpath(folder.path());
     int failures = 0;
-    for (const Scene& scene : categoryScenes() + pageScenes() + storageScenes()) {
+    for (const Scene& scene : categoryScenes() + pageScenes() + storageScenes() + moveScenes()) {
         if (arguments.size() > 1 && !arguments.mid(1).contains(scene.name))
             continue;
         const QImage image = scene.draw();

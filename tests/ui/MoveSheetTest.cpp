@@ -1,5 +1,5 @@
 // The move sheet over the real window and model, moving to /dev/shm (a second file system)
-// through the real mover. With DUSTLARK_SCREENSHOTS set, the sheet's steps are also saved.
+// through the real mover. Its pictures for the docs come from scripts/screenshots.sh.
 #include "WindowFixture.h"
 #include "support/RealMover.h"
 #include "support/Wait.h"
@@ -13,7 +13,6 @@
 #include <QDir>
 #include <QLabel>
 #include <QMenu>
-#include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -49,24 +48,6 @@ MoveSheet* openSheet(WindowFixture& fixture, CategoryPage& page, const QString& 
             action->trigger();
     }
     return fixture.window().findChild<MoveSheet*>();
-}
-
-// The window darkened with the sheet laid over it, centred under the toolbar as macOS shows it.
-void saveWithSheet(QWidget& window, QWidget& sheet, const QString& name)
-{
-    const QString folder = qEnvironmentVariable("DUSTLARK_SCREENSHOTS");
-    if (folder.isEmpty())
-        return;
-    QCoreApplication::processEvents();
-    QImage picture = window.grab().toImage();
-    QPainter painter(&picture);
-    painter.fillRect(picture.rect(), QColor(0, 0, 0, 40));
-    const QImage front = sheet.grab().toImage();
-    const QPoint at((picture.width() - front.width()) / 2, 52);
-    painter.fillRect(QRect(at, front.size()).adjusted(-1, -1, 1, 1), QColor(0, 0, 0, 70));
-    painter.drawImage(at, front);
-    QDir().mkpath(folder);
-    EXPECT_TRUE(picture.save(folder + QLatin1Char('/') + name)) << qPrintable(name);
 }
 
 class MoveSheetTest : public ::testing::Test {
@@ -119,18 +100,15 @@ TEST_F(MoveSheetTest, ChecksTheFolderThenShowsProgressAndWhereTheItemWent)
     question->choose(fixture.home().dir(QStringLiteral("Archive")));
     ASSERT_TRUE(waitUntil([&] { return question->problem()->text().startsWith(QStringLiteral("That folder is on the same disk")); }));
     EXPECT_FALSE(question->moveButton()->isEnabled());
-    saveWithSheet(fixture.window(), *sheet, QStringLiteral("move-destination-refused.png"));
 
     question->choose(disk.path());
     ASSERT_TRUE(waitUntil([&] { return question->moveButton()->isEnabled(); }));
     EXPECT_TRUE(question->problem()->isHidden());
-    saveWithSheet(fixture.window(), *sheet, QStringLiteral("move-destination.png"));
 
     question->moveButton()->click();
     ASSERT_TRUE(sheet->progressPage());
     ASSERT_TRUE(waitUntil([&] { return sheet->progressPage()->bar()->value() == 600; }));
     EXPECT_EQ(sheet->progressPage()->figures()->text(), QStringLiteral("3 MB of 5 MB"));
-    saveWithSheet(fixture.window(), *sheet, QStringLiteral("move-progress.png"));
     sheet->reject();
     EXPECT_TRUE(sheet->isVisible()) << "the sheet closed while the copy ran";
 
@@ -165,5 +143,4 @@ TEST_F(MoveSheetTest, AMovedRowLeavesTheListAndTheSheetSaysWhere)
     ASSERT_TRUE(sheet->outcomePage()->showButton());
     EXPECT_EQ(QFileInfo(copy).size(), 4'000'000);
     EXPECT_EQ(page->listModel()->shownItems(), QList<CleanupItem>{other});
-    saveWithSheet(fixture.window(), *sheet, QStringLiteral("move-outcome.png"));
 }
