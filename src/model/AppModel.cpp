@@ -9,7 +9,6 @@
 #include "model/StorageTask.h"
 #include "platform/Platform.h"
 #include "scan/ScannerCatalog.h"
-#include "vocabulary/AllowedPlace.h"
 #include "vocabulary/SharedScanFolders.h"
 #include "vocabulary/SystemPlaces.h"
 
@@ -238,7 +237,7 @@ void AppModel::apply(const ScanOutputs& outputs, bool stopped)
     for (const auto& [category, output] : outputs) {
         CategoryResult result;
         result.state = CategoryResult::State::done;
-        result.items = AllowedPlace::lockedOutside(filter.kept(output.items), m_settings->home(), m_settings->scanRoots());
+        result.items = filter.shown(output.items, m_settings->scanRoots());
         result.notes = output.notes;
         if (stopped)
             //: Banner of a category whose scanner returned early because the scan was stopped

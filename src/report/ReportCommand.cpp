@@ -72,7 +72,7 @@ ScanReport::Results scan(const ReportOptions& options, const Protection& protect
         for (const auto& [category, output] : outputs) {
             if (!asked.contains(category))
                 continue;
-            results[category] = CategoryResult{CategoryResult::State::done, filter.kept(output.items),
+            results[category] = CategoryResult{CategoryResult::State::done, filter.shown(output.items, context.roots),
                                                output.notes, output.summary};
         }
     });

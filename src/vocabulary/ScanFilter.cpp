@@ -1,5 +1,6 @@
 #include "vocabulary/ScanFilter.h"
 
+#include "vocabulary/AllowedPlace.h"
 #include "vocabulary/PathRules.h"
 
 #include <algorithm>
@@ -62,6 +63,11 @@ bool ScanFilter::drops(const CleanupItem& item) const
         return true;
     const QStringList paths = item.removal.paths();
     return std::any_of(paths.begin(), paths.end(), [&](const QString& path) { return isICloudPath(path); });
+}
+
+QList<CleanupItem> ScanFilter::shown(const QList<CleanupItem>& items, const QStringList& scanFolders) const
+{
+    return AllowedPlace::lockedOutside(kept(items), m_home, scanFolders);
 }
 
 QList<CleanupItem> ScanFilter::kept(const QList<CleanupItem>& items) const

@@ -24,6 +24,10 @@ public:
     bool drops(const CleanupItem& item) const;
     // The items that may be shown, in their order.
     QList<CleanupItem> kept(const QList<CleanupItem>& items) const;
+    // What a list shows of a scan's items, for the app and the report tool alike: the kept ones,
+    // those that lie where removal may not reach locked with the reason (`scanFolders` decide
+    // which other disks count).
+    QList<CleanupItem> shown(const QList<CleanupItem>& items, const QStringList& scanFolders) const;
 
     // The home folder's never-offered iCloud places, relative to the home folder.
     static const QStringList& iCloudLocations();

@@ -42,3 +42,19 @@ TEST(ScanFilter, SafeListIdsAndProtectedPaths)
     inProject.projectPath = "/Users/a/Projects/keep";
     EXPECT_TRUE(filter.drops(inProject));
 }
+
+// A row the remover would refuse for its place is shown locked with the same sentence, never
+// offered and then refused; a row locked for another reason keeps that reason.
+TEST(ScanFilter, RowsWhereRemovalCannotReachAreShownLocked)
+{
+    const ScanFilter filter("/Users/a", {"/Users/a/safe"}, {});
+    CleanupItem running = itemAt("/opt/tool/cache");
+    running.lockedReason = QStringLiteral("Running. Quit Tool to remove it.");
+    const QList<CleanupItem> shown = filter.shown({itemAt("/Users/a/Library/Caches/x"), itemAt("/private/tmp/old"),
+                                                   itemAt("/Users/a/safe"), running},
+                                                  {"/Users/a"});
+    ASSERT_EQ(shown.size(), 3);
+    EXPECT_FALSE(shown[0].lockedReason.has_value());
+    EXPECT_EQ(shown[1].lockedReason, "It is outside your home folder.");
+    EXPECT_EQ(shown[2].lockedReason, "Running. Quit Tool to remove it.");
+}
