@@ -1,12 +1,12 @@
 #include "storage/StorageWalker.h"
 
 #include "machinery/ScanProgress.h"
+#include "machinery/TreeWalker.h"
 #include "storage/FolderTally.h"
 #include "storage/FolderUsageBuilder.h"
 
 #include <QFile>
 
-#include <fts.h>
 #include <memory>
 #include <sys/stat.h>
 #include <vector>
@@ -39,56 +39,36 @@ qint64 allocated(const struct stat& status)
     return static_cast<qint64>(status.st_blocks) * 512;
 }
 
-// The one traversal of the walk: fts in physical, no-chdir, one-volume mode. A folder on another
-// device is skipped unseen. `visit` returns false to stop; so does this function.
+// The one traversal of the walk, on the descriptor walker: physical, never following a link,
+// on the root's volume only (a mount point is not reported at all). Every folder entered is left
+// again, also one that could not be read; its own blocks count when it is entered, and the
+// failure only counts it as unreadable. `visit` returns false to stop; so does this function.
+template <typename Visit>
+class TraversalVisitor : public TreeVisitor {
+public:
+    explicit TraversalVisitor(Visit& visit) : m_visit(visit) {}
+
+    Verdict enterFolder(const TreeEntry& entry) override { return pass(EntryKind::folder, entry, &entry.status()); }
+    void leaveFolder(const TreeEntry& entry) override { pass(EntryKind::folderDone, entry, &entry.status()); }
+    Verdict visitItem(const TreeEntry& entry) override { return pass(EntryKind::file, entry, &entry.status()); }
+    void problem(const TreeEntry& entry, TreeProblem, int) override { pass(EntryKind::unreadable, entry, nullptr); }
+
+private:
+    Verdict pass(EntryKind kind, const TreeEntry& entry, const struct stat* status)
+    {
+        const QByteArray path = entry.pathBytes();
+        return m_visit(Entry{kind, path, status}) ? Verdict::Enter : Verdict::Stop;
+    }
+
+    Visit& m_visit;
+};
+
 template <typename Visit>
 bool traverse(const QByteArray& root, Visit visit)
 {
-    QByteArray path = root;
-    char* roots[] = {path.data(), nullptr};
-    FTS* tree = ::fts_open(roots, FTS_PHYSICAL | FTS_NOCHDIR | FTS_XDEV, nullptr);
-    if (!tree)
-        return true;
-    dev_t device = 0;
-    bool going = true;
-    while (going) {
-        FTSENT* entry = ::fts_read(tree);
-        if (!entry)
-            break;
-        const QByteArrayView at(entry->fts_path, entry->fts_pathlen);
-        if (entry->fts_level == FTS_ROOTLEVEL && entry->fts_info != FTS_NS && entry->fts_info != FTS_ERR)
-            device = entry->fts_statp->st_dev;
-        switch (entry->fts_info) {
-        case FTS_D:
-            if (entry->fts_statp->st_dev != device) {
-                ::fts_set(tree, entry, FTS_SKIP);  // a mount point: its blocks belong to another volume
-                break;
-            }
-            going = visit(Entry{EntryKind::folder, at, entry->fts_statp});
-            break;
-        case FTS_DP:
-            if (entry->fts_statp->st_dev == device)
-                going = visit(Entry{EntryKind::folderDone, at, entry->fts_statp});
-            break;
-        case FTS_F:
-        case FTS_SL:
-        case FTS_SLNONE:
-        case FTS_DEFAULT:
-            going = visit(Entry{EntryKind::file, at, entry->fts_statp});
-            break;
-        case FTS_DNR:
-            going = visit(Entry{EntryKind::unreadable, at, entry->fts_statp});
-            break;
-        case FTS_NS:
-        case FTS_ERR:
-            going = visit(Entry{EntryKind::unreadable, at, nullptr});
-            break;
-        default:
-            break;  // a folder met again through a cycle: counted where it was first seen
-        }
-    }
-    ::fts_close(tree);
-    return going;
+    TreeWalker walker(TreeWalker::Options{});
+    TraversalVisitor<Visit> visitor(visit);
+    return walker.walk(root, visitor).end != TreeWalker::End::Stopped;
 }
 
 // One walk in progress: the open folders, the root's own usage per bucket and the partial.
