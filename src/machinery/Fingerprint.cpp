@@ -1,21 +1,17 @@
 #include "machinery/Fingerprint.h"
 
+#include "machinery/TreeWalker.h"
 #include "platform/Platform.h"
 
 #include <QFile>
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
-#include <fts.h>
 #include <initializer_list>
 #include <sys/stat.h>
 
 namespace Fingerprint {
 
 namespace {
-
-constexpr int cancellationInterval = 256;
 
 // FNV-1a: stable across runs and platforms, unlike qHash, so stamps never depend on a seed.
 quint64 fnv1a(quint64 hash, const void* data, size_t size)
@@ -49,72 +45,49 @@ qint64 kindOf(mode_t mode)
 
 // One walk in progress. Entry hashes are summed, so the order in which the file system lists a
 // folder (which differs between an original and its copy) never changes the result.
-class Walk {
+class StampVisitor : public TreeVisitor {
 public:
-    Walk(const QByteArray& root, const CancellationToken* cancellation)
-        : m_rootLength(root.size()), m_cancellation(cancellation) {}
+    explicit StampVisitor(qsizetype rootLength) : m_rootLength(rootLength) {}
 
-    bool visit(const FTSENT* entry);
-    void addUnreadable() { ++m_stamp.unreadable; }
+    Verdict enterFolder(const TreeEntry& entry) override
+    {
+        add(entry);
+        return Verdict::Enter;
+    }
+
+    Verdict visitItem(const TreeEntry& entry) override
+    {
+        // Finder writes ".DS_Store" files into folders it shows; only such a file is noise. A
+        // folder or a link of that name is someone's data like any other.
+        if (!(S_ISREG(entry.status().st_mode) && entry.name() == ".DS_Store"))
+            add(entry);
+        return Verdict::Enter;
+    }
+
+    // A folder that can't be opened was added when entered, as its own entry; either way what
+    // could not be read is counted, never guessed.
+    void problem(const TreeEntry&, TreeProblem, int) override { ++m_stamp.unreadable; }
+
     const TreeStamp& result() const { return m_stamp; }
 
 private:
-    void add(const QByteArray& relativePath, const struct stat& info);
-    bool isCancelled();
+    void add(const TreeEntry& entry)
+    {
+        const QByteArray relativePath = entry.pathBytes().mid(m_rootLength);
+        const struct stat& info = entry.status();
+        m_stamp.layout += entryHash(relativePath, {kindOf(info.st_mode)});
+        m_stamp.statusStamps += entryHash(relativePath, {Platform::statusChangeNanoseconds(info)});
+        m_stamp.latestChange = std::max(m_stamp.latestChange, qint64(info.st_mtime));
+        if (!S_ISREG(info.st_mode))
+            return;
+        ++m_stamp.files;
+        m_stamp.bytes += info.st_size;
+        m_stamp.stamps += entryHash(relativePath, {qint64(info.st_size), Platform::modificationNanoseconds(info)});
+    }
 
     qsizetype m_rootLength;
-    const CancellationToken* m_cancellation;
     TreeStamp m_stamp;
-    int m_sinceCancellationCheck = 0;
 };
-
-bool Walk::isCancelled()
-{
-    if (!m_cancellation || ++m_sinceCancellationCheck < cancellationInterval)
-        return false;
-    m_sinceCancellationCheck = 0;
-    return m_cancellation->isCancelled();
-}
-
-// False when the walk must stop.
-bool Walk::visit(const FTSENT* entry)
-{
-    if (entry->fts_info == FTS_DP)
-        return true;
-    const QByteArray relativePath = QByteArray(entry->fts_path).mid(m_rootLength);
-    switch (entry->fts_info) {
-    case FTS_NS:
-    case FTS_ERR:
-        ++m_stamp.unreadable;
-        break;
-    case FTS_DNR:
-        ++m_stamp.unreadable;
-        add(relativePath, *entry->fts_statp);
-        break;
-    default:
-        add(relativePath, *entry->fts_statp);
-    }
-    return !isCancelled();
-}
-
-void Walk::add(const QByteArray& relativePath, const struct stat& info)
-{
-    m_stamp.layout += entryHash(relativePath, {kindOf(info.st_mode)});
-    m_stamp.statusStamps += entryHash(relativePath, {Platform::statusChangeNanoseconds(info)});
-    m_stamp.latestChange = std::max(m_stamp.latestChange, qint64(info.st_mtime));
-    if (!S_ISREG(info.st_mode))
-        return;
-    ++m_stamp.files;
-    m_stamp.bytes += info.st_size;
-    m_stamp.stamps += entryHash(relativePath, {qint64(info.st_size), Platform::modificationNanoseconds(info)});
-}
-
-// Finder writes ".DS_Store" files into folders it shows; only such a file is noise. A folder or
-// a link of that name is someone's data like any other.
-bool isIgnored(const FTSENT* entry)
-{
-    return entry->fts_info == FTS_F && std::strcmp(entry->fts_name, ".DS_Store") == 0;
-}
 
 }  // namespace
 
@@ -123,27 +96,16 @@ std::optional<TreeStamp> compute(const QString& path, const CancellationToken* c
     QByteArray root = QFile::encodeName(path);
     while (root.size() > 1 && root.endsWith('/'))
         root.chop(1);  // so relative paths read alike for "a/" and "a"
-    char* roots[] = {root.data(), nullptr};
-    FTS* tree = ::fts_open(roots, FTS_PHYSICAL | FTS_NOCHDIR | FTS_XDEV, nullptr);
-    if (!tree)
-        return TreeStamp{.unreadable = 1};
-    Walk walk(root, cancellation);
-    bool stopped = false;
-    errno = 0;
-    while (FTSENT* entry = ::fts_read(tree)) {
-        if (isIgnored(entry))
-            continue;
-        if (!walk.visit(entry)) {
-            stopped = true;
-            break;
-        }
-    }
-    if (!stopped && errno != 0)
-        walk.addUnreadable();  // the traversal itself broke off
-    ::fts_close(tree);
-    if (stopped)
+    TreeWalker::Options options;
+    options.cancellation = cancellation;
+    TreeWalker walker(options);
+    StampVisitor visitor(root.size());
+    const bool finished = walker.walk(root, visitor).end == TreeWalker::End::Finished;
+    // The walker looks at the token every few thousand entries; a stop that came before the end
+    // of a small tree must not pass for a whole summary either.
+    if (!finished || (cancellation && cancellation->isCancelled()))
         return std::nullopt;
-    return walk.result();
+    return visitor.result();
 }
 
 }  // namespace Fingerprint
