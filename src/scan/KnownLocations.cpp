@@ -6,6 +6,8 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <initializer_list>
+#include <utility>
 
 namespace KnownLocations {
 
@@ -33,12 +35,20 @@ bool isLinux()
     return Platform::desktop() == Platform::Desktop::freedesktop;
 }
 
-// The rows only a Linux home has, where no macOS row has a counterpart to take the Linux path
-// (withLinuxPaths below); on macOS the table stays exactly as it is.
-QList<Location> withLinuxRows(QList<Location> rows, const QList<Location>& linuxRows)
+// Where Linux keeps the same data as a row of the table: the row's first (macOS) path, then the
+// Linux path the same row also looks in. On macOS the table stays exactly as it is.
+using LinuxPlaces = std::initializer_list<std::pair<const char*, const char*>>;
+
+QList<Location> withLinuxPlaces(QList<Location> rows, LinuxPlaces places)
 {
-    if (isLinux())
-        rows += linuxRows;
+    if (!isLinux())
+        return rows;
+    for (const auto& [macPath, linuxPath] : places) {
+        for (Location& row : rows) {
+            if (row.paths.value(0) == QLatin1String(macPath))
+                row.paths.append(QString::fromUtf8(linuxPath));
+        }
+    }
     return rows;
 }
 
@@ -88,28 +98,9 @@ QList<Location> xcode()
     };
 }
 
-// Android Studio and its SDK where Linux keeps them.
-static QList<Location> androidOnLinux()
-{
-    return {
-        namedRow(QStringLiteral(".cache/Google/AndroidStudio*"),
-                 Naming::name(QCoreApplication::translate("KnownLocations", "Android Studio cache · "))),
-        namedRow(QStringLiteral("Android/Sdk/system-images/*/*/*"), Naming::systemImage(),
-                 QCoreApplication::translate("KnownLocations", "Android SDK system image")),
-        perChildRow(QStringLiteral("Android/Sdk/ndk"), Naming::name(QCoreApplication::translate("KnownLocations", "NDK ")),
-                    QCoreApplication::translate("KnownLocations", "Android NDK version; projects that pin it download it again")),
-        perChildRow(QStringLiteral("Android/Sdk/build-tools"),
-                    Naming::name(QCoreApplication::translate("KnownLocations", "Build tools ")),
-                    QCoreApplication::translate("KnownLocations", "Android SDK build tools version")),
-        perChildRow(QStringLiteral("Android/Sdk/platforms"),
-                    Naming::name(QCoreApplication::translate("KnownLocations", "SDK platform ")),
-                    QCoreApplication::translate("KnownLocations", "Android SDK platform")),
-    };
-}
-
 QList<Location> android()
 {
-    return withLinuxRows({
+    return withLinuxPlaces({
         fixedRow({QStringLiteral(".gradle/caches")},
                  //: Row title in the Android list
                  QCoreApplication::translate("KnownLocations", "Gradle caches")),
@@ -151,38 +142,18 @@ QList<Location> android()
                     Naming::name(QCoreApplication::translate("KnownLocations", "Gradle JDK · ")),
                     //: Detail line of a row of Java that Gradle downloaded
                     QCoreApplication::translate("KnownLocations", "Java downloaded by Gradle toolchains")),
-    }, androidOnLinux());
-}
-
-// The same tools' caches where Linux keeps them (XDG's ~/.cache and ~/.local/share).
-static QList<Location> packageCachesOnLinux()
-{
-    return {
-        fixedRow({QStringLiteral(".cache/yarn")}, QCoreApplication::translate("KnownLocations", "Yarn cache")),
-        fixedRow({QStringLiteral(".local/share/pnpm/store")}, QCoreApplication::translate("KnownLocations", "pnpm store"),
-                 QCoreApplication::translate("KnownLocations", "Projects link their packages from here")),
-        fixedRow({QStringLiteral(".cache/Homebrew")}, QCoreApplication::translate("KnownLocations", "Homebrew downloads")),
-        fixedRow({QStringLiteral(".cache/pip")}, QCoreApplication::translate("KnownLocations", "pip cache")),
-        fixedRow({QStringLiteral(".cache/org.swift.swiftpm")},
-                 QCoreApplication::translate("KnownLocations", "Swift Package Manager cache")),
-        fixedRow({QStringLiteral(".cache/go-build")}, QCoreApplication::translate("KnownLocations", "Go build cache")),
-        fixedRow({QStringLiteral(".cache/pypoetry")}, QCoreApplication::translate("KnownLocations", "Poetry cache"),
-                 QCoreApplication::translate("KnownLocations", "Includes Poetry's virtual environments; `poetry install` creates them again")),
-        fixedRow({QStringLiteral(".cache/node-gyp")}, QCoreApplication::translate("KnownLocations", "node-gyp headers")),
-        fixedRow({QStringLiteral(".cache/electron")}, QCoreApplication::translate("KnownLocations", "Electron downloads")),
-        fixedRow({QStringLiteral(".cache/electron-builder")},
-                 QCoreApplication::translate("KnownLocations", "electron-builder cache")),
-        fixedRow({QStringLiteral(".cache/deno")}, QCoreApplication::translate("KnownLocations", "Deno cache")),
-        fixedRow({QStringLiteral(".cache/typescript")}, QCoreApplication::translate("KnownLocations", "TypeScript cache")),
-        fixedRow({QStringLiteral(".cache/composer")}, QCoreApplication::translate("KnownLocations", "Composer cache")),
-        fixedRow({QStringLiteral(".cache/ms-playwright")}, QCoreApplication::translate("KnownLocations", "Playwright browsers"),
-                 QCoreApplication::translate("KnownLocations", "Tests need `npx playwright install` afterwards")),
-    };
+    }, {
+        {"Library/Caches/Google/AndroidStudio*", ".cache/Google/AndroidStudio*"},
+        {"Library/Android/sdk/system-images/*/*/*", "Android/Sdk/system-images/*/*/*"},
+        {"Library/Android/sdk/ndk", "Android/Sdk/ndk"},
+        {"Library/Android/sdk/build-tools", "Android/Sdk/build-tools"},
+        {"Library/Android/sdk/platforms", "Android/Sdk/platforms"},
+    });
 }
 
 QList<Location> packageCaches()
 {
-    return withLinuxRows({
+    return withLinuxPlaces({
         fixedRow({QStringLiteral(".npm/_cacache")},
                  //: Row title in the package caches list
                  QCoreApplication::translate("KnownLocations", "npm cache")),
@@ -285,7 +256,22 @@ QList<Location> packageCaches()
                  QCoreApplication::translate("KnownLocations", "Maven repository"),
                  //: Detail line of the Maven repository row
                  QCoreApplication::translate("KnownLocations", "May hold artifacts you installed locally")),
-    }, packageCachesOnLinux());
+    }, {
+        {"Library/Caches/Yarn", ".cache/yarn"},
+        {"Library/pnpm/store", ".local/share/pnpm/store"},
+        {"Library/Caches/Homebrew", ".cache/Homebrew"},
+        {"Library/Caches/pip", ".cache/pip"},
+        {"Library/Caches/org.swift.swiftpm", ".cache/org.swift.swiftpm"},
+        {"Library/Caches/go-build", ".cache/go-build"},
+        {"Library/Caches/pypoetry", ".cache/pypoetry"},
+        {"Library/Caches/node-gyp", ".cache/node-gyp"},
+        {"Library/Caches/electron", ".cache/electron"},
+        {"Library/Caches/electron-builder", ".cache/electron-builder"},
+        {"Library/Caches/deno", ".cache/deno"},
+        {"Library/Caches/typescript", ".cache/typescript"},
+        {"Library/Caches/composer", ".cache/composer"},
+        {"Library/Caches/ms-playwright", ".cache/ms-playwright"},
+    });
 }
 
 QList<Location> aiModels()
@@ -378,7 +364,7 @@ QList<Location> logs()
     // The crash reports have their own row; the simulators' logs belong with Xcode's data.
     appLogs.skippedChildren = {QStringLiteral("DiagnosticReports"), QStringLiteral("CrashReporter"),
                                QStringLiteral("CoreSimulator")};
-    return withLinuxRows({
+    return withLinuxPlaces({
         crashReports,
         appLogs,
         fixedRow({QStringLiteral("Library/Application Support/Code/logs")},
@@ -394,10 +380,9 @@ QList<Location> logs()
                  //: Row title in the logs list: logs npm writes when a command fails
                  QCoreApplication::translate("KnownLocations", "npm debug logs")),
     }, {
-        // The editors' logs where Linux keeps their data.
-        fixedRow({QStringLiteral(".config/Code/logs")}, QCoreApplication::translate("KnownLocations", "VS Code logs")),
-        fixedRow({QStringLiteral(".config/Cursor/logs")}, QCoreApplication::translate("KnownLocations", "Cursor logs")),
-        fixedRow({QStringLiteral(".config/Windsurf/logs")}, QCoreApplication::translate("KnownLocations", "Windsurf logs")),
+        {"Library/Application Support/Code/logs", ".config/Code/logs"},
+        {"Library/Application Support/Cursor/logs", ".config/Cursor/logs"},
+        {"Library/Application Support/Windsurf/logs", ".config/Windsurf/logs"},
     });
 }
 
