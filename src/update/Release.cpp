@@ -2,8 +2,27 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSslCertificate>
+#include <QSslConfiguration>
 
 #include <cmath>
+
+QNetworkRequest UpdateSite::request(const QUrl& url) const
+{
+    QNetworkRequest request(url);
+    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
+    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
+    request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
+    request.setAttribute(QNetworkRequest::CacheSaveControlAttribute, false);
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::SameOriginRedirectPolicy);
+    request.setTransferTimeout(timeoutMs);
+    if (!extraCertificates.isEmpty()) {
+        QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
+        tls.addCaCertificates(QSslCertificate::fromData(extraCertificates, QSsl::Pem));
+        request.setSslConfiguration(tls);
+    }
+    return request;
+}
 
 bool UpdateSite::isOwnAddress(const QUrl& url) const
 {

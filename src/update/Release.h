@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QNetworkRequest>
 #include <QUrl>
 
 #include <optional>
@@ -19,6 +20,10 @@ struct UpdateSite {
     // True for an "https" address on this site's host and port: the only addresses a release
     // may send the person or the installer to.
     [[nodiscard]] bool isOwnAddress(const QUrl& url) const;
+    // The request for `url` on this site, like an ephemeral session: nothing read from or written
+    // to a cookie store or a cache, redirects only within the site, the site's time limit, and
+    // the extra certificates trusted.
+    [[nodiscard]] QNetworkRequest request(const QUrl& url) const;
 
 private:
     [[nodiscard]] QUrl at(const QString& path) const;

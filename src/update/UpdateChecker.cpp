@@ -22,24 +22,6 @@ QString unavailable()
                                        "The update information isn't available right now. Try again later.");
 }
 
-QNetworkRequest requestFor(const UpdateSite& site)
-{
-    QNetworkRequest request(site.versionFile());
-    // Like an ephemeral session: nothing read from or written to a cookie store or a cache.
-    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
-    request.setAttribute(QNetworkRequest::CacheSaveControlAttribute, false);
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::SameOriginRedirectPolicy);
-    request.setTransferTimeout(site.timeoutMs);
-    if (!site.extraCertificates.isEmpty()) {
-        QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
-        tls.addCaCertificates(QSslCertificate::fromData(site.extraCertificates, QSsl::Pem));
-        request.setSslConfiguration(tls);
-    }
-    return request;
-}
-
 Result finished(QNetworkReply* reply, qint64 currentBuild)
 {
     if (reply->property("tooLarge").toBool())
@@ -103,7 +85,7 @@ void check(const UpdateSite& site, qint64 currentBuild, QObject* context, std::f
 {
     // A manager per check: its cookie jar and connections end with it.
     auto* manager = new QNetworkAccessManager(context);
-    QNetworkReply* reply = manager->get(requestFor(site));
+    QNetworkReply* reply = manager->get(site.request(site.versionFile()));
     QObject::connect(reply, &QNetworkReply::downloadProgress, reply, [reply](qint64 received, qint64) {
         if (received <= maxVersionFileBytes)
             return;

@@ -41,23 +41,6 @@ std::optional<QByteArray> sha256Of(const QString& path, QString* error)
     return QByteArray(reinterpret_cast<const char*>(digest), int(length)).toHex();
 }
 
-QNetworkRequest imageRequest(const UpdateSite& site, const QUrl& url)
-{
-    QNetworkRequest request(url);
-    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
-    request.setAttribute(QNetworkRequest::CacheSaveControlAttribute, false);
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::SameOriginRedirectPolicy);
-    request.setTransferTimeout(site.timeoutMs);
-    if (!site.extraCertificates.isEmpty()) {
-        QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
-        tls.addCaCertificates(QSslCertificate::fromData(site.extraCertificates, QSsl::Pem));
-        request.setSslConfiguration(tls);
-    }
-    return request;
-}
-
 }  // namespace
 
 void download(const UpdateSite& site, const QUrl& url, QObject* context, std::function<void(Download)> done)
@@ -68,7 +51,7 @@ void download(const UpdateSite& site, const QUrl& url, QObject* context, std::fu
         return;
     }
     auto* manager = new QNetworkAccessManager(context);
-    QNetworkReply* reply = manager->get(imageRequest(site, url));
+    QNetworkReply* reply = manager->get(site.request(url));
     QObject::connect(reply, &QNetworkReply::readyRead, reply, [reply, image] {
         if (image->write(reply->readAll()) < 0)
             reply->abort();
