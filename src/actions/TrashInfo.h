@@ -14,8 +14,8 @@ inline constexpr char suffix[] = ".trashinfo";
 // with ".trashinfo") still fits the 255 bytes a file name may have.
 [[nodiscard]] QByteArray candidateName(const QByteArray& name, int attempt);
 
-// The info file's text: `Path=` percent-encoded as the specification's URL escaping (every byte
-// but unreserved ASCII and "/"), `DeletionDate=` in local time without a zone.
+// The info file's text: `Path=` percent-encoded the freedesktop trash's way (every byte but
+// unreserved ASCII and "/"), `DeletionDate=` in local time without a zone.
 [[nodiscard]] QByteArray contents(const QByteArray& originalPath, const QDateTime& deleted);
 
 }  // namespace TrashInfo
