@@ -141,10 +141,12 @@ TEST_F(CacheScannersTest, EditorCachesOfUninstalledAgentsAndRunningEditors)
     big(QStringLiteral(".config/Code/Cache/x"));
 
     QStringList titles;
-    for (const CleanupItem& item : editorCaches())
+    const QList<CleanupItem> idle = editorCaches();
+    for (const CleanupItem& item : idle)
         titles.append(item.title);
     EXPECT_EQ(titles, (QStringList{QStringLiteral("VS Code caches"), QStringLiteral("JetBrains cache · IntelliJIdea2024.1")}));
-    const CleanupItem* jetBrains = titled(editorCaches(), QStringLiteral("JetBrains cache · IntelliJIdea2024.1"));
+    const CleanupItem* jetBrains = titled(idle, QStringLiteral("JetBrains cache · IntelliJIdea2024.1"));
+    ASSERT_TRUE(jetBrains);
     EXPECT_EQ(jetBrains->safety(context.home), Safety::askAI);
     EXPECT_FALSE(jetBrains->lockedReason);
 
