@@ -52,11 +52,18 @@ TEST(AppLanguage, LaunchInstallsTheChosenTranslationAndRemembersTheChoice)
 {
     const QString fixtures = QStringLiteral(DUSTLARK_FIXTURES "/i18n");
     SettingsFile file;
+    // The test runner's own English catalogue stays; only what this test installs goes again.
+    const QList<QTranslator*> before = QCoreApplication::instance()->findChildren<QTranslator*>();
+    const auto added = [&] {
+        QList<QTranslator*> now = QCoreApplication::instance()->findChildren<QTranslator*>();
+        now.removeIf([&](QTranslator* translator) { return before.contains(translator); });
+        return now;
+    };
     AppLanguage::choose(*file.settings(), QStringLiteral("de"));
     ASSERT_TRUE(AppLanguage::loadAtLaunch(*file.reopen(), fixtures));
     EXPECT_EQ(AppLanguage::launchChoice(), QStringLiteral("de"));
     EXPECT_EQ(AppLanguage::offered(fixtures).first().title, QStringLiteral("Systemsprache"));
-    for (QTranslator* translator : QCoreApplication::instance()->findChildren<QTranslator*>()) {
+    for (QTranslator* translator : added()) {
         QCoreApplication::removeTranslator(translator);
         delete translator;
     }
@@ -66,7 +73,7 @@ TEST(AppLanguage, LaunchInstallsTheChosenTranslationAndRemembersTheChoice)
     AppLanguage::choose(*file.settings(), QStringLiteral("fr"));
     EXPECT_FALSE(AppLanguage::loadAtLaunch(*file.reopen(), fixtures));
     EXPECT_EQ(AppLanguage::launchChoice(), QStringLiteral("fr"));
-    EXPECT_TRUE(QCoreApplication::instance()->findChildren<QTranslator*>().isEmpty());
+    EXPECT_TRUE(added().isEmpty());
 }
 
 }  // namespace
