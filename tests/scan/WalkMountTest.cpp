@@ -4,6 +4,7 @@
 
 #include "machinery/FileSizer.h"
 #include "scan/Walk.h"
+#include "support/PrivateMount.h"
 #include "support/TempTree.h"
 
 #include <QCoreApplication>
@@ -28,15 +29,6 @@ dev_t deviceOf(const QByteArray& path)
     return info.st_dev;
 }
 
-QString reportLine(const QString& output)
-{
-    for (const QString& line : output.split('\n')) {
-        if (line.startsWith(QLatin1String("REPORT ")))
-            return line.mid(7);
-    }
-    return {};
-}
-
 }  // namespace
 
 // The side that runs inside the namespace; disabled so that it runs only when asked for.
@@ -58,9 +50,6 @@ TEST(MountedTree, DISABLED_ReportFromInsideTheNamespace)
 
 TEST(MountPoints, AreNotCrossed)
 {
-    const QString unshare = QStandardPaths::findExecutable(QStringLiteral("unshare"));
-    if (::geteuid() != 0 || unshare.isEmpty())
-        GTEST_SKIP() << "mounting a tmpfs in a private namespace needs root and unshare(1)";
     TempTree tree;
     tree.sparseFile("top/outside", 2'000'000);
     const QString mountPoint = tree.dir("top/mnt");
@@ -69,18 +58,14 @@ TEST(MountPoints, AreNotCrossed)
         "mkdir \"$1/folder\" \"$1/.git\" && truncate -s 2000000 \"$1/inside\" \"$1/folder/deep\" || exit 78; "
         "exec \"$2\" --gtest_also_run_disabled_tests --gtest_filter=MountedTree.*");
 
-    QProcess child;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(treeVariable, tree.path("top"));
     environment.insert(mountVariable, mountPoint);
-    child.setProcessEnvironment(environment);
-    child.start(unshare, {"--mount", "--propagation", "private", "sh", "-c", script, "sh", mountPoint,
-                          QCoreApplication::applicationFilePath()});
-    ASSERT_TRUE(child.waitForFinished(60'000));
-    const QString output = QString::fromLocal8Bit(child.readAllStandardOutput());
-    if (!output.contains(QLatin1String("MOUNTED")))
-        GTEST_SKIP() << "this system does not allow a private tmpfs mount: "
-                     << child.readAllStandardError().trimmed().constData();
+    const auto run = runInPrivateMount(script, mountPoint, environment);
+    if (!run)
+        GTEST_SKIP() << "mounting a tmpfs in a private namespace needs root and unshare(1)";
+    if (!run->mounted)
+        GTEST_SKIP() << "this system does not allow a private tmpfs mount: " << qPrintable(run->error);
 
-    EXPECT_EQ(reportLine(output).toStdString(), "mounted=1 files=1 candidates=1 repositories=0") << qPrintable(output);
+    EXPECT_EQ(run->report().toStdString(), "mounted=1 files=1 candidates=1 repositories=0") << qPrintable(run->output);
 }

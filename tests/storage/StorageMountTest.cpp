@@ -2,6 +2,7 @@
 // deeper. The mounts are real tmpfs file systems in a private mount namespace (unshare(1)); the
 // test binary re-runs itself there to analyse, and prints what it measured for the parent.
 #include "StorageFixture.h"
+#include "support/PrivateMount.h"
 
 #include <QCoreApplication>
 #include <QProcess>
@@ -15,15 +16,6 @@
 namespace {
 
 const char* const homeVariable = "DUSTLARK_STORAGE_MOUNTED_HOME";
-
-QString reportLine(const QString& output)
-{
-    for (const QString& line : output.split('\n')) {
-        if (line.startsWith(QLatin1String("REPORT ")))
-            return line.mid(7);
-    }
-    return {};
-}
 
 }  // namespace
 
@@ -47,9 +39,6 @@ TEST(StorageMountedHome, DISABLED_ReportFromInsideTheNamespace)
 
 TEST(StorageMounts, AreNotCounted)
 {
-    const QString unshare = QStandardPaths::findExecutable(QStringLiteral("unshare"));
-    if (::geteuid() != 0 || unshare.isEmpty())
-        GTEST_SKIP() << "mounting a tmpfs in a private namespace needs root and unshare(1)";
     StorageFixture fixture;
     fixture.file("Documents/a.pdf", 100'000);
     fixture.tree.dir("home/Volumes/disk");
@@ -59,17 +48,13 @@ TEST(StorageMounts, AreNotCounted)
         "echo MOUNTED; head -c 3000000 /dev/zero > \"$1/disk/big\" && head -c 3000000 /dev/zero > \"$1/Volumes/disk/big\" "
         "|| exit 78; exec \"$2\" --gtest_also_run_disabled_tests --gtest_filter=StorageMountedHome.*");
 
-    QProcess child;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(homeVariable, fixture.home);
-    child.setProcessEnvironment(environment);
-    child.start(unshare, {"--mount", "--propagation", "private", "sh", "-c", script, "sh", fixture.home,
-                          QCoreApplication::applicationFilePath()});
-    ASSERT_TRUE(child.waitForFinished(60'000));
-    const QString output = QString::fromLocal8Bit(child.readAllStandardOutput());
-    if (!output.contains(QLatin1String("MOUNTED")))
-        GTEST_SKIP() << "this system does not allow a private tmpfs mount: "
-                     << child.readAllStandardError().trimmed().constData();
+    const auto run = runInPrivateMount(script, fixture.home, environment);
+    if (!run)
+        GTEST_SKIP() << "mounting a tmpfs in a private namespace needs root and unshare(1)";
+    if (!run->mounted)
+        GTEST_SKIP() << "this system does not allow a private tmpfs mount: " << qPrintable(run->error);
     // "disk" is no root at all; "Volumes" is one, measured by its own blocks, as du -s does.
-    EXPECT_EQ(reportLine(output).toStdString(), "roots=2 measured-du=0") << qPrintable(output);
+    EXPECT_EQ(run->report().toStdString(), "roots=2 measured-du=0") << qPrintable(run->output);
 }
