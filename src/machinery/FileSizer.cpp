@@ -1,6 +1,6 @@
 #include "machinery/FileSizer.h"
 
-#include "machinery/TreeWalker.h"
+#include "machinery/SplitWalk.h"
 
 #include <QFile>
 
@@ -11,9 +11,22 @@ namespace FileSizer {
 namespace {
 
 // The sums of one measurement, taken as the walk passes; hard links come once from the walker.
-class Sizing : public TreeVisitor {
+class Sizing : public SplittableVisitor {
 public:
     Measurement result;
+
+    std::unique_ptr<SplittableVisitor> fork() const override { return std::make_unique<Sizing>(); }
+
+    void join(SplittableVisitor& later) override
+    {
+        const Measurement& part = static_cast<Sizing&>(later).result;
+        result.bytes += part.bytes;
+        result.logicalBytes += part.logicalBytes;
+        result.files += part.files;
+        result.unreadable += part.unreadable;
+        result.complete = result.complete && part.complete;
+        result.latestChange = std::max(result.latestChange, part.latestChange);
+    }
 
     Verdict enterFolder(const TreeEntry& entry) override
     {
@@ -47,12 +60,12 @@ public:
 
 Measurement measure(const QString& path, ScanProgress* progress, const CancellationToken* cancellation)
 {
-    TreeWalker::Options options;
-    options.progress = progress;
-    options.cancellation = cancellation;
-    options.hardLinksOnce = true;
+    SplitWalk::Options options;
+    options.walker.progress = progress;
+    options.walker.cancellation = cancellation;
+    options.walker.hardLinksOnce = true;
     Sizing sizing;
-    if (TreeWalker(options).walk(QFile::encodeName(path), sizing).end == TreeWalker::End::Cancelled) {
+    if (SplitWalk(options).walk(QFile::encodeName(path), sizing).end == TreeWalker::End::Cancelled) {
         ++sizing.result.unreadable;
         sizing.result.complete = false;
     }

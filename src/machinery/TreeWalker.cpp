@@ -106,10 +106,31 @@ TreeWalker::~TreeWalker()
 TreeWalker::Result TreeWalker::walk(const QByteArray& root, TreeVisitor& visitor)
 {
     m_root = root;
+    m_baseName = root.toStdString();
     if (examineRoot(visitor)) {
         while (!m_levels.empty() && m_end == End::Finished)
             walkNext(visitor);
     }
+    return finish();
+}
+
+TreeWalker::Result TreeWalker::walkBelow(const TreeFolder& folder, TreeVisitor& visitor)
+{
+    m_root = folder.parentPath;
+    m_device = folder.device;
+    m_baseDescriptor = folder.parentDescriptor;
+    m_baseName = folder.name;
+    m_depthOffset = folder.depth;
+    m_basePath = withoutTrailingSlashes(folder.parentPath);
+    m_path = m_basePath;
+    descend(visitor, TreeEntry(*this, folder.name, folder.status, folder.depth, folder.parentDescriptor));
+    while (!m_levels.empty() && m_end == End::Finished)
+        walkNext(visitor);
+    return finish();
+}
+
+TreeWalker::Result TreeWalker::finish()
+{
     if (m_options.progress && m_entries % progressBatch != 0)
         m_options.progress->addEntries(m_entries % progressBatch);
     return {m_end, m_entries};
@@ -145,6 +166,10 @@ void TreeWalker::walkNext(TreeVisitor& visitor)
         leave(visitor);
         return;
     }
+    if (top.next == 0 && isCancelled()) {  // before each folder, so that a stop is prompt in small trees too
+        m_end = End::Cancelled;
+        return;
+    }
     const std::string_view name(top.names.data() + top.next);
     top.next += name.size() + 1;
     if (!top.listing && !ensureOpen(m_levels.size() - 1)) {
@@ -158,7 +183,7 @@ void TreeWalker::walkNext(TreeVisitor& visitor)
 void TreeWalker::handleEntry(TreeVisitor& visitor, const Level& folder, std::string_view name)
 {
     const int descriptor = folder.descriptor();
-    const int depth = static_cast<int>(m_levels.size());
+    const int depth = m_depthOffset + static_cast<int>(m_levels.size());
     if (!countEntry()) {
         m_end = End::Cancelled;
         return;
@@ -199,7 +224,7 @@ void TreeWalker::descend(TreeVisitor& visitor, const TreeEntry& entry)
     level->name = std::string(entry.name());
     level->status = entry.status();
     const bool isRoot = entry.depth() == 0;
-    if (!openLevel(*level, isRoot ? AT_FDCWD : m_levels.back()->descriptor())) {
+    if (!openLevel(*level, m_levels.size())) {
         const int error = errno;
         visitor.problem(entry, TreeProblem::CannotOpen, error);
         visitor.leaveFolder(entry);
@@ -216,12 +241,14 @@ void TreeWalker::descend(TreeVisitor& visitor, const TreeEntry& entry)
     keepUnderLimit();
 }
 
-// Opens the folder relative to its parent and checks it is the folder that was examined: a
-// folder swapped for a link fails on O_NOFOLLOW, one swapped for another folder on its inode.
-bool TreeWalker::openLevel(Level& level, int parent)
+// Opens the folder at `index` relative to its parent (the first level as the walk began) and
+// checks it is the folder that was examined: a folder swapped for a link fails on O_NOFOLLOW,
+// one swapped for another folder on its inode.
+bool TreeWalker::openLevel(Level& level, size_t index)
 {
-    const bool isRoot = parent == AT_FDCWD;
-    const int descriptor = ::openat(parent, isRoot ? m_root.constData() : level.name.c_str(), folderFlags);
+    const int parent = index == 0 ? m_baseDescriptor : m_levels[index - 1]->descriptor();
+    const char* name = index == 0 ? m_baseName.c_str() : level.name.c_str();
+    const int descriptor = ::openat(parent, name, folderFlags);
     if (descriptor < 0)
         return false;
     struct stat opened {};
@@ -261,10 +288,9 @@ void TreeWalker::leave(TreeVisitor& visitor)
         ::closedir(level->listing);
         --m_open;
     }
-    if (!m_levels.empty())
-        m_path.resize(m_levels.back()->pathLength);
-    const int parent = m_levels.empty() ? AT_FDCWD : m_levels.back()->descriptor();
-    const TreeEntry entry(*this, level->name, level->status, static_cast<int>(m_levels.size()), parent);
+    m_path.resize(m_levels.empty() ? m_basePath.size() : m_levels.back()->pathLength);
+    const int parent = m_levels.empty() ? m_baseDescriptor : m_levels.back()->descriptor();
+    const TreeEntry entry(*this, level->name, level->status, m_depthOffset + static_cast<int>(m_levels.size()), parent);
     if (level->reopenError != 0)
         visitor.problem(entry, TreeProblem::CannotOpen, level->reopenError);
     visitor.leaveFolder(entry);
@@ -279,7 +305,7 @@ bool TreeWalker::ensureOpen(size_t index)
         return true;
     if (index > 0 && !ensureOpen(index - 1))
         return false;
-    if (!openLevel(level, index == 0 ? AT_FDCWD : m_levels[index - 1]->descriptor()))
+    if (!openLevel(level, index))
         return false;
     ++m_open;
     keepUnderLimit();
@@ -303,9 +329,8 @@ bool TreeWalker::isRepeatedLink(const struct stat& status)
 {
     if (status.st_nlink < 2)
         return false;
-    const qsizetype before = m_linked.size();
-    m_linked.insert(FileKey::of(status));
-    return m_linked.size() == before;
+    LinkRegister& links = m_options.links ? *m_options.links : m_ownLinks;
+    return !links.firstSighting(status);
 }
 
 // Counts one entry; at every full batch publishes it and answers whether to go on.
@@ -315,5 +340,10 @@ bool TreeWalker::countEntry()
         return true;
     if (m_options.progress)
         m_options.progress->addEntries(progressBatch);
-    return !(m_options.cancellation && m_options.cancellation->isCancelled());
+    return !isCancelled();
+}
+
+bool TreeWalker::isCancelled() const
+{
+    return m_options.cancellation && m_options.cancellation->isCancelled();
 }

@@ -8,8 +8,10 @@
 #include <QString>
 
 #include <memory>
+#include <mutex>
 #include <string>
 #include <string_view>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <vector>
 
@@ -57,6 +59,34 @@ enum class TreeProblem {
     CannotList,     // a folder whose listing failed part way (what was listed is still walked)
 };
 
+// The hard-linked files seen so far, shared by the walkers that measure one tree together.
+// Thread-safe.
+class LinkRegister {
+public:
+    // Whether this is the first time the file (by device and inode) is seen.
+    bool firstSighting(const struct stat& status)
+    {
+        const std::lock_guard lock(m_mutex);
+        const qsizetype before = m_seen.size();
+        m_seen.insert(FileKey::of(status));
+        return m_seen.size() != before;
+    }
+
+private:
+    std::mutex m_mutex;
+    QSet<FileKey> m_seen;
+};
+
+// A folder that one walk examined and entered, handed to another walk to go on below it.
+struct TreeFolder {
+    int parentDescriptor = -1;  // the open folder holding it; must stay open during the walk
+    QByteArray parentPath;      // that folder's path
+    std::string name;
+    struct stat status {};
+    int depth = 0;              // its depth in the whole walk
+    dev_t device = 0;           // the volume the whole walk stays on
+};
+
 // The callbacks of one walk. Every one runs on the walking thread.
 class TreeVisitor {
 public:
@@ -86,8 +116,8 @@ public:
 // - keeps at most `descriptorLimit` folders open: past that depth the shallowest open folder is
 //   closed and reopened later, name by name from its nearest open ancestor, checked again;
 // - reports hard-linked non-folders once per walk when `hardLinksOnce` is set (by FileKey);
-// - counts every examined entry, adds them to `progress` in batches of 4096 and polls
-//   `cancellation` at the same rhythm.
+// - counts every examined entry and adds them to `progress` in batches of 4096; polls
+//   `cancellation` at the same rhythm and before reading each folder.
 // Sizes are the users' business: `status().st_blocks * 512` is what a file takes on disk.
 //
 // How the users fit: FileSizer sums in enterFolder and visitItem with `hardLinksOnce`; a
@@ -104,6 +134,7 @@ public:
         ScanProgress* progress = nullptr;
         const CancellationToken* cancellation = nullptr;
         bool hardLinksOnce = false;
+        LinkRegister* links = nullptr;  // shared when several walkers measure one tree; else own
         int descriptorLimit = 24;  // several walks run side by side; deeper trees reopen
     };
 
@@ -121,6 +152,10 @@ public:
     // Walks `root` (an entry of any kind; a link is reported as a link). A root that cannot be
     // examined gives problem(CannotExamine) and nothing else. Call once per walker.
     Result walk(const QByteArray& root, TreeVisitor& visitor);
+    // Walks what lies below `folder`, whose enterFolder has already been given by the walk that
+    // found it; its leaveFolder comes from this walk, last. Entries keep their depths and paths
+    // in the whole walk. The folder itself is not counted again. Call once per walker.
+    Result walkBelow(const TreeFolder& folder, TreeVisitor& visitor);
 
     static constexpr qint64 progressBatch = 4096;
 
@@ -129,24 +164,30 @@ private:
     struct Level;
 
     bool examineRoot(TreeVisitor& visitor);
+    Result finish();
     void walkNext(TreeVisitor& visitor);
     void handleEntry(TreeVisitor& visitor, const Level& folder, std::string_view name);
     void handleFolder(TreeVisitor& visitor, const TreeEntry& entry);
     void descend(TreeVisitor& visitor, const TreeEntry& entry);
-    bool openLevel(Level& level, int parent);
+    bool openLevel(Level& level, size_t index);
     static void listLevel(Level& level, const TreeEntry& entry, TreeVisitor& visitor);
     void leave(TreeVisitor& visitor);
     bool ensureOpen(size_t index);
     void keepUnderLimit();
     bool isRepeatedLink(const struct stat& status);
     bool countEntry();
+    bool isCancelled() const;
 
     Options m_options;
     QByteArray m_root;
+    int m_baseDescriptor = AT_FDCWD;  // what the first level is opened relative to
+    std::string m_baseName;           // and by which name (the root's path for a whole walk)
+    int m_depthOffset = 0;            // the first level's depth in the whole walk
+    std::string m_basePath;           // the path holding the first level ("" for "/" or a root)
     std::string m_path;  // the current folder's path; entries add "/" and their name on demand
     std::vector<std::unique_ptr<Level>> m_levels;  // by pointer: entries view names in them
     dev_t m_device = 0;
-    QSet<FileKey> m_linked;
+    LinkRegister m_ownLinks;
     qint64 m_entries = 0;
     int m_open = 0;
     End m_end = End::Finished;

@@ -1,6 +1,6 @@
 #include "scan/Walk.h"
 
-#include "machinery/TreeWalker.h"
+#include "machinery/SplitWalk.h"
 #include "platform/Platform.h"
 #include "scan/KnownLocations.h"
 #include "scan/WalkNames.h"
@@ -80,13 +80,40 @@ DuplicateFinder::File duplicateCandidate(const QString& path, const struct stat&
 
 }  // namespace
 
-// One traversal of one root. Paths are built for folders (the rules compare them) and for the
-// few files big enough to end up in a result; they become QStrings only for results.
-class Walk::Pass : public TreeVisitor {
-public:
-    Pass(Walk& walk, const QString& root);
-    void run();
+// What every piece of one root's traversal decides by: fixed for the whole walk.
+struct WalkSettings {
+    WalkSettings(const ScanContext& context, const QString& root);
 
+    const ScanContext& context;
+    QByteArray root;
+    size_t relativeStart;  // where a path below the root starts its first component
+    QByteArray home;
+    QByteArray goPackages;
+    QSet<QByteArray> safeFolders;
+};
+
+WalkSettings::WalkSettings(const ScanContext& context, const QString& root)
+    : context(context),
+      root(QFile::encodeName(root)),
+      relativeStart(this->root.endsWith('/') ? this->root.size() : this->root.size() + 1),
+      home(QFile::encodeName(context.home)),
+      goPackages(home + "/go/pkg")
+{
+    for (const QString& folder : context.safeFolders)
+        safeFolders.insert(QFile::encodeName(folder));
+}
+
+// One traversal of one root, or one piece of it. Paths are built for folders (the rules compare
+// them) and for the few files big enough to end up in a result; they become QStrings only for
+// results.
+class Walk::Pass : public SplittableVisitor {
+public:
+    Pass(const WalkSettings& settings, QStringList repositories);
+
+    Findings& found() { return m_found; }
+
+    std::unique_ptr<SplittableVisitor> fork() const override;
+    void join(SplittableVisitor& later) override;
     Verdict enterFolder(const TreeEntry& entry) override;
     Verdict visitItem(const TreeEntry& entry) override;
     void problem(const TreeEntry& entry, TreeProblem kind, int error) override;
@@ -100,32 +127,24 @@ private:
     void visitFile(const TreeEntry& entry);
     bool liesInHiddenFolder(std::string_view path) const;
 
-    Walk& m_walk;
-    QByteArray m_root;
-    size_t m_relativeStart;  // where a path below the root starts its first component
-    QByteArray m_home;
-    QByteArray m_goPackages;
-    QSet<QByteArray> m_safeFolders;
+    const WalkSettings& m_settings;
+    Findings m_found;
     std::string m_probe;  // reused buffer for the ".git" test
 };
 
-Walk::Pass::Pass(Walk& walk, const QString& root)
-    : m_walk(walk),
-      m_root(QFile::encodeName(root)),
-      m_relativeStart(m_root.endsWith('/') ? m_root.size() : m_root.size() + 1),
-      m_home(QFile::encodeName(walk.m_context.home)),
-      m_goPackages(m_home + "/go/pkg")
+Walk::Pass::Pass(const WalkSettings& settings, QStringList repositories) : m_settings(settings)
 {
-    for (const QString& folder : walk.m_context.safeFolders)
-        m_safeFolders.insert(QFile::encodeName(folder));
+    m_found.repositories = std::move(repositories);
 }
 
-void Walk::Pass::run()
+std::unique_ptr<SplittableVisitor> Walk::Pass::fork() const
 {
-    TreeWalker::Options options;
-    options.progress = m_walk.m_context.progress.get();
-    options.cancellation = &m_walk.m_context.cancellation;
-    TreeWalker(options).walk(m_root, *this);
+    return std::make_unique<Pass>(m_settings, m_found.repositories);
+}
+
+void Walk::Pass::join(SplittableVisitor& later)
+{
+    m_found.append(std::move(static_cast<Pass&>(later).m_found));
 }
 
 TreeVisitor::Verdict Walk::Pass::enterFolder(const TreeEntry& entry)
@@ -133,7 +152,7 @@ TreeVisitor::Verdict Walk::Pass::enterFolder(const TreeEntry& entry)
     if (entry.depth() == 0)
         return Verdict::Enter;
     if (!entry.nameDecodes()) {
-        ++m_walk.m_undecodable;  // nothing in it could be shown or removed by its path
+        ++m_found.undecodable;  // nothing in it could be shown or removed by its path
         return Verdict::Skip;
     }
     return visitDirectory(entry);
@@ -150,7 +169,7 @@ TreeVisitor::Verdict Walk::Pass::visitItem(const TreeEntry& entry)
 void Walk::Pass::problem(const TreeEntry&, TreeProblem kind, int)
 {
     if (kind != TreeProblem::CannotExamine)
-        ++m_walk.m_unreadable;
+        ++m_found.unreadable;
 }
 
 TreeVisitor::Verdict Walk::Pass::visitDirectory(const TreeEntry& entry)
@@ -177,10 +196,10 @@ void Walk::Pass::noteRepository(const TreeEntry& entry, std::string_view path)
     if (::fstatat(entry.folderDescriptor(), m_probe.c_str(), &info, AT_SYMLINK_NOFOLLOW) != 0)
         return;
     const QString folder = decoded(path);
-    if (!m_walk.insideRepository(folder))
-        m_walk.m_repositories.append(folder);
+    if (!m_found.insideRepository(folder))
+        m_found.repositories.append(folder);
     if (S_ISDIR(info.st_mode))
-        m_walk.m_mainRepositories.append(folder);
+        m_found.mainRepositories.append(folder);
 }
 
 bool Walk::Pass::isSkippedInPlace(std::string_view path, std::string_view name) const
@@ -188,9 +207,9 @@ bool Walk::Pass::isSkippedInPlace(std::string_view path, std::string_view name) 
     if (WalkNames::contains(WalkNames::neverEntered, name) || isPackage(name))
         return true;
     const QByteArray pathBytes = QByteArray::fromRawData(path.data(), static_cast<qsizetype>(path.size()));
-    if (m_safeFolders.contains(pathBytes) || pathBytes == m_goPackages)
+    if (m_settings.safeFolders.contains(pathBytes) || pathBytes == m_settings.goPackages)
         return true;
-    if (parentOf(path) != std::string_view(m_home.constData(), m_home.size()))
+    if (parentOf(path) != std::string_view(m_settings.home.constData(), m_settings.home.size()))
         return false;
     return name.front() == '.' || WalkNames::contains(WalkNames::skippedHomeFolders, name);
 }
@@ -206,17 +225,14 @@ bool Walk::Pass::skipsBuildFolder(std::string_view path, std::string_view name)
     const QString project = decoded(parentOf(path));
     if (!Walk::isBuildFolder(folderName, folder, project))
         return name == "node_modules";
-    if (!m_walk.m_foundPaths.contains(folder)) {
-        m_walk.m_foundPaths.insert(folder);
-        m_walk.m_artifacts.append({folder, folderName, project});
-    }
+    m_found.artifacts.append({folder, folderName, project});
     return true;
 }
 
 void Walk::Pass::showProgress(std::string_view path) const
 {
-    if (m_walk.m_context.progress)
-        m_walk.m_context.progress->setCurrentFolder(PathRules::withTilde(decoded(path), m_walk.m_context.home));
+    if (m_settings.context.progress)
+        m_settings.context.progress->setCurrentFolder(PathRules::withTilde(decoded(path), m_settings.context.home));
 }
 
 void Walk::Pass::visitFile(const TreeEntry& entry)
@@ -228,24 +244,24 @@ void Walk::Pass::visitFile(const TreeEntry& entry)
     if (liesInHiddenFolder(std::string_view(pathBytes.constData(), static_cast<size_t>(pathBytes.size()))))
         return;
     if (!entry.nameDecodes()) {
-        ++m_walk.m_undecodable;
+        ++m_found.undecodable;
         return;
     }
     const QString file = QFile::decodeName(pathBytes);
-    if (KnownLocations::isInSyncedHomeFolder(file, m_walk.m_context.home) || Platform::isDataless(info))
+    if (KnownLocations::isInSyncedHomeFolder(file, m_settings.context.home) || Platform::isDataless(info))
         return;
-    if (!m_walk.insideRepository(file))
-        m_walk.m_duplicateCandidates.append(duplicateCandidate(file, info));
+    if (!m_found.insideRepository(file))
+        m_found.duplicateCandidates.append(duplicateCandidate(file, info));
     if (info.st_size >= Thresholds::largeFileSize && !isInstaller(entry.name()))
-        m_walk.m_largeFiles.append({file, static_cast<qint64>(info.st_blocks) * 512});
+        m_found.largeFiles.append({file, static_cast<qint64>(info.st_blocks) * 512});
 }
 
 // Whether a folder between the root and the file begins with "."; the file's own name may.
 bool Walk::Pass::liesInHiddenFolder(std::string_view path) const
 {
-    if (path.size() <= m_relativeStart)
+    if (path.size() <= m_settings.relativeStart)
         return false;
-    const std::string_view relative = path.substr(m_relativeStart);
+    const std::string_view relative = path.substr(m_settings.relativeStart);
     const size_t lastSlash = relative.rfind('/');
     if (lastSlash == std::string_view::npos)
         return false;
@@ -258,7 +274,13 @@ Walk::Walk(ScanContext context) : m_context(std::move(context)) {}
 void Walk::run(const QString& root)
 {
     adoptRepositoryAbove(root);
-    Pass(*this, root).run();
+    const WalkSettings settings(m_context, root);
+    Pass pass(settings, m_found.repositories);
+    SplitWalk::Options options;
+    options.walker.progress = m_context.progress.get();
+    options.walker.cancellation = &m_context.cancellation;
+    SplitWalk(options).walk(settings.root, pass);
+    m_found.append(std::move(pass.found()));
 }
 
 // A scan folder inside a working copy: everything under it counts as inside a repository.
@@ -270,20 +292,36 @@ void Walk::adoptRepositoryAbove(const QString& root)
         const auto info = FileStatus::of(folder + QLatin1String("/.git"));
         if (!info)
             continue;
-        m_repositories = QStringList{root};
+        m_found.repositories = QStringList{root};
         if (S_ISDIR(info->st_mode))
-            m_mainRepositories.append(folder);
+            m_found.mainRepositories.append(folder);
         return;
     }
 }
 
-bool Walk::insideRepository(const QString& path)
+bool Walk::Findings::insideRepository(const QString& path)
 {
-    while (!m_repositories.isEmpty()) {
-        const QString& innermost = m_repositories.constLast();
+    while (!repositories.isEmpty()) {
+        const QString& innermost = repositories.constLast();
         if (path.size() > innermost.size() && path.startsWith(innermost) && path.at(innermost.size()) == QLatin1Char('/'))
             return true;
-        m_repositories.removeLast();
+        repositories.removeLast();
     }
     return false;
+}
+
+void Walk::Findings::append(Findings&& later)
+{
+    for (Artifact& artifact : later.artifacts) {
+        if (!artifactPaths.contains(artifact.path)) {
+            artifactPaths.insert(artifact.path);
+            artifacts.append(std::move(artifact));
+        }
+    }
+    largeFiles.append(std::move(later.largeFiles));
+    duplicateCandidates.append(std::move(later.duplicateCandidates));
+    unreadable += later.unreadable;
+    undecodable += later.undecodable;
+    repositories = std::move(later.repositories);  // the later piece's position is the walk's
+    mainRepositories.append(std::move(later.mainRepositories));
 }

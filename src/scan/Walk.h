@@ -15,14 +15,12 @@
 // followed, no other volume is entered, and build folders, packages, Safe List folders and
 // tool folders directly in the home folder are never entered.
 //
-// Thread-safety: a Walk belongs to the one worker thread that runs it. The only shared object
-// it touches is the context's ScanProgress, which guards itself. The static tests are
+// Thread-safety: a Walk belongs to the thread that runs it; a big tree is walked on two threads
+// (SplitWalk) and the pieces' findings are put back in walk order before run() returns. The
+// only shared object is the context's ScanProgress, which guards itself. The static tests are
 // thread-safe.
 class Walk {
 public:
-    // What the traversal does after an entry.
-    enum class Action { Continue, Skip, Stop };
-
     explicit Walk(ScanContext context);
 
     // Walks one scan folder and adds what it finds to the results; call once per distinct
@@ -30,23 +28,16 @@ public:
     // the context's cancellation fires. A root that cannot be opened adds nothing.
     void run(const QString& root);
 
-    [[nodiscard]] const QList<Artifact>& artifacts() const { return m_artifacts; }
-    [[nodiscard]] const QList<LargeFile>& largeFiles() const { return m_largeFiles; }
-    [[nodiscard]] const QList<DuplicateFinder::File>& duplicateCandidates() const { return m_duplicateCandidates; }
+    [[nodiscard]] const QList<Artifact>& artifacts() const { return m_found.artifacts; }
+    [[nodiscard]] const QList<LargeFile>& largeFiles() const { return m_found.largeFiles; }
+    [[nodiscard]] const QList<DuplicateFinder::File>& duplicateCandidates() const { return m_found.duplicateCandidates; }
     // Folders and entries that could not be read.
-    [[nodiscard]] qint64 unreadable() const { return m_unreadable; }
+    [[nodiscard]] qint64 unreadable() const { return m_found.unreadable; }
     // Folders and big files left out because their names do not survive decoding to text:
     // such an entry could be neither shown nor found again by its path.
-    [[nodiscard]] qint64 undecodable() const { return m_undecodable; }
-    // During a walk, the repositories enclosing the current position; afterwards whatever
-    // was still on that stack. mainRepositories() is the complete list.
-    [[nodiscard]] const QStringList& repositories() const { return m_repositories; }
+    [[nodiscard]] qint64 undecodable() const { return m_found.undecodable; }
     // Every folder found whose ".git" is a directory (not an extra worktree's ".git" file).
-    [[nodiscard]] const QStringList& mainRepositories() const { return m_mainRepositories; }
-
-    // Whether `path` lies inside a repository on the stack. Pops repositories that no longer
-    // enclose the position, which is right only because the traversal is depth first.
-    [[nodiscard]] bool insideRepository(const QString& path);
+    [[nodiscard]] const QStringList& mainRepositories() const { return m_found.mainRepositories; }
 
     // Whether the folder `path`, named `name` and lying in `parent`, is a build folder that
     // its project's marker file proves (or, for "build", Xcode output inside it).
@@ -59,15 +50,27 @@ public:
 private:
     class Pass;
 
+    // What a walk, or one piece of it, has found, in walk order.
+    struct Findings {
+        QList<Artifact> artifacts;
+        QList<LargeFile> largeFiles;
+        QList<DuplicateFinder::File> duplicateCandidates;
+        qint64 unreadable = 0;
+        qint64 undecodable = 0;
+        // The repositories enclosing the current position, innermost last; entries that no
+        // longer enclose it are popped when next asked, which is right because the walk is
+        // depth first.
+        QStringList repositories;
+        QStringList mainRepositories;
+        QSet<QString> artifactPaths;  // filled by append only
+
+        [[nodiscard]] bool insideRepository(const QString& path);
+        // Adds what a later piece of the walk found; a build folder already found stays once.
+        void append(Findings&& later);
+    };
+
     void adoptRepositoryAbove(const QString& root);
 
     ScanContext m_context;
-    QList<Artifact> m_artifacts;
-    QList<LargeFile> m_largeFiles;
-    QList<DuplicateFinder::File> m_duplicateCandidates;
-    qint64 m_unreadable = 0;
-    qint64 m_undecodable = 0;
-    QStringList m_repositories;
-    QStringList m_mainRepositories;
-    QSet<QString> m_foundPaths;
+    Findings m_found;
 };

@@ -3,9 +3,12 @@
 #include "support/TempTree.h"
 
 #include <QFile>
+#include <QProcess>
 
 #include <gtest/gtest.h>
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -117,7 +120,7 @@ TEST(FileSizer, UnreadableSubfolderLeavesMeasurementCompleteButUnreadableTopDoes
     EXPECT_EQ(*results, "1 complete 1|1 incomplete 0");
 }
 
-TEST(FileSizer, PublishesEveryEntryAndStopsAtTheNextBatchOnceCancelled)
+TEST(FileSizer, PublishesEveryEntryAndReadsNothingOnceCancelled)
 {
     TempTree tree;
     for (int i = 0; i < 5000; ++i)
@@ -131,6 +134,33 @@ TEST(FileSizer, PublishesEveryEntryAndStopsAtTheNextBatchOnceCancelled)
     cancellation.cancel();
     const FileSizer::Measurement stopped = FileSizer::measure(tree.path("top"), &progress, &cancellation);
     EXPECT_FALSE(stopped.complete);
-    EXPECT_LT(stopped.files, 5000);
-    EXPECT_EQ(progress.snapshot().entries, 4096);
+    EXPECT_EQ(stopped.files, 0) << "no folder is read once cancelled";
+    EXPECT_LE(progress.snapshot().entries, 1);
+}
+
+// Big enough to be measured on two threads, with hard links whose copies land in different
+// threads' subtrees: the sum must still be du's, to the byte.
+TEST(FileSizer, BigTreeMeasuredInPiecesMatchesDu)
+{
+    TempTree tree;
+    tree.file("top/d00/linked", 40'000);
+    for (int folder = 0; folder < 25; ++folder) {
+        const QString name = QStringLiteral("top/d%1").arg(folder, 2, 10, QLatin1Char('0'));
+        const QByteArray path = QFile::encodeName(tree.dir(name + "/inner"));
+        for (int i = 0; i < 1000; ++i)  // by hand: QFile is ten times slower for empty files
+            ::close(::open((path + "/f" + QByteArray::number(i)).constData(), O_WRONLY | O_CREAT, 0644));
+        tree.file(name + "/inner/data", folder * 5'000);
+        if (folder > 0)
+            tree.hardlink(name + "/inner/copy", "top/d00/linked");
+    }
+
+    const FileSizer::Measurement m = FileSizer::measure(tree.path("top"));
+
+    QProcess du;
+    du.start(QStringLiteral("du"), {QStringLiteral("-s"), QStringLiteral("-B1"), tree.path("top")});
+    ASSERT_TRUE(du.waitForFinished(60'000));
+    EXPECT_EQ(m.bytes, du.readAllStandardOutput().split('\t').first().toLongLong());
+    EXPECT_EQ(m.files, 25 * 1001 + 1) << "the linked file once";
+    EXPECT_EQ(m.logicalBytes, 40'000 + 5'000 * (24 * 25 / 2));
+    EXPECT_TRUE(m.complete);
 }

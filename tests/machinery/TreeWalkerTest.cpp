@@ -1,6 +1,7 @@
 #include "machinery/ScanProgress.h"
 #include "machinery/TreeWalker.h"
 #include "support/TempTree.h"
+#include "support/WalkRecorder.h"
 
 #include <QDir>
 #include <QFile>
@@ -8,9 +9,7 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <fcntl.h>
-#include <functional>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -32,42 +31,7 @@ int openDescriptors()
     return static_cast<int>(QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::Files | QDir::System).size());
 }
 
-// Writes every callback down as one line, paths relative to the root, so a test compares the
-// walk's whole story at once.
-class Recorder : public TreeVisitor {
-public:
-    explicit Recorder(QByteArray root) : m_root(std::move(root)) {}
-
-    std::function<Verdict(const TreeEntry&)> onEnter;
-    QByteArrayList lines;
-    int mostDescriptors = 0;
-
-    Verdict enterFolder(const TreeEntry& entry) override
-    {
-        record("enter", entry);
-        return onEnter ? onEnter(entry) : Verdict::Enter;
-    }
-    void leaveFolder(const TreeEntry& entry) override { record("leave", entry); }
-    Verdict visitItem(const TreeEntry& entry) override
-    {
-        record(S_ISLNK(entry.status().st_mode) ? "link" : "item", entry);
-        return Verdict::Enter;
-    }
-    void problem(const TreeEntry& entry, TreeProblem kind, int error) override
-    {
-        const char* names[] = {"cannot-examine", "cannot-open", "cannot-list"};
-        record(QByteArray(names[static_cast<int>(kind)]) + '(' + QByteArray(std::strerror(error)) + ')', entry);
-    }
-
-private:
-    void record(const QByteArray& what, const TreeEntry& entry)
-    {
-        const QByteArray path = entry.pathBytes();
-        lines.append(what + ' ' + (path == m_root ? QByteArray(".") : path.mid(m_root.size() + 1)));
-    }
-
-    QByteArray m_root;
-};
+using Recorder = WalkRecorder;
 
 }  // namespace
 
@@ -310,13 +274,23 @@ TEST(TreeWalker, PublishesProgressInBatchesAndStopsOnCancellationOrRequest)
     EXPECT_EQ(TreeWalker(options).walk(bytes(tree.path("top")), nothing).entries, 5011);
     EXPECT_EQ(progress.snapshot().entries, 5011);
 
+    // Cancelled while the walk is in one folder: that folder is finished up to the next batch,
+    // and no further folder is read.
     progress.reset();
     CancellationToken cancellation;
-    cancellation.cancel();
     options.cancellation = &cancellation;
-    const TreeWalker::Result cancelled = TreeWalker(options).walk(bytes(tree.path("top")), nothing);
+    WalkRecorder recorder(bytes(tree.path("top")));
+    recorder.onEnter = [&](const TreeEntry& entry) {
+        if (entry.depth() == 1 && recorder.lines.size() > 500)
+            cancellation.cancel();
+        return TreeVisitor::Verdict::Enter;
+    };
+    const TreeWalker::Result cancelled = TreeWalker(options).walk(bytes(tree.path("top")), recorder);
     EXPECT_EQ(cancelled.end, TreeWalker::End::Cancelled);
-    EXPECT_EQ(progress.snapshot().entries, 4096) << "the batch that saw the cancellation is still published";
+    ASSERT_TRUE(recorder.lines.last().startsWith("enter d")) << "the folder entered as the stop came is not read";
+    EXPECT_EQ(std::count_if(recorder.lines.begin(), recorder.lines.end(), [](const QByteArray& line) { return line.startsWith("item "); }),
+              500) << "the one folder read before";
+    EXPECT_EQ(progress.snapshot().entries, cancelled.entries);
 
     struct StopAtThird : TreeVisitor {
         int items = 0;

@@ -1,4 +1,8 @@
 #include "WalkFixture.h"
+#include "support/WalkRecorder.h"
+
+#include <fcntl.h>
+#include <unistd.h>
 
 using WalkRepositories = WalkFixture;
 
@@ -49,4 +53,60 @@ TEST_F(WalkRepositories, ClimbStopsAtTheHomeFolder)
     const Walk walk = walked({"home/Projects"});
     EXPECT_EQ(candidates(walk), QStringList({"home/Projects/big"})) << "a home kept in git does not hide every file";
     EXPECT_TRUE(walk.mainRepositories().isEmpty());
+}
+
+// A tree big enough to be walked on two threads: the pieces' findings come back in the order
+// one walk meets them, and a repository found in one piece still hides its files there without
+// hiding a later sibling's.
+TEST_F(WalkRepositories, BigTreeWalkedInPiecesKeepsWalkOrderAndRepositoryBounds)
+{
+    QStringList expectedCandidates;
+    for (int project = 0; project < 30; ++project) {
+        const QString base = QStringLiteral("scan/p%1").arg(project, 2, 10, QLatin1Char('0'));
+        const bool repository = project % 3 == 0;
+        const bool innerRepository = project % 5 == 0;
+        if (repository)
+            tree.dir(base + "/.git");
+        if (innerRepository)
+            tree.dir(base + "/lib/inner/.git");
+        tree.file(base + "/package.json", QByteArray("{}"));
+        tree.file(base + "/node_modules/left/index.js");
+        for (const QString& big : {base + "/big.bin", base + "/lib/inner/big.bin", base + "/zz/big.bin"}) {
+            tree.sparseFile(big, 2'000'000);
+            if (!repository && !(innerRepository && big.contains("inner")))
+                expectedCandidates.append(big);
+        }
+        const QByteArray filler = QFile::encodeName(tree.dir(base + "/src"));
+        for (int i = 0; i < 700; ++i)  // by hand: QFile is ten times slower for empty files
+            ::close(::open((filler + "/f" + QByteArray::number(i)).constData(), O_WRONLY | O_CREAT, 0644));
+    }
+    expectedCandidates.sort();
+
+    // The order one walk meets things in, from a plain walk of the same tree.
+    WalkRecorder order(QFile::encodeName(tree.root()));
+    TreeWalker({}).walk(QFile::encodeName(tree.path("scan")), order);
+    const auto position = [&](const QString& path) {
+        const qsizetype item = order.lines.indexOf("item " + QFile::encodeName(path));
+        return item >= 0 ? item : order.lines.indexOf("enter " + QFile::encodeName(path));
+    };
+    const auto inWalkOrder = [&](QStringList paths) {
+        std::sort(paths.begin(), paths.end(), [&](const QString& a, const QString& b) { return position(a) < position(b); });
+        return paths;
+    };
+
+    const Walk walk = walked({"scan"});
+
+    QStringList found;
+    for (const DuplicateFinder::File& file : walk.duplicateCandidates())
+        found.append(relative(file.path));
+    QStringList sorted = found;
+    sorted.sort();
+    EXPECT_EQ(sorted, expectedCandidates);
+    EXPECT_EQ(found, inWalkOrder(expectedCandidates));
+    QStringList builds;
+    for (const Artifact& artifact : walk.artifacts())
+        builds.append(relative(artifact.path));
+    EXPECT_EQ(builds.size(), 30);
+    EXPECT_EQ(builds, inWalkOrder(builds));
+    EXPECT_EQ(walk.mainRepositories().size(), 10 + 6);
 }

@@ -183,12 +183,12 @@ TEST_F(WalkProgress, CountsEveryEntryAndShowsShallowFoldersFromHome)
     EXPECT_EQ(context.progress->snapshot().currentFolder, tree.path("elsewhere/x"));
 }
 
-TEST_F(WalkProgress, CancellationStopsAtTheNextBatchKeepingWhatWasFound)
+TEST_F(WalkProgress, CancellationStopsBeforeTheNextFolder)
 {
     for (int i = 0; i < 5000; ++i)
         tree.sparseFile(QStringLiteral("scan/f%1").arg(i), 1'000'000);
     context.cancellation.cancel();
     const Walk walk = walked({"scan"});
-    EXPECT_EQ(context.progress->snapshot().entries, 4096);
-    EXPECT_EQ(walk.duplicateCandidates().size(), 4096 - 2) << "the files before the entry that stopped the walk";
+    EXPECT_LE(context.progress->snapshot().entries, 1);
+    EXPECT_TRUE(walk.duplicateCandidates().isEmpty());
 }

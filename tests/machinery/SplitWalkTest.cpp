@@ -1,0 +1,180 @@
+#include "machinery/SplitWalk.h"
+#include "support/TempTree.h"
+#include "support/WalkRecorder.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <chrono>
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <mutex>
+#include <set>
+#include <thread>
+#include <unistd.h>
+
+namespace {
+
+QByteArray bytes(const QString& path)
+{
+    return QFile::encodeName(path);
+}
+
+// Options that split even a small tree, so that tests see every piece boundary.
+SplitWalk::Options splitting()
+{
+    SplitWalk::Options options;
+    options.splitAfter = 0;
+    options.subtrees = 6;
+    return options;
+}
+
+// Thread ids seen by the callbacks of every piece.
+struct Threads {
+    std::mutex mutex;
+    std::set<std::thread::id> seen;
+    void note()
+    {
+        const std::lock_guard lock(mutex);
+        seen.insert(std::this_thread::get_id());
+    }
+};
+
+// A tree with files between folders at every level, an empty folder, a folder the visitor
+// skips, a link and a folder nested past the listed levels.
+void buildMixedTree(const TempTree& tree)
+{
+    tree.file("top/first");
+    for (const char* project : {"p1", "p2", "p3", "p4"}) {
+        const QString base = QStringLiteral("top/") + QLatin1String(project);
+        tree.file(base + "/readme");
+        tree.file(base + "/src/a/b/c/deep");
+        tree.file(base + "/src/main");
+        tree.file(base + "/skipped/never");
+        tree.dir(base + "/empty");
+    }
+    tree.file("top/middle");
+    tree.symlink("top/link", tree.path("top/p1"));
+    tree.file("top/q/r/s/t/bottom");
+}
+
+}  // namespace
+
+TEST(SplitWalk, JoinedPiecesTellTheSameStoryAsOneWalk)
+{
+    TempTree tree;
+    buildMixedTree(tree);
+    const QByteArray top = bytes(tree.path("top"));
+    Threads threads;
+    const auto onEnter = [&](const TreeEntry& entry) {
+        threads.note();
+        if (entry.depth() == 2)  // slow subtrees, so that the second thread surely takes some
+            std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        return entry.name() == "skipped" ? TreeVisitor::Verdict::Skip : TreeVisitor::Verdict::Enter;
+    };
+
+    WalkRecorder single(top);
+    single.onEnter = onEnter;
+    const TreeWalker::Result one = TreeWalker({}).walk(top, single);
+    threads.seen.clear();
+
+    WalkRecorder split(top);
+    split.onEnter = onEnter;
+    const TreeWalker::Result shared = SplitWalk(splitting()).walk(top, split);
+
+    EXPECT_EQ(split.lines, single.lines) << split.lines.join('\n').constData();
+    EXPECT_EQ(shared.entries, one.entries);
+    EXPECT_EQ(shared.end, TreeWalker::End::Finished);
+    EXPECT_EQ(threads.seen.size(), 2u) << "a split walk works on two threads";
+}
+
+TEST(SplitWalk, SmallTreesStayOnTheCallingThread)
+{
+    TempTree tree;
+    buildMixedTree(tree);
+    Threads threads;
+    WalkRecorder recorder(bytes(tree.path("top")));
+    recorder.onEnter = [&](const TreeEntry&) {
+        threads.note();
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        return TreeVisitor::Verdict::Enter;
+    };
+    SplitWalk::Options options = splitting();
+    options.splitAfter = 1000;
+    SplitWalk(options).walk(bytes(tree.path("top")), recorder);
+    EXPECT_EQ(threads.seen, std::set<std::thread::id>{std::this_thread::get_id()});
+}
+
+TEST(SplitWalk, HardLinksInDifferentPiecesAreReportedOnce)
+{
+    TempTree tree;
+    tree.file("top/a/x/original", 10);
+    for (const char* copy : {"top/b/x/second", "top/c/x/third", "top/d/fourth"})
+        tree.hardlink(copy, "top/a/x/original");
+    tree.file("top/c/x/single", 10);
+
+    WalkRecorder recorder(bytes(tree.path("top")));
+    SplitWalk::Options options = splitting();
+    options.walker.hardLinksOnce = true;
+    SplitWalk(options).walk(bytes(tree.path("top")), recorder);
+
+    const qsizetype items = std::count_if(recorder.lines.begin(), recorder.lines.end(),
+                                          [](const QByteArray& line) { return line.startsWith("item "); });
+    EXPECT_EQ(items, 2) << recorder.lines.join('\n').constData();
+}
+
+// A subtree waits in the queue after its folder was examined and entered; if the folder is
+// swapped for a link to elsewhere meanwhile, the thread that takes it must not follow.
+TEST(SplitWalk, FolderSwappedForALinkWhileQueuedIsNeverEntered)
+{
+    TempTree tree;
+    tree.file("top/victim/own");
+    tree.file("top/other/file");
+    tree.file("elsewhere/secret");
+    WalkRecorder recorder(bytes(tree.path("top")));
+    recorder.onEnter = [&](const TreeEntry& entry) {
+        if (entry.name() == "victim") {
+            QDir().rename(tree.path("top/victim"), tree.path("victim-moved"));
+            tree.symlink("top/victim", tree.path("elsewhere"));
+        }
+        return TreeVisitor::Verdict::Enter;
+    };
+
+    const TreeWalker::Result result = SplitWalk(splitting()).walk(bytes(tree.path("top")), recorder);
+
+    const QByteArray all = recorder.lines.join('\n');
+    EXPECT_FALSE(all.contains("secret")) << all.constData();
+    EXPECT_FALSE(all.contains("own")) << all.constData();
+    const qsizetype victim = recorder.lines.indexOf("enter victim");
+    ASSERT_GE(victim, 0) << all.constData();
+    EXPECT_TRUE(recorder.lines.value(victim + 1).startsWith("cannot-open(")) << all.constData();
+    EXPECT_EQ(recorder.lines.value(victim + 2), "leave victim");
+    EXPECT_TRUE(recorder.lines.contains("item other/file"));
+    EXPECT_EQ(result.end, TreeWalker::End::Finished);
+}
+
+TEST(SplitWalk, CancellationEndsEveryThreadAndReportsIt)
+{
+    TempTree tree;
+    for (int folder = 0; folder < 40; ++folder) {
+        const QByteArray path = bytes(tree.dir(QStringLiteral("top/d%1/inner").arg(folder)));
+        for (int i = 0; i < 50; ++i)
+            ::close(::open((path + "/f" + QByteArray::number(i)).constData(), O_WRONLY | O_CREAT, 0644));
+    }
+    CancellationToken cancellation;
+    SplitWalk::Options options = splitting();
+    options.walker.cancellation = &cancellation;
+    WalkRecorder recorder(bytes(tree.path("top")));
+    recorder.onEnter = [&](const TreeEntry& entry) {
+        if (entry.name() == "inner")
+            cancellation.cancel();
+        return TreeVisitor::Verdict::Enter;
+    };
+
+    const TreeWalker::Result result = SplitWalk(options).walk(bytes(tree.path("top")), recorder);
+
+    EXPECT_EQ(result.end, TreeWalker::End::Cancelled);
+    const qsizetype inner = std::count_if(recorder.lines.begin(), recorder.lines.end(),
+                                          [](const QByteArray& line) { return line.startsWith("enter ") && line.endsWith("/inner"); });
+    EXPECT_LE(inner, 2) << "each thread finishes at most the subtree it had begun";
+}
