@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QFile>
 
+#include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -86,6 +88,29 @@ TEST(SplitWalk, JoinedPiecesTellTheSameStoryAsOneWalk)
     EXPECT_EQ(shared.entries, one.entries);
     EXPECT_EQ(shared.end, TreeWalker::End::Finished);
     EXPECT_EQ(threads.seen.size(), 2u) << "a split walk works on two threads";
+}
+
+// Pieces deeper than the descriptor limit close and reopen their ancestors; a piece's own top
+// folder is reopened relative to the folder the listing held open, never by path.
+TEST(SplitWalk, PiecesDeeperThanTheDescriptorLimitAreWalkedWhole)
+{
+    TempTree tree;
+    QString chain;
+    for (int level = 0; level < 30; ++level)
+        chain += QStringLiteral("/level%1").arg(level);
+    for (const char* branch : {"top/a/x", "top/a/y", "top/b/x", "top/c"})
+        tree.file(QLatin1String(branch) + chain + "/bottom");
+    const QByteArray top = bytes(tree.path("top"));
+    SplitWalk::Options options = splitting();
+    options.walker.descriptorLimit = 3;
+
+    WalkRecorder single(top);
+    TreeWalker(options.walker).walk(top, single);
+    WalkRecorder split(top);
+    SplitWalk(options).walk(top, split);
+
+    EXPECT_EQ(split.lines, single.lines);
+    EXPECT_EQ(std::count_if(split.lines.begin(), split.lines.end(), [](const QByteArray& line) { return line.endsWith("/bottom"); }), 4);
 }
 
 TEST(SplitWalk, SmallTreesStayOnTheCallingThread)
@@ -177,4 +202,48 @@ TEST(SplitWalk, CancellationEndsEveryThreadAndReportsIt)
     const qsizetype inner = std::count_if(recorder.lines.begin(), recorder.lines.end(),
                                           [](const QByteArray& line) { return line.startsWith("enter ") && line.endsWith("/inner"); });
     EXPECT_LE(inner, 2) << "each thread finishes at most the subtree it had begun";
+}
+
+// Folders are swapped for links to a secret folder and back while split walks run, at random
+// moments instead of at a chosen callback. No walk may report anything from the secret folder,
+// and every folder entered is left. A few rounds by default; DUSTLARK_STRESS_RUNS (e.g. 2000)
+// for a long run.
+TEST(SplitWalk, FoldersSwappedForLinksDuringTheWalkAreNeverFollowed)
+{
+    TempTree tree;
+    for (int folder = 0; folder < 8; ++folder) {
+        for (int i = 0; i < 30; ++i)
+            tree.file(QStringLiteral("top/d%1/sub/f%2").arg(folder).arg(i));
+    }
+    tree.file("secret/private");
+    const int runs = std::max(20, qEnvironmentVariableIntValue("DUSTLARK_STRESS_RUNS"));
+
+    std::atomic<bool> done{false};
+    std::thread swapper([&] {
+        const QByteArray top = bytes(tree.path("top"));
+        const QByteArray secret = bytes(tree.path("secret"));
+        for (int round = 0; !done.load(); ++round) {
+            const QByteArray folder = top + "/d" + QByteArray::number(round % 8);
+            const QByteArray aside = folder + "-aside";
+            if (::rename(folder.constData(), aside.constData()) != 0)
+                continue;
+            ::symlink(secret.constData(), folder.constData());
+            std::this_thread::yield();
+            ::unlink(folder.constData());
+            ::rename(aside.constData(), folder.constData());
+        }
+    });
+    for (int run = 0; run < runs; ++run) {
+        WalkRecorder recorder(bytes(tree.path("top")));
+        SplitWalk(splitting()).walk(bytes(tree.path("top")), recorder);
+        const QByteArray all = recorder.lines.join('\n');
+        ASSERT_FALSE(all.contains("private")) << "run " << run << '\n' << all.constData();
+        const auto count = [&](const char* prefix) {
+            return std::count_if(recorder.lines.begin(), recorder.lines.end(),
+                                 [&](const QByteArray& line) { return line.startsWith(prefix); });
+        };
+        ASSERT_EQ(count("enter "), count("leave ")) << "run " << run << '\n' << all.constData();
+    }
+    done = true;
+    swapper.join();
 }
