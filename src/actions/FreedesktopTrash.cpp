@@ -1,6 +1,6 @@
 #include "actions/FreedesktopTrash.h"
 
-#include "actions/OwnerWrite.h"
+#include "actions/TreeRemoval.h"
 #include "vocabulary/FileStatus.h"
 
 #include <QCoreApplication>
@@ -8,7 +8,6 @@
 #include <QFile>
 #include <QStandardPaths>
 
-#include <fts.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -30,27 +29,6 @@ bool lexists(const QString& path)
     return FileStatus::exists(path);
 }
 
-// Removes a file, link or folder tree without following links. True when it is gone.
-bool removeTree(const QString& path)
-{
-    if (!lexists(path))
-        return true;
-    OwnerWrite::addThroughTree(path);
-    QByteArray root = QFile::encodeName(path);
-    char* roots[] = {root.data(), nullptr};
-    FTS* tree = ::fts_open(roots, FTS_PHYSICAL | FTS_NOCHDIR | FTS_XDEV, nullptr);
-    if (!tree)
-        return false;
-    while (FTSENT* entry = ::fts_read(tree)) {
-        if (entry->fts_info == FTS_DP)
-            ::rmdir(entry->fts_accpath);
-        else if (entry->fts_info != FTS_D)
-            ::unlink(entry->fts_accpath);
-    }
-    ::fts_close(tree);
-    return !lexists(path);
-}
-
 QStringList entriesOf(const QString& folder)
 {
     return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
@@ -62,7 +40,7 @@ bool removeObjects(const QString& trash)
 {
     bool allRemoved = true;
     for (const QString& name : entriesOf(trash + QStringLiteral("/files"))) {
-        if (removeTree(trash + QStringLiteral("/files/") + name))
+        if (TreeRemoval::removeTree(trash + QStringLiteral("/files/") + name))
             QFile::remove(trash + QStringLiteral("/info/") + name + infoSuffix);
         else
             allRemoved = false;
@@ -100,7 +78,7 @@ std::optional<QString> empty()
     const QString trash = homeTrash();
     const bool allRemoved = removeObjects(trash);
     removeOrphanedInfo(trash);
-    removeTree(trash + QStringLiteral("/expunged"));
+    TreeRemoval::removeTree(trash + QStringLiteral("/expunged"));
     QFile::remove(trash + QStringLiteral("/directorysizes"));
     if (allRemoved)
         return std::nullopt;

@@ -1,5 +1,7 @@
 #include "actions/MoverFiles.h"
 
+#include "actions/TreeRemoval.h"
+#include "machinery/TreeWalker.h"
 #include "platform/Platform.h"
 #include "vocabulary/FileStatus.h"
 
@@ -10,7 +12,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
-#include <fts.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -33,27 +34,6 @@ bool rememberPlaced(const QString& path, std::vector<Placed>& placed)
         return false;
     placed.push_back({path, info->st_dev, info->st_ino});
     return true;
-}
-
-// Calls `visit` for every entry below `root`, physical, one volume, no chdir; false when the
-// walk could not start.
-template <typename Visit>
-bool walk(const QString& root, int options, Visit visit)
-{
-    QByteArray path = QFile::encodeName(root);
-    char* roots[] = {path.data(), nullptr};
-    FTS* tree = ::fts_open(roots, FTS_PHYSICAL | FTS_NOCHDIR | FTS_XDEV | options, nullptr);
-    if (!tree)
-        return false;
-    bool going = true;
-    while (going) {
-        FTSENT* entry = ::fts_read(tree);
-        if (!entry)
-            break;
-        going = visit(entry);
-    }
-    ::fts_close(tree);
-    return going;
 }
 
 }  // namespace
@@ -80,33 +60,8 @@ void removePlaced(const std::vector<Placed>& placed)
     for (const Placed& copy : placed) {
         const std::optional<struct stat> info = FileStatus::of(copy.path);
         if (info && info->st_dev == copy.device && info->st_ino == copy.inode)
-            removeTree(copy.path);
+            TreeRemoval::removeTree(copy.path);
     }
-}
-
-bool removeTree(const QString& path)
-{
-    if (!FileStatus::exists(path))
-        return true;
-    walk(path, 0, [](FTSENT* entry) {
-        switch (entry->fts_info) {
-        case FTS_D:
-            // The copy keeps the original's modes; a read-only folder must open before emptying.
-            ::chmod(entry->fts_accpath, (entry->fts_statp->st_mode & 07777) | S_IRWXU);
-            break;
-        case FTS_DP:
-            ::rmdir(entry->fts_accpath);
-            break;
-        case FTS_DNR:
-        case FTS_ERR:
-            ::rmdir(entry->fts_accpath);
-            break;
-        default:
-            ::unlink(entry->fts_accpath);
-        }
-        return true;
-    });
-    return !FileStatus::exists(path);
 }
 
 bool keepsExactTimes(const QString& folder)
@@ -122,19 +77,27 @@ bool keepsExactTimes(const QString& folder)
 
 bool timesMatchCoarsely(const QString& original, const QString& copy)
 {
-    QByteArray root = QFile::encodeName(original);
-    const qsizetype rootLength = root.size();
-    const QByteArray copyRoot = QFile::encodeName(copy);
-    return walk(original, 0, [&](FTSENT* entry) {
-        if (entry->fts_info != FTS_F || std::strcmp(entry->fts_name, ".DS_Store") == 0)
-            return true;
-        const QByteArray twin = copyRoot + QByteArray(entry->fts_path).mid(rootLength);
-        struct stat info {};
-        if (::lstat(twin.constData(), &info) != 0 || !S_ISREG(info.st_mode) || info.st_size != entry->fts_statp->st_size)
-            return false;
-        const qint64 difference = Platform::modificationNanoseconds(info) - Platform::modificationNanoseconds(*entry->fts_statp);
-        return std::llabs(difference) <= coarseTolerance;
-    });
+    // Each regular file of the original against its twin at the same place in the copy.
+    struct Comparison : TreeVisitor {
+        qsizetype rootLength = 0;
+        QByteArray copyRoot;
+        Verdict visitItem(const TreeEntry& entry) override
+        {
+            const struct stat& file = entry.status();
+            if (!S_ISREG(file.st_mode) || entry.name() == ".DS_Store")
+                return Verdict::Enter;
+            const QByteArray twin = copyRoot + entry.pathBytes().mid(rootLength);
+            struct stat info {};
+            if (::lstat(twin.constData(), &info) != 0 || !S_ISREG(info.st_mode) || info.st_size != file.st_size)
+                return Verdict::Stop;
+            const qint64 difference = Platform::modificationNanoseconds(info) - Platform::modificationNanoseconds(file);
+            return std::llabs(difference) <= coarseTolerance ? Verdict::Enter : Verdict::Stop;
+        }
+    } comparison;
+    const QByteArray root = QFile::encodeName(original);
+    comparison.rootLength = root.size();
+    comparison.copyRoot = QFile::encodeName(copy);
+    return TreeWalker({}).walk(root, comparison).end != TreeWalker::End::Stopped;
 }
 
 }  // namespace Mover::Files

@@ -27,10 +27,6 @@ enum class Placement { placed, nameTaken, failed };
 // Removes `placed` copies that are still the objects this move put there.
 void removePlaced(const std::vector<Placed>& placed);
 
-// Deletes the tree at `path` (never following links or leaving its disk), opening read-only
-// folders of the copy first. Only for trees a move made itself. True when nothing is left.
-bool removeTree(const QString& path);
-
 // Whether the file system holding `folder` keeps modification times to the nanosecond: the
 // folder's time is set to an odd value and read back.
 [[nodiscard]] bool keepsExactTimes(const QString& folder);

@@ -4,6 +4,7 @@
 #include "actions/MoverCopy.h"
 #include "actions/MoverReasons.h"
 #include "actions/Remover.h"
+#include "actions/TreeRemoval.h"
 #include "vocabulary/FileStatus.h"
 
 #include <QDir>
@@ -141,7 +142,7 @@ std::optional<QString> Run::placeCopies()
 
 Outcome Run::finish()
 {
-    Files::removeTree(m_work);
+    TreeRemoval::removeTree(m_work);
     m_madeWork = false;
     // Once the original's turn has come a stop no longer applies: the copy is complete and in
     // place, and a half-finished Trash move would help no one.
@@ -157,7 +158,7 @@ Outcome Run::rollBack(const QString& reason)
 {
     Files::removePlaced(m_placed);
     if (m_madeWork)
-        Files::removeTree(m_work);
+        TreeRemoval::removeTree(m_work);
     return Outcome::failed(isStopped() ? Reasons::stopped() : reason);
 }
 

@@ -289,6 +289,8 @@ void TreeWalker::leave(TreeVisitor& visitor)
         --m_open;
     }
     m_path.resize(m_levels.empty() ? m_basePath.size() : m_levels.back()->pathLength);
+    if (!m_levels.empty())
+        ensureOpen(m_levels.size() - 1);  // so that leaveFolder can act relative to it (a removal)
     const int parent = m_levels.empty() ? m_baseDescriptor : m_levels.back()->descriptor();
     const TreeEntry entry(*this, level->name, level->status, m_depthOffset + static_cast<int>(m_levels.size()), parent);
     if (level->reopenError != 0)

@@ -27,8 +27,9 @@ public:
     // 0 for the root, 1 for what lies directly in it, and so on.
     [[nodiscard]] int depth() const { return m_depth; }
     // The open folder that holds the entry, for lookups relative to it (`fstatat`, `openat`)
-    // instead of by path from the root. AT_FDCWD for the root. Valid in enterFolder and
-    // visitItem; in leaveFolder and problem it may be -1 (closed to stay under the limit).
+    // instead of by path from the root. AT_FDCWD for the root. Valid in enterFolder, visitItem
+    // and leaveFolder (reopened if it was closed to stay under the limit; -1 only when that
+    // failed); in problem it may be -1.
     [[nodiscard]] int folderDescriptor() const { return m_folder; }
     [[nodiscard]] FileKey key() const { return FileKey::of(*m_status); }
     // The path, built only when asked for: the root as given, then "/" and each name.
