@@ -550,13 +550,13 @@
 <context>
     <name>AppModel</name>
     <message>
-        <location filename="../src/model/AppModel.cpp" line="230"/>
+        <location filename="../src/model/AppModel.cpp" line="229"/>
         <source>The scan was stopped before this category finished.</source>
         <extracomment>Banner of a category whose scanner had not finished when the person stopped the scan</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/model/AppModel.cpp" line="245"/>
+        <location filename="../src/model/AppModel.cpp" line="244"/>
         <source>The scan was stopped; this list may be incomplete.</source>
         <extracomment>Banner of a category whose scanner returned early because the scan was stopped</extracomment>
         <translation type="unfinished"></translation>
@@ -1192,37 +1192,37 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>CleanupResults</name>
     <message>
-        <location filename="../src/ui/CleanupResults.cpp" line="39"/>
+        <location filename="../src/ui/CleanupResults.cpp" line="40"/>
         <source>Done</source>
         <extracomment>Button that closes the results of a cleanup</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CleanupResults.cpp" line="64"/>
+        <location filename="../src/ui/CleanupResults.cpp" line="65"/>
         <source>Moved to the Trash</source>
         <extracomment>Results of a cleanup: the size of what went to the Trash</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CleanupResults.cpp" line="67"/>
+        <location filename="../src/ui/CleanupResults.cpp" line="68"/>
         <source>Removed by Docker and Xcode</source>
         <extracomment>Results of a cleanup: the size of what Docker and the simulator tool removed for good</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CleanupResults.cpp" line="69"/>
+        <location filename="../src/ui/CleanupResults.cpp" line="70"/>
         <source>Free space before</source>
         <extracomment>Results of a cleanup: free disk space before it ran</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CleanupResults.cpp" line="71"/>
+        <location filename="../src/ui/CleanupResults.cpp" line="72"/>
         <source>Free space after</source>
         <extracomment>Results of a cleanup: free disk space after it ran</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/ui/CleanupResults.cpp" line="94"/>
+        <location filename="../src/ui/CleanupResults.cpp" line="95"/>
         <source>%n items couldn&apos;t be removed</source>
         <extracomment>Heading of the failures in the results of a cleanup; %n is their number</extracomment>
         <translation>
@@ -1231,21 +1231,27 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         </translation>
     </message>
     <message>
-        <location filename="../src/ui/CleanupResults.cpp" line="113"/>
+        <location filename="../src/ui/CleanupResults.cpp" line="114"/>
         <source>Empty Trash…</source>
         <extracomment>Button in the results of a cleanup; a confirmation follows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CleanupResults.cpp" line="133"/>
+        <location filename="../src/ui/CleanupResults.cpp" line="134"/>
         <source>The Trash is empty.</source>
         <extracomment>Results of a cleanup, after the Trash was emptied</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CleanupResults.cpp" line="136"/>
+        <location filename="../src/ui/CleanupResults.cpp" line="137"/>
         <source>Files in the Trash still take space. Empty the Trash to get it back, or check them in Finder first.</source>
         <extracomment>Results of a cleanup when files went to the Trash</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/ui/CleanupResults.cpp" line="140"/>
+        <source>Files in the Trash still take space. Empty the Trash to get it back, or check them in your file manager first.</source>
+        <extracomment>Results of a cleanup when files went to the Trash (Linux: the desktop&apos;s file manager)</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1573,467 +1579,439 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>KnownLocations</name>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="71"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="81"/>
         <source>Xcode cache</source>
         <extracomment>Row title in the Xcode list: Xcode&apos;s own cache folder</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="74"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="84"/>
         <source>SwiftUI previews</source>
         <extracomment>Row title in the Xcode list: data of SwiftUI previews</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="77"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="87"/>
         <source>Simulator caches</source>
         <extracomment>Row title in the Xcode list: caches of the iOS simulator</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="80"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="90"/>
         <source>Test simulator clones</source>
         <extracomment>Row title in the Xcode list: simulator copies made for running tests</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="83"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="93"/>
         <source>Xcode downloads</source>
         <extracomment>Row title in the Xcode list: files Xcode downloaded</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="87"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="97"/>
         <source>Device logs</source>
         <extracomment>Row title in the Xcode list: logs copied from connected iPhones and iPads</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="115"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="106"/>
         <source>Gradle caches</source>
         <extracomment>Row title in the Android list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="118"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="109"/>
         <source>Gradle wrapper · </source>
         <extracomment>Prefix of a row title in the Android list; a Gradle version such as gradle-8.5-bin follows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="121"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="112"/>
         <source>Gradle daemon logs</source>
         <extracomment>Row title in the Android list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="124"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="115"/>
         <source>Android cache</source>
         <extracomment>Row title in the Android list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="127"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="118"/>
         <source>Android build cache</source>
         <extracomment>Row title in the Android list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="96"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="130"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="121"/>
         <source>Android Studio cache · </source>
         <extracomment>Prefix of a row title in the Android list; a folder name such as AndroidStudio2024.1 follows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="98"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="133"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="124"/>
         <source>Android SDK system image</source>
         <extracomment>Detail line of an Android system image row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="99"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="136"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="127"/>
         <source>NDK </source>
         <extracomment>Prefix of a row title in the Android list; an NDK version number follows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="100"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="138"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="129"/>
         <source>Android NDK version; projects that pin it download it again</source>
         <extracomment>Detail line of an Android NDK row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="102"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="141"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="132"/>
         <source>Build tools </source>
         <extracomment>Prefix of a row title in the Android list; a version number follows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="103"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="143"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="134"/>
         <source>Android SDK build tools version</source>
         <extracomment>Detail line of an Android build tools row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="105"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="146"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="137"/>
         <source>SDK platform </source>
         <extracomment>Prefix of a row title in the Android list; a platform name such as android-34 follows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="106"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="148"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="139"/>
         <source>Android SDK platform</source>
         <extracomment>Detail line of an Android SDK platform row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="151"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="142"/>
         <source>Gradle JDK · </source>
         <extracomment>Prefix of a row title in the Android list; a Java version folder follows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="153"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="144"/>
         <source>Java downloaded by Gradle toolchains</source>
         <extracomment>Detail line of a row of Java that Gradle downloaded</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="188"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="159"/>
         <source>npm cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="161"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="191"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="162"/>
         <source>Yarn cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="194"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="165"/>
         <source>Yarn Berry cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="162"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="197"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="168"/>
         <source>pnpm store</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="163"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="199"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="170"/>
         <source>Projects link their packages from here</source>
         <extracomment>Detail line of the pnpm store row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="202"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="173"/>
         <source>Bun cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="164"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="205"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="176"/>
         <source>Homebrew downloads</source>
         <extracomment>Row title in the package caches list: packages Homebrew downloaded</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="165"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="208"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="179"/>
         <source>pip cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="211"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="182"/>
         <source>uv cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="214"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="185"/>
         <source>CocoaPods cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="167"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="217"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="188"/>
         <source>Swift Package Manager cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="220"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="191"/>
         <source>Carthage cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="168"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="223"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="194"/>
         <source>Go build cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="226"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="197"/>
         <source>Cargo downloads</source>
         <extracomment>Row title in the package caches list: crates Cargo downloaded</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="229"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="200"/>
         <source>Cargo registry index</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="232"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="203"/>
         <source>Cargo git dependencies</source>
         <extracomment>Row title in the package caches list: dependencies Cargo fetched from git</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="235"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="206"/>
         <source>Go modules</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="237"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="208"/>
         <source>Projects download them again on the next build</source>
         <extracomment>Detail line of the Go modules row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="240"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="211"/>
         <source>Dart and Flutter packages</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="242"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="213"/>
         <source>`flutter pub get` downloads them again</source>
         <extracomment>Detail line of the Dart and Flutter packages row; the command stays as it is</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="245"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="216"/>
         <source>NuGet packages</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="248"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="219"/>
         <source>NuGet HTTP cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="169"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="251"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="222"/>
         <source>Poetry cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="170"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="253"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="224"/>
         <source>Includes Poetry&apos;s virtual environments; `poetry install` creates them again</source>
         <extracomment>Detail line of the Poetry cache row; the command stays as it is</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="171"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="256"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="227"/>
         <source>node-gyp headers</source>
         <extracomment>Row title in the package caches list: C headers node-gyp downloaded</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="172"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="259"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="230"/>
         <source>Electron downloads</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="174"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="262"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="233"/>
         <source>electron-builder cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="175"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="265"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="236"/>
         <source>Deno cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="176"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="268"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="239"/>
         <source>TypeScript cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="177"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="271"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="242"/>
         <source>Composer cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="274"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="245"/>
         <source>Prisma engines</source>
         <extracomment>Row title in the package caches list: database engines Prisma downloaded</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="178"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="277"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="248"/>
         <source>Playwright browsers</source>
         <extracomment>Row title in the package caches list: browsers Playwright downloaded for tests</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="179"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="279"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="250"/>
         <source>Tests need `npx playwright install` afterwards</source>
         <extracomment>Detail line of the Playwright browsers row; the command stays as it is</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="282"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="253"/>
         <source>Puppeteer browsers</source>
         <extracomment>Row title in the package caches list: browsers Puppeteer downloaded</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="285"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="256"/>
         <source>Maven repository</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="287"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="258"/>
         <source>May hold artifacts you installed locally</source>
         <extracomment>Detail line of the Maven repository row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="296"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="282"/>
         <source>Ollama models</source>
         <extracomment>Row title in the AI models list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="298"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="284"/>
         <source>All models pulled with Ollama; `ollama pull` downloads them again</source>
         <extracomment>Detail line of the Ollama models row; the command stays as it is</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="310"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="296"/>
         <source>Downloaded iPhone update; Finder downloads it again when needed</source>
         <extracomment>Detail line of a downloaded iPhone software update</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="313"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="299"/>
         <source>Downloaded iPad update; Finder downloads it again when needed</source>
         <extracomment>Detail line of a downloaded iPad software update</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="333"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="319"/>
         <source>VS Code caches</source>
         <extracomment>Row title in the editors list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="335"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="321"/>
         <source>Cursor caches</source>
         <extracomment>Row title in the editors list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="337"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="323"/>
         <source>Windsurf caches</source>
         <extracomment>Row title in the editors list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="340"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="326"/>
         <source>JetBrains cache · </source>
         <extracomment>Prefix of a row title in the editors list; an IDE folder such as IntelliJIdea2024.1 follows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="344"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="330"/>
         <source>Zed cache</source>
         <extracomment>Row title in the editors list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="372"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="358"/>
         <source>Crash reports</source>
         <extracomment>Row title in the logs list: reports macOS wrote when apps crashed or hung</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="374"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="360"/>
         <source>Reports of apps that crashed or hung; needed only to report a problem</source>
         <extracomment>Detail line of the crash reports row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="377"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="363"/>
         <source>Diagnostic logs; the app starts new ones when it needs them</source>
         <extracomment>Detail line of an app&apos;s log folder in the logs list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="386"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="398"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="372"/>
         <source>VS Code logs</source>
         <extracomment>Row title in the logs list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="389"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="399"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="375"/>
         <source>Cursor logs</source>
         <extracomment>Row title in the logs list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="392"/>
-        <location filename="../src/scan/KnownLocations.cpp" line="400"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="378"/>
         <source>Windsurf logs</source>
         <extracomment>Row title in the logs list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="395"/>
+        <location filename="../src/scan/KnownLocations.cpp" line="381"/>
         <source>npm debug logs</source>
         <extracomment>Row title in the logs list: logs npm writes when a command fails</extracomment>
         <translation type="unfinished"></translation>
@@ -3641,7 +3619,7 @@ Column heading of the storage drill-down: its size</extracomment>
 <context>
     <name>SystemAccess</name>
     <message>
-        <location filename="../src/actions/FreedesktopTrash.cpp" line="108"/>
+        <location filename="../src/actions/FreedesktopTrash.cpp" line="86"/>
         <source>Some items in the Trash couldn&apos;t be removed. Empty the Trash again or use your file manager.</source>
         <extracomment>Empty Trash error on Linux, when some trashed items could not be deleted</extracomment>
         <translation type="unfinished"></translation>
@@ -3911,7 +3889,7 @@ Column heading of the storage drill-down: its size</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/update/UpdateChecker.cpp" line="99"/>
+        <location filename="../src/update/UpdateChecker.cpp" line="81"/>
         <source>Couldn&apos;t check for updates: %1</source>
         <extracomment>Check for Updates error. The placeholder is the system&apos;s error message.</extracomment>
         <translation type="unfinished"></translation>
@@ -3920,13 +3898,13 @@ Column heading of the storage drill-down: its size</extracomment>
 <context>
     <name>Updater</name>
     <message>
-        <location filename="../src/update/Updater.cpp" line="121"/>
+        <location filename="../src/update/Updater.cpp" line="104"/>
         <source>The downloaded update didn&apos;t pass the check. This copy wasn&apos;t changed.</source>
         <extracomment>Install and Relaunch error when the downloaded image or app fails its digest or signature check</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/update/Updater.cpp" line="127"/>
+        <location filename="../src/update/Updater.cpp" line="110"/>
         <source>Couldn&apos;t install the update (%1). This copy wasn&apos;t changed.</source>
         <extracomment>Install and Relaunch error. The placeholder is the system&apos;s or a tool&apos;s message.</extracomment>
         <translation type="unfinished"></translation>

@@ -2,6 +2,7 @@
 
 #include "format/ByteCount.h"
 #include "model/AppModel.h"
+#include "platform/Platform.h"
 #include "ui/SheetText.h"
 #include "ui/TrashEmptier.h"
 
@@ -131,7 +132,10 @@ void CleanupResults::refreshTrash()
     if (m_session->trashEmptied())
         //: Results of a cleanup, after the Trash was emptied
         m_trashNote->setText(tr("The Trash is empty."));
-    else
+    else if (Platform::desktop() == Platform::Desktop::finder)
         //: Results of a cleanup when files went to the Trash
         m_trashNote->setText(tr("Files in the Trash still take space. Empty the Trash to get it back, or check them in Finder first."));
+    else
+        //: Results of a cleanup when files went to the Trash (Linux: the desktop's file manager)
+        m_trashNote->setText(tr("Files in the Trash still take space. Empty the Trash to get it back, or check them in your file manager first."));
 }

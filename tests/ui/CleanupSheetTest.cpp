@@ -1,5 +1,6 @@
 #include "WindowFixture.h"
 #include "format/ByteCount.h"
+#include "platform/Platform.h"
 #include "support/Wait.h"
 #include "ui/CategoryPage.h"
 #include "ui/CleanupConfirmation.h"
@@ -115,7 +116,9 @@ TEST(CleanupSheet, CleanupMovesFilesToTheTrashAndEmptiesIt)
     EXPECT_TRUE(QFileInfo::exists(WindowFixture::trashFiles() + "/node_modules/left-pad/index.js"));
     EXPECT_TRUE(QFileInfo::exists(WindowFixture::trashFiles() + "/build/out.o"));
     EXPECT_EQ(page->emptyStateText(), "Nothing to clean here.");
-    EXPECT_EQ(results->trashNote()->text(), "Files in the Trash still take space. Empty the Trash to get it back, or check them in Finder first.");
+    const QString where = Platform::desktop() == Platform::Desktop::finder ? "Finder" : "your file manager";
+    EXPECT_EQ(results->trashNote()->text(),
+              "Files in the Trash still take space. Empty the Trash to get it back, or check them in " + where + " first.");
 
     results->emptyTrashButton()->click();
     WindowFixture::answer(fixture.question(), "Empty Trash");
