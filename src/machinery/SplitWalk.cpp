@@ -69,10 +69,6 @@ public:
         return Verdict::Skip;
     }
 
-    void listedFolder(const TreeEntry& folder, int descriptor, const TreeListing& listing) override
-    {
-        m_pieces.back().visitor->listedFolder(folder, descriptor, listing);
-    }
     void leaveFolder(const TreeEntry& entry) override { m_pieces.back().visitor->leaveFolder(entry); }
     Verdict visitItem(const TreeEntry& entry) override { return m_pieces.back().visitor->visitItem(entry); }
     void problem(const TreeEntry& entry, TreeProblem kind, int error) override

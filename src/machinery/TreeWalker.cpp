@@ -90,17 +90,6 @@ bool TreeEntry::nameDecodes() const
     return QFile::encodeName(QFile::decodeName(bytes)) == bytes;
 }
 
-bool TreeListing::contains(std::string_view name) const
-{
-    for (size_t start = 0; start < m_names.size();) {
-        const size_t end = m_names.find('\0', start);
-        if (m_names.substr(start, end - start) == name)
-            return true;
-        start = end + 1;
-    }
-    return false;
-}
-
 TreeWalker::TreeWalker(Options options) : m_options(options)
 {
     m_options.descriptorLimit = std::max(1, m_options.descriptorLimit);
@@ -242,7 +231,6 @@ void TreeWalker::descend(TreeVisitor& visitor, const TreeEntry& entry)
         return;
     }
     listLevel(*level, entry, visitor);
-    visitor.listedFolder(entry, level->descriptor(), TreeListing(level->names));
     if (isRoot)
         m_path = withoutTrailingSlashes(m_root);
     else

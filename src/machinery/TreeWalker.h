@@ -53,16 +53,6 @@ private:
     int m_folder;
 };
 
-// The names in a folder as the walk read them, before any of them is visited.
-class TreeListing {
-public:
-    explicit TreeListing(std::string_view names) : m_names(names) {}
-    [[nodiscard]] bool contains(std::string_view name) const;
-
-private:
-    std::string_view m_names;  // each name followed by '\0'
-};
-
 // What went wrong with one entry; the walk goes on after each.
 enum class TreeProblem {
     CannotExamine,  // its status could not be read (vanished, no permission): no other callback
@@ -108,12 +98,6 @@ public:
     // the walk. Every folder that got Enter is later given to leaveFolder, also when it could
     // not be opened (after problem), so tallies kept on a stack stay balanced.
     virtual Verdict enterFolder(const TreeEntry&) { return Verdict::Enter; }
-    // A folder that was entered has been opened (`descriptor`, valid during the call) and read,
-    // before any of its entries is visited: a look at its names costs no further call.
-    virtual void listedFolder(const TreeEntry& folder, int descriptor, const TreeListing& listing)
-    {
-        (void)folder, (void)descriptor, (void)listing;
-    }
     // Post-order: the folder's whole subtree has been walked (or it could not be read).
     virtual void leaveFolder(const TreeEntry&) {}
     // Anything that is not a folder: files, symbolic links (never followed), devices,

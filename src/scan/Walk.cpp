@@ -120,8 +120,7 @@ public:
 
 private:
     Verdict visitDirectory(const TreeEntry& entry);
-    void listedFolder(const TreeEntry& folder, int descriptor, const TreeListing& listing) override;
-    void noteRepository(int descriptor, const char* gitEntry, std::string_view path);
+    void noteRepository(const TreeEntry& entry, std::string_view path);
     bool isSkippedInPlace(std::string_view path, std::string_view name) const;
     bool skipsBuildFolder(std::string_view path, std::string_view name);
     void showProgress(std::string_view path) const;
@@ -130,7 +129,7 @@ private:
 
     const WalkSettings& m_settings;
     Findings m_found;
-    std::string m_probe;  // reused buffer for the ".git" test of a skipped folder
+    std::string m_probe;  // reused buffer for the ".git" test
 };
 
 Walk::Pass::Pass(const WalkSettings& settings, QStringList repositories) : m_settings(settings)
@@ -173,39 +172,28 @@ void Walk::Pass::problem(const TreeEntry&, TreeProblem kind, int)
         ++m_found.unreadable;
 }
 
-// A folder the walk enters is looked into for ".git" once it is read (listedFolder); one it
-// skips is probed here, since a skipped repository still has worktrees to find.
 TreeVisitor::Verdict Walk::Pass::visitDirectory(const TreeEntry& entry)
 {
     const QByteArray pathBytes = entry.pathBytes();
     const std::string_view path(pathBytes.constData(), static_cast<size_t>(pathBytes.size()));
     const std::string_view name = entry.name();
-    if (isSkippedInPlace(path, name) || skipsBuildFolder(path, name)) {
-        if (name != ".git") {
-            m_probe.assign(name).append("/.git");
-            noteRepository(entry.folderDescriptor(), m_probe.c_str(), path);
-        }
+    noteRepository(entry, path);
+    if (isSkippedInPlace(path, name) || skipsBuildFolder(path, name))
         return Verdict::Skip;
-    }
     if (entry.depth() <= 2)
         showProgress(path);
     return Verdict::Enter;
 }
 
-void Walk::Pass::listedFolder(const TreeEntry& folder, int descriptor, const TreeListing& listing)
+// A working copy is a folder holding ".git"; only a ".git" folder (not an extra worktree's
+// ".git" file) makes it a main repository.
+void Walk::Pass::noteRepository(const TreeEntry& entry, std::string_view path)
 {
-    if (folder.depth() == 0 || !listing.contains(".git"))
-        return;  // the root's own repository was looked for above it (adoptRepositoryAbove)
-    const QByteArray path = folder.pathBytes();
-    noteRepository(descriptor, ".git", std::string_view(path.constData(), static_cast<size_t>(path.size())));
-}
-
-// A working copy is a folder holding ".git" (`gitEntry`, relative to `descriptor`); only a
-// ".git" folder (not an extra worktree's ".git" file) makes it a main repository.
-void Walk::Pass::noteRepository(int descriptor, const char* gitEntry, std::string_view path)
-{
+    if (entry.name() == ".git")
+        return;
+    m_probe.assign(entry.name()).append("/.git");
     struct stat info {};
-    if (::fstatat(descriptor, gitEntry, &info, AT_SYMLINK_NOFOLLOW) != 0)
+    if (::fstatat(entry.folderDescriptor(), m_probe.c_str(), &info, AT_SYMLINK_NOFOLLOW) != 0)
         return;
     const QString folder = decoded(path);
     if (!m_found.insideRepository(folder))
