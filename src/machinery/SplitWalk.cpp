@@ -61,7 +61,7 @@ public:
             return verdict;
         Piece subtree = Piece::of(current.fork());
         subtree.folder = TreeFolder{m_held->descriptor, m_held->path, std::string(entry.name()),
-                                    entry.status(), entry.depth(), entry.status().st_dev};
+                                    entry.status(), entry.depth()};
         subtree.parent = m_held;
         Piece after = Piece::of(current.fork());
         m_pieces.push_back(std::move(subtree));

@@ -117,7 +117,7 @@ TreeWalker::Result TreeWalker::walk(const QByteArray& root, TreeVisitor& visitor
 TreeWalker::Result TreeWalker::walkBelow(const TreeFolder& folder, TreeVisitor& visitor)
 {
     m_root = folder.parentPath;
-    m_device = folder.device;
+    m_device = folder.status.st_dev;
     m_baseDescriptor = folder.parentDescriptor;
     m_baseName = folder.name;
     m_depthOffset = folder.depth;

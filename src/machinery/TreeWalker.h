@@ -7,11 +7,11 @@
 #include <QSet>
 #include <QString>
 
+#include <fcntl.h>
 #include <memory>
 #include <mutex>
 #include <string>
 #include <string_view>
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <vector>
 
@@ -84,8 +84,7 @@ struct TreeFolder {
     QByteArray parentPath;      // that folder's path
     std::string name;
     struct stat status {};
-    int depth = 0;              // its depth in the whole walk
-    dev_t device = 0;           // the volume the whole walk stays on
+    int depth = 0;              // its depth in the whole walk; the walk stays on its volume
 };
 
 // The callbacks of one walk. Every one runs on the walking thread.

@@ -78,8 +78,6 @@ DuplicateFinder::File duplicateCandidate(const QString& path, const struct stat&
     return file;
 }
 
-}  // namespace
-
 // What every piece of one root's traversal decides by: fixed for the whole walk.
 struct WalkSettings {
     WalkSettings(const ScanContext& context, const QString& root);
@@ -102,6 +100,8 @@ WalkSettings::WalkSettings(const ScanContext& context, const QString& root)
     for (const QString& folder : context.safeFolders)
         safeFolders.insert(QFile::encodeName(folder));
 }
+
+}  // namespace
 
 // One traversal of one root, or one piece of it. Paths are built for folders (the rules compare
 // them) and for the few files big enough to end up in a result; they become QStrings only for
