@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QDateTime>
 
-// The names and the ".trashinfo" text of the freedesktop.org trash specification, as bytes:
+// The names and the ".trashinfo" text of the freedesktop.org trash format, as bytes:
 // names on Linux are bytes, and the info file must give them back exactly. Pure functions.
 namespace TrashInfo {
 

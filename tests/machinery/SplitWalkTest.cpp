@@ -2,7 +2,6 @@
 #include "support/TempTree.h"
 #include "support/WalkRecorder.h"
 
-#include <QDir>
 #include <QFile>
 
 #include <algorithm>
@@ -62,7 +61,7 @@ void buildMixedTree(const TempTree& tree)
 
 }  // namespace
 
-TEST(SplitWalk, JoinedPiecesTellTheSameStoryAsOneWalk)
+TEST(SplitWalk, JoinedPiecesTellTheSameStoryAsOneWalkAndSmallTreesStayOnOneThread)
 {
     TempTree tree;
     buildMixedTree(tree);
@@ -88,6 +87,14 @@ TEST(SplitWalk, JoinedPiecesTellTheSameStoryAsOneWalk)
     EXPECT_EQ(shared.entries, one.entries);
     EXPECT_EQ(shared.end, TreeWalker::End::Finished);
     EXPECT_EQ(threads.seen.size(), 2u) << "a split walk works on two threads";
+
+    threads.seen.clear();
+    SplitWalk::Options small = splitting();
+    small.splitAfter = 1000;
+    WalkRecorder alone(top);
+    alone.onEnter = onEnter;
+    SplitWalk(small).walk(top, alone);
+    EXPECT_EQ(threads.seen, std::set<std::thread::id>{std::this_thread::get_id()}) << "a small tree stays on one thread";
 }
 
 // Pieces deeper than the descriptor limit close and reopen their ancestors; a piece's own top
@@ -113,23 +120,6 @@ TEST(SplitWalk, PiecesDeeperThanTheDescriptorLimitAreWalkedWhole)
     EXPECT_EQ(std::count_if(split.lines.begin(), split.lines.end(), [](const QByteArray& line) { return line.endsWith("/bottom"); }), 4);
 }
 
-TEST(SplitWalk, SmallTreesStayOnTheCallingThread)
-{
-    TempTree tree;
-    buildMixedTree(tree);
-    Threads threads;
-    WalkRecorder recorder(bytes(tree.path("top")));
-    recorder.onEnter = [&](const TreeEntry&) {
-        threads.note();
-        std::this_thread::sleep_for(std::chrono::milliseconds(5));
-        return TreeVisitor::Verdict::Enter;
-    };
-    SplitWalk::Options options = splitting();
-    options.splitAfter = 1000;
-    SplitWalk(options).walk(bytes(tree.path("top")), recorder);
-    EXPECT_EQ(threads.seen, std::set<std::thread::id>{std::this_thread::get_id()});
-}
-
 TEST(SplitWalk, HardLinksInDifferentPiecesAreReportedOnce)
 {
     TempTree tree;
@@ -146,36 +136,6 @@ TEST(SplitWalk, HardLinksInDifferentPiecesAreReportedOnce)
     const qsizetype items = std::count_if(recorder.lines.begin(), recorder.lines.end(),
                                           [](const QByteArray& line) { return line.startsWith("item "); });
     EXPECT_EQ(items, 2) << recorder.lines.join('\n').constData();
-}
-
-// A subtree waits in the queue after its folder was examined and entered; if the folder is
-// swapped for a link to elsewhere meanwhile, the thread that takes it must not follow.
-TEST(SplitWalk, FolderSwappedForALinkWhileQueuedIsNeverEntered)
-{
-    TempTree tree;
-    tree.file("top/victim/own");
-    tree.file("top/other/file");
-    tree.file("elsewhere/secret");
-    WalkRecorder recorder(bytes(tree.path("top")));
-    recorder.onEnter = [&](const TreeEntry& entry) {
-        if (entry.name() == "victim") {
-            QDir().rename(tree.path("top/victim"), tree.path("victim-moved"));
-            tree.symlink("top/victim", tree.path("elsewhere"));
-        }
-        return TreeVisitor::Verdict::Enter;
-    };
-
-    const TreeWalker::Result result = SplitWalk(splitting()).walk(bytes(tree.path("top")), recorder);
-
-    const QByteArray all = recorder.lines.join('\n');
-    EXPECT_FALSE(all.contains("secret")) << all.constData();
-    EXPECT_FALSE(all.contains("own")) << all.constData();
-    const qsizetype victim = recorder.lines.indexOf("enter victim");
-    ASSERT_GE(victim, 0) << all.constData();
-    EXPECT_TRUE(recorder.lines.value(victim + 1).startsWith("cannot-open(")) << all.constData();
-    EXPECT_EQ(recorder.lines.value(victim + 2), "leave victim");
-    EXPECT_TRUE(recorder.lines.contains("item other/file"));
-    EXPECT_EQ(result.end, TreeWalker::End::Finished);
 }
 
 TEST(SplitWalk, CancellationEndsEveryThreadAndReportsIt)
