@@ -129,7 +129,11 @@ TEST(EverydayCli, TheEverydayCategoriesShowExactlyTheFixtureRows)
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.remove(QStringLiteral("TMPDIR"));
     environment.insert(QStringLiteral("XDG_DATA_HOME"), home + QStringLiteral("/.local/share"));
-    QStringList arguments = {"--mount", "--propagation", "private", "sh", "-c", script, DUSTLARK_CLI, "scan", "--home", home};
+    // The tool runs from a copy beside the fixture: a build under /tmp would be hidden by the new
+    // /tmp. It needs nothing from its build folder (catalogue and resources are built in).
+    const QString tool = fixture.path() + QStringLiteral("/dustlark-cli");
+    ASSERT_TRUE(QFile::copy(QStringLiteral(DUSTLARK_CLI), tool));
+    QStringList arguments = {"--mount", "--propagation", "private", "sh", "-c", script, tool, "scan", "--home", home};
     for (const char* raw : {"temporary", "oldDownloads", "installers", "devices", "trash", "largeFiles"})
         arguments << "--category" << raw;
     const ToolRun result = run(unshare, arguments << "--json", environment);
