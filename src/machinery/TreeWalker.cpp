@@ -1,24 +1,18 @@
 #include "machinery/TreeWalker.h"
 
 #include "machinery/ScanProgress.h"
+#include "platform/Platform.h"
 
 #include <QFile>
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
-#include <dirent.h>
 #include <fcntl.h>
 #include <unistd.h>
 
 namespace {
 
 constexpr int folderFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-
-bool isDotEntry(const char* name)
-{
-    return name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'));
-}
 
 // The root without trailing slashes; "/" becomes empty so that children read "/name".
 std::string withoutTrailingSlashes(const QByteArray& root)
@@ -40,17 +34,17 @@ std::string lastComponent(const std::string& path)
 }  // namespace
 
 // One folder on the way down: its listing, read whole when it was opened, and the descriptor
-// that entries are examined through (null while closed to stay under the limit).
+// that entries are examined through (-1 while closed to stay under the limit).
 struct TreeWalker::Level {
     std::string name;
     struct stat status {};
-    DIR* listing = nullptr;
+    int descriptor = -1;
     std::string names;  // the listing, each name followed by '\0'
     size_t next = 0;    // offset of the next name to walk
     size_t pathLength = 0;
     int reopenError = 0;  // set when the folder could not be reopened after a close
 
-    int descriptor() const { return listing ? ::dirfd(listing) : -1; }
+    bool isOpen() const { return descriptor >= 0; }
     bool done() const { return next >= names.size(); }
 };
 
@@ -98,8 +92,8 @@ TreeWalker::TreeWalker(Options options) : m_options(options)
 TreeWalker::~TreeWalker()
 {
     for (const auto& level : m_levels) {
-        if (level->listing)
-            ::closedir(level->listing);
+        if (level->isOpen())
+            ::close(level->descriptor);
     }
 }
 
@@ -172,7 +166,7 @@ void TreeWalker::walkNext(TreeVisitor& visitor)
     }
     const std::string_view name(top.names.data() + top.next);
     top.next += name.size() + 1;
-    if (!top.listing && !ensureOpen(m_levels.size() - 1)) {
+    if (!top.isOpen() && !ensureOpen(m_levels.size() - 1)) {
         top.reopenError = errno;       // reported as the folder is left, with its own path
         top.next = top.names.size();  // the rest of this folder cannot be reached any more
         return;
@@ -182,7 +176,7 @@ void TreeWalker::walkNext(TreeVisitor& visitor)
 
 void TreeWalker::handleEntry(TreeVisitor& visitor, const Level& folder, std::string_view name)
 {
-    const int descriptor = folder.descriptor();
+    const int descriptor = folder.descriptor;
     const int depth = m_depthOffset + static_cast<int>(m_levels.size());
     if (!countEntry()) {
         m_end = End::Cancelled;
@@ -246,7 +240,7 @@ void TreeWalker::descend(TreeVisitor& visitor, const TreeEntry& entry)
 // one swapped for another folder on its inode.
 bool TreeWalker::openLevel(Level& level, size_t index)
 {
-    const int parent = index == 0 ? m_baseDescriptor : m_levels[index - 1]->descriptor();
+    const int parent = index == 0 ? m_baseDescriptor : m_levels[index - 1]->descriptor;
     const char* name = index == 0 ? m_baseName.c_str() : level.name.c_str();
     const int descriptor = ::openat(parent, name, folderFlags);
     if (descriptor < 0)
@@ -258,40 +252,28 @@ bool TreeWalker::openLevel(Level& level, size_t index)
         errno = ESTALE;
         return false;
     }
-    level.listing = ::fdopendir(descriptor);
-    if (!level.listing) {
-        const int error = errno;
-        ::close(descriptor);
-        errno = error;
-        return false;
-    }
+    level.descriptor = descriptor;
     return true;
 }
 
 void TreeWalker::listLevel(Level& level, const TreeEntry& entry, TreeVisitor& visitor)
 {
-    errno = 0;
-    while (const dirent* item = ::readdir(level.listing)) {
-        if (!isDotEntry(item->d_name))
-            level.names.append(item->d_name, std::strlen(item->d_name) + 1);
-        errno = 0;
-    }
-    if (errno != 0)
-        visitor.problem(entry, TreeProblem::CannotList, errno);
+    if (const int error = Platform::readFolderNames(level.descriptor, level.names))
+        visitor.problem(entry, TreeProblem::CannotList, error);
 }
 
 void TreeWalker::leave(TreeVisitor& visitor)
 {
     const std::unique_ptr<Level> level = std::move(m_levels.back());
     m_levels.pop_back();
-    if (level->listing) {
-        ::closedir(level->listing);
+    if (level->isOpen()) {
+        ::close(level->descriptor);
         --m_open;
     }
     m_path.resize(m_levels.empty() ? m_basePath.size() : m_levels.back()->pathLength);
     if (!m_levels.empty())
         ensureOpen(m_levels.size() - 1);  // so that leaveFolder can act relative to it (a removal)
-    const int parent = m_levels.empty() ? m_baseDescriptor : m_levels.back()->descriptor();
+    const int parent = m_levels.empty() ? m_baseDescriptor : m_levels.back()->descriptor;
     const TreeEntry entry(*this, level->name, level->status, m_depthOffset + static_cast<int>(m_levels.size()), parent);
     if (level->reopenError != 0)
         visitor.problem(entry, TreeProblem::CannotOpen, level->reopenError);
@@ -303,7 +285,7 @@ void TreeWalker::leave(TreeVisitor& visitor)
 bool TreeWalker::ensureOpen(size_t index)
 {
     Level& level = *m_levels[index];
-    if (level.listing)
+    if (level.isOpen())
         return true;
     if (index > 0 && !ensureOpen(index - 1))
         return false;
@@ -319,10 +301,10 @@ void TreeWalker::keepUnderLimit()
 {
     for (size_t index = 0; m_open > m_options.descriptorLimit && index + 1 < m_levels.size(); ++index) {
         Level& level = *m_levels[index];
-        if (!level.listing)
+        if (!level.isOpen())
             continue;
-        ::closedir(level.listing);
-        level.listing = nullptr;
+        ::close(level.descriptor);
+        level.descriptor = -1;
         --m_open;
     }
 }

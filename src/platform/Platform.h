@@ -12,6 +12,7 @@
 #include <QStringList>
 
 #include <optional>
+#include <string>
 #include <sys/stat.h>
 #include <sys/types.h>
 #include <vector>
@@ -78,6 +79,13 @@ short extraSpawnFlags();
 std::optional<QString> applicationForBundleIdentifier(const QString& bundleIdentifier);
 
 // ---- Files ----
+
+// Appends the names in the open folder `folder` to `names`, each followed by '\0', leaving out
+// "." and "..". The descriptor stays the caller's, its read position at the end. On Linux the
+// listing is read with getdents64 straight into a buffer (no stream, no status or flag calls of
+// its own: a walk lists every folder, so these add up); on macOS through a stream over a
+// duplicate. 0, or the errno of a read that failed part way (what was read stays appended).
+int readFolderNames(int folder, std::string& names);
 
 // Whether the file's content lives only in the cloud (macOS SF_DATALESS); false where the
 // system has no such flag.

@@ -11,6 +11,7 @@
 #include <cerrno>
 #include <cstdio>  // renameat2 / renamex_np
 #include <cstring>
+#include <dirent.h>
 #include <fcntl.h>
 #include <linux/fiemap.h>
 #include <linux/fs.h>
@@ -156,6 +157,29 @@ std::optional<QDateTime> birthTime(const QString& path)
 std::optional<QString> userTempFolder()
 {
     return std::nullopt;  // Linux keeps no per-user temporary folder; $TMPDIR is the person's choice
+}
+
+int readFolderNames(int folder, std::string& names)
+{
+    alignas(alignof(dirent64)) char buffer[32 * 1024];  // a listing of a few hundred names per read
+    for (;;) {
+        const ssize_t filled = ::getdents64(folder, buffer, sizeof buffer);
+        if (filled == 0)
+            return 0;
+        if (filled < 0) {
+            if (errno == EINTR)
+                continue;
+            return errno;
+        }
+        for (ssize_t offset = 0; offset < filled;) {
+            const auto* entry = reinterpret_cast<const dirent64*>(buffer + offset);
+            offset += entry->d_reclen;
+            const char* name = entry->d_name;
+            if (name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0')))
+                continue;
+            names.append(name, std::strlen(name) + 1);
+        }
+    }
 }
 
 std::optional<qint64> birthNanosecondsAt(int folder, const char* name)

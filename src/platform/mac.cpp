@@ -10,6 +10,7 @@
 #include <climits>  // PATH_MAX
 #include <cstdio>  // renameat2 / renamex_np
 #include <cstring>
+#include <dirent.h>
 #include <fcntl.h>
 #include <libproc.h>
 #include <spawn.h>
@@ -172,6 +173,29 @@ std::optional<QString> userTempFolder()
     if (length == 0 || length > sizeof buffer)
         return std::nullopt;  // unknown, or longer than any real path
     return QFile::decodeName(buffer);
+}
+
+int readFolderNames(int folder, std::string& names)
+{
+    const int copy = ::fcntl(folder, F_DUPFD_CLOEXEC, 0);  // the stream takes its descriptor over
+    if (copy < 0)
+        return errno;
+    DIR* listing = ::fdopendir(copy);
+    if (!listing) {
+        const int error = errno;
+        ::close(copy);
+        return error;
+    }
+    errno = 0;
+    while (const dirent* entry = ::readdir(listing)) {
+        const char* name = entry->d_name;
+        if (!(name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'))))
+            names.append(name, entry->d_namlen).push_back('\0');
+        errno = 0;
+    }
+    const int error = errno;
+    ::closedir(listing);
+    return error;
 }
 
 std::optional<qint64> birthNanosecondsAt(int folder, const char* name)
