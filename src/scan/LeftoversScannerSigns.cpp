@@ -2,9 +2,10 @@
 
 #include "machinery/FileInfo.h"
 #include "machinery/ProcessRunner.h"
+#include "machinery/TreeWalker.h"
 
 #include <QCoreApplication>
-#include <QDirIterator>
+#include <QFile>
 
 #include <array>
 
@@ -74,18 +75,43 @@ bool allFound(const Found& found)
     return std::all_of(found.begin(), found.end(), [](bool one) { return one; });
 }
 
+// Looks at the names of the regular files below a leftover (and at the leftover's own name)
+// until every kind has been seen.
+class SignSearch : public TreeVisitor {
+public:
+    explicit SignSearch(Found& found) : m_found(found) {}
+
+    Verdict enterFolder(const TreeEntry& entry) override
+    {
+        if (entry.depth() == 0)
+            note(entry);
+        return allFound(m_found) ? Verdict::Stop : Verdict::Enter;
+    }
+
+    Verdict visitItem(const TreeEntry& entry) override
+    {
+        if (entry.depth() == 0 || S_ISREG(entry.status().st_mode))
+            note(entry);
+        return allFound(m_found) ? Verdict::Stop : Verdict::Enter;
+    }
+
+private:
+    void note(const TreeEntry& entry)
+    {
+        const std::string_view name = entry.name();
+        if (auto kind = kindOf(QFile::decodeName(QByteArray(name.data(), qsizetype(name.size())))))
+            m_found[*kind] = true;
+    }
+
+    Found& m_found;
+};
+
 void lookInto(const QString& path, Found& found, const CancellationToken* cancellation)
 {
-    if (auto kind = kindOf(path.section(QLatin1Char('/'), -1)))
-        found[*kind] = true;
-    QDirIterator entries(path, QDir::Files | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
-    for (qint64 seen = 0; entries.hasNext() && !allFound(found); ++seen) {
-        if (seen % 1024 == 0 && cancellation && cancellation->isCancelled())
-            return;
-        entries.next();
-        if (auto kind = kindOf(entries.fileName()))
-            found[*kind] = true;
-    }
+    TreeWalker::Options options;
+    options.cancellation = cancellation;
+    SignSearch search(found);
+    TreeWalker(options).walk(QFile::encodeName(path), search);
 }
 
 QSet<QString> installedFlatpaks(const QString& flatpak, const CancellationToken* cancellation, bool* known)

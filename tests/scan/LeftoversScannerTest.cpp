@@ -156,6 +156,11 @@ TEST(LeftoversScanner, PersonalDataIsNamedAndMakesTheRowAsk)
     f.libraryFile("Application Support/com.gone.Notes/Store/notes.SQLite");
     f.libraryFile("Application Support/com.gone.Notes/Inbox/letter.pdf");
     f.libraryFile("Caches/com.gone.Plain/cache.db");
+    // What a leftover only links to is not in it: links are never followed.
+    const QString elsewhere = QFileInfo(f.libraryFile("Mail/Inbox/letter.pdf")).path();
+    const QString linked = f.libraryFolder("Application Support/com.gone.Linked");
+    ASSERT_TRUE(QFile::link(elsewhere, linked + "/Inbox"));
+    ASSERT_TRUE(QFile::link(elsewhere + "/letter.pdf", linked + "/Login Data"));
 
     const ScanOutput output = scanLeftovers(scannerFor(f), f);
     const CleanupItem* browser = rowWithId(output, "leftovers:com.gone.Browser");
@@ -168,6 +173,9 @@ TEST(LeftoversScanner, PersonalDataIsNamedAndMakesTheRowAsk)
     EXPECT_EQ(notes->userData, QStringList({"documents", "databases"}));
     EXPECT_TRUE(plain->detail.endsWith(" · settings and caches only"));
     EXPECT_EQ(plain->safety(f.home()), Safety::safe);
+    const CleanupItem* linkedRow = rowWithId(output, "leftovers:com.gone.Linked");
+    ASSERT_TRUE(linkedRow);
+    EXPECT_TRUE(linkedRow->userData.isEmpty()) << qPrintable(linkedRow->userData.join(", "));
 }
 
 TEST(LeftoversScanner, LaunchAgentsGoWithTheProgramTheyStart)
