@@ -17,16 +17,21 @@ constexpr qint64 progressBatch = 4096;
 
 enum class EntryKind { folder, folderDone, file, unreadable };
 
-struct Entry {
-    EntryKind kind;
-    QByteArrayView path;
-    const struct stat* status;  // null when the entry could not be read at all
-};
-
 QByteArrayView nameOf(QByteArrayView path)
 {
     return path.sliced(path.lastIndexOf('/') + 1);
 }
+
+// One entry as the walk meets it; its path is built only where it is needed (a folder, a file
+// that makes a list), since most files only add their bytes.
+struct Entry {
+    EntryKind kind;
+    const TreeEntry& at;
+    const struct stat* status;  // null when the entry could not be read at all
+
+    QByteArray path() const { return at.pathBytes(); }
+    QByteArrayView name() const { return QByteArrayView(at.name().data(), qsizetype(at.name().size())); }
+};
 
 QByteArrayView parentOf(QByteArrayView path)
 {
@@ -56,8 +61,7 @@ public:
 private:
     Verdict pass(EntryKind kind, const TreeEntry& entry, const struct stat* status)
     {
-        const QByteArray path = entry.pathBytes();
-        return m_visit(Entry{kind, path, status}) ? Verdict::Enter : Verdict::Stop;
+        return m_visit(Entry{kind, entry, status}) ? Verdict::Enter : Verdict::Stop;
     }
 
     Visit& m_visit;
@@ -98,7 +102,7 @@ private:
     FolderUsageBuilder& usageFor(StorageBucket bucket);
     void keep(StorageBucket bucket, StorageReport::FolderUsage usage);
     void keep(StorageReport::LargeFolder folder);
-    bool countEntry(QByteArrayView path);
+    bool countEntry(const Entry& entry);
     void finish(bool stopped);
 
     const BucketRules& m_rules;
@@ -135,12 +139,12 @@ bool Walking::visit(const Entry& entry)
         addUnreadable(entry);
         break;
     }
-    return countEntry(entry.path);
+    return countEntry(entry);
 }
 
 void Walking::enterFolder(const Entry& entry)
 {
-    Frame frame = makeFrame(entry.path);
+    Frame frame = makeFrame(entry.path());
     const StorageBucket bucket = frame.tally.kind.value_or(StorageBucket::other);
     const qint64 bytes = allocated(*entry.status);
     m_partial.totals.at(static_cast<size_t>(bucket)) += bytes;
@@ -182,7 +186,7 @@ void Walking::leaveFolder(const Entry& entry)
     m_frames.pop_back();
     const bool listed = frame.tally.isLarge();
     if (listed) {
-        keep(StorageReport::LargeFolder{QFile::decodeName(entry.path.toByteArray()), frame.tally.unlistedBytes,
+        keep(StorageReport::LargeFolder{QFile::decodeName(entry.path()), frame.tally.unlistedBytes,
                                         frame.tally.unlistedFiles, frame.tally.unlistedSmallBytes,
                                         frame.tally.listedKind()});
     }
@@ -195,19 +199,20 @@ void Walking::leaveFolder(const Entry& entry)
 void Walking::addFile(const Entry& entry)
 {
     const Frame* frame = m_frames.empty() ? nullptr : &m_frames.back();
-    const StorageBucket bucket = frame && frame->tally.kind ? *frame->tally.kind : BucketRules::bucket(nameOf(entry.path));
+    const StorageBucket bucket = frame && frame->tally.kind ? *frame->tally.kind : BucketRules::bucket(entry.name());
     const qint64 bytes = allocated(*entry.status);
     if (isRepeatedLink(*entry.status, bucket, bytes))
         return;
     if (!frame) {  // the root is a file: it belongs to the folder that holds it
-        m_rootUsagePath = parentOf(entry.path).toByteArray();
-        usageFor(bucket).addFile(bytes, {}, false, [&] { return QFile::decodeName(entry.path.toByteArray()); });
+        const QByteArray path = entry.path();
+        m_rootUsagePath = parentOf(path).toByteArray();
+        usageFor(bucket).addFile(bytes, {}, false, [&] { return QFile::decodeName(path); });
         return;
     }
     m_frames.back().tally.addFile(bucket, bytes);
     FolderUsageBuilder& usage = frame->usage ? *frame->usage : usageFor(bucket);
     usage.addFile(bytes, frame->group, StorageBuckets::hasSubfolders(bucket),
-                  [&] { return QFile::decodeName(entry.path.toByteArray()); });
+                  [&] { return QFile::decodeName(entry.path()); });
 }
 
 // A file with more hard links is counted once per walk here and once per report by the merge,
@@ -281,13 +286,13 @@ void Walking::keep(StorageReport::LargeFolder folder)
 }
 
 // Counts one entry; at every full batch publishes it and answers whether to go on.
-bool Walking::countEntry(QByteArrayView path)
+bool Walking::countEntry(const Entry& entry)
 {
     if (++m_entries % progressBatch != 0)
         return true;
     if (m_progress) {
         m_progress->addEntries(progressBatch);
-        m_progress->setCurrentFolder(QFile::decodeName(parentOf(path).toByteArray()));
+        m_progress->setCurrentFolder(QFile::decodeName(parentOf(entry.path()).toByteArray()));
     }
     return !(m_cancellation && m_cancellation->isCancelled());
 }
