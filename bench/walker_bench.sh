@@ -9,7 +9,8 @@
 #   - a real npm-heavy home (bench/npm_home.sh: one `npm install` of large packages copied
 #     into 20 projects; needs npm and the npm registry), scanned and analysed like the first.
 # Warm cache only (it cannot be dropped here). Needs /usr/bin/time. Trees go under $DATA and
-# are removed afterwards; NPM=0 leaves the npm home out.
+# are removed afterwards; NPM=0 leaves the npm home out; KEEP=1 keeps them, and a later run with
+# KEEP=1 walks the kept trees again instead of generating new ones.
 #   DATA=/work/bench-data/walker BUILD_DIR=build-bench ROUNDS=5 bench/walker_bench.sh
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -17,7 +18,8 @@ DATA=${DATA:-/work/bench-data/walker}
 BUILD_DIR=${BUILD_DIR:-build-bench}
 ROUNDS=${ROUNDS:-5}
 NPM=${NPM:-1}
-trap 'rm -rf "$DATA"' EXIT
+KEEP=${KEEP:-0}
+[ "$KEEP" = 1 ] || trap 'rm -rf "$DATA"' EXIT
 
 cmake -S . -B "$BUILD_DIR" -DDUSTLARK_BENCH=ON >/dev/null
 cmake --build "$BUILD_DIR" --target walk_bench projects_bench storage_bench dustlark-cli -j 2 >/dev/null
@@ -30,11 +32,11 @@ mkdir -p "$DATA"
 df -T "$DATA" | awk 'NR==2 {print "file system: " $2 " on " $1}'
 
 echo "== generate"
-"$BIN/projects_bench" generate "$DATA/home" >/dev/null
-"$BIN/walk_bench" generate "$DATA/flat" >/dev/null
+[ -d "$DATA/home" ] || "$BIN/projects_bench" generate "$DATA/home" >/dev/null
+[ -d "$DATA/flat" ] || "$BIN/walk_bench" generate "$DATA/flat" >/dev/null
 homes=(home)
 if [ "$NPM" = 1 ]; then
-    "$(dirname "$0")/npm_home.sh" "$DATA/npm"
+    [ -d "$DATA/npm" ] || "$(dirname "$0")/npm_home.sh" "$DATA/npm"
     homes+=(npm)
 fi
 for tree in "${homes[@]}" flat; do
