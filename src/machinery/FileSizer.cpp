@@ -8,6 +8,45 @@
 
 namespace FileSizer {
 
+void Measurement::addFolder(const struct stat& info)
+{
+    bytes += static_cast<qint64>(info.st_blocks) * 512;
+    latestChange = std::max(latestChange, static_cast<qint64>(info.st_mtime));
+}
+
+void Measurement::addItem(const struct stat& info)
+{
+    bytes += static_cast<qint64>(info.st_blocks) * 512;
+    if (S_ISREG(info.st_mode))
+        logicalBytes += info.st_size;
+    ++files;
+    latestChange = std::max({latestChange, static_cast<qint64>(info.st_mtime), static_cast<qint64>(info.st_ctime)});
+}
+
+void Measurement::addProblem(int depth)
+{
+    ++unreadable;
+    if (depth == 0)
+        complete = false;
+}
+
+void Measurement::addStop()
+{
+    ++unreadable;
+    complete = false;
+}
+
+Measurement& Measurement::operator+=(const Measurement& later)
+{
+    bytes += later.bytes;
+    logicalBytes += later.logicalBytes;
+    files += later.files;
+    unreadable += later.unreadable;
+    complete = complete && later.complete;
+    latestChange = std::max(latestChange, later.latestChange);
+    return *this;
+}
+
 namespace {
 
 // The sums of one measurement, taken as the walk passes; hard links come once from the walker.
@@ -16,44 +55,21 @@ public:
     Measurement result;
 
     std::unique_ptr<SplittableVisitor> fork() const override { return std::make_unique<Sizing>(); }
-
-    void join(SplittableVisitor& later) override
-    {
-        const Measurement& part = static_cast<Sizing&>(later).result;
-        result.bytes += part.bytes;
-        result.logicalBytes += part.logicalBytes;
-        result.files += part.files;
-        result.unreadable += part.unreadable;
-        result.complete = result.complete && part.complete;
-        result.latestChange = std::max(result.latestChange, part.latestChange);
-    }
+    void join(SplittableVisitor& later) override { result += static_cast<Sizing&>(later).result; }
 
     Verdict enterFolder(const TreeEntry& entry) override
     {
-        const struct stat& info = entry.status();
-        result.bytes += static_cast<qint64>(info.st_blocks) * 512;
-        result.latestChange = std::max(result.latestChange, static_cast<qint64>(info.st_mtime));
+        result.addFolder(entry.status());
         return Verdict::Enter;
     }
 
     Verdict visitItem(const TreeEntry& entry) override
     {
-        const struct stat& info = entry.status();
-        result.bytes += static_cast<qint64>(info.st_blocks) * 512;
-        if (S_ISREG(info.st_mode))
-            result.logicalBytes += info.st_size;
-        ++result.files;
-        result.latestChange = std::max({result.latestChange, static_cast<qint64>(info.st_mtime),
-                                        static_cast<qint64>(info.st_ctime)});
+        result.addItem(entry.status());
         return Verdict::Enter;
     }
 
-    void problem(const TreeEntry& entry, TreeProblem, int) override
-    {
-        ++result.unreadable;
-        if (entry.depth() == 0)
-            result.complete = false;
-    }
+    void problem(const TreeEntry& entry, TreeProblem, int) override { result.addProblem(entry.depth()); }
 };
 
 }  // namespace
@@ -65,10 +81,8 @@ Measurement measure(const QString& path, ScanProgress* progress, const Cancellat
     options.walker.cancellation = cancellation;
     options.walker.hardLinksOnce = true;
     Sizing sizing;
-    if (SplitWalk(options).walk(QFile::encodeName(path), sizing).end == TreeWalker::End::Cancelled) {
-        ++sizing.result.unreadable;
-        sizing.result.complete = false;
-    }
+    if (SplitWalk(options).walk(QFile::encodeName(path), sizing).end == TreeWalker::End::Cancelled)
+        sizing.result.addStop();
     return sizing.result;
 }
 

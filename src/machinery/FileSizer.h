@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <sys/stat.h>
+
 class ScanProgress;
 
 // Measures a file or folder tree: bytes allocated on disk (blocks x 512), hard links once per
@@ -19,6 +21,14 @@ struct Measurement {
     qint64 unreadable = 0;
     bool complete = true;     // false when the top could not be read or the walk was stopped
     qint64 latestChange = 0;  // seconds since 1970; 0 when nothing was counted
+
+    // How a walk adds up, for the walks that measure while they do something else. A repeated
+    // hard link is the walk's to leave out before `addItem`.
+    void addFolder(const struct stat& info);
+    void addItem(const struct stat& info);  // anything that is not a folder
+    void addProblem(int depth);             // an entry that could not be read
+    void addStop();                         // the walk was stopped before its end
+    Measurement& operator+=(const Measurement& later);
 };
 
 // `progress` may be null; `cancellation` may be null (then the walk cannot be stopped).

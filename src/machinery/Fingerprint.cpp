@@ -1,6 +1,6 @@
 #include "machinery/Fingerprint.h"
 
-#include "machinery/TreeWalker.h"
+#include "machinery/SplitWalk.h"
 #include "platform/Platform.h"
 
 #include <QFile>
@@ -44,31 +44,61 @@ qint64 kindOf(mode_t mode)
 }
 
 // One walk in progress. Entry hashes are summed, so the order in which the file system lists a
-// folder (which differs between an original and its copy) never changes the result.
-class StampVisitor : public TreeVisitor {
+// folder (which differs between an original and its copy) never changes the result, and pieces
+// of one tree walked apart add up to the same stamp. With `links`, it measures as FileSizer
+// does, too: every entry counted, a hard-linked file once over the whole walk.
+class StampVisitor : public SplittableVisitor {
 public:
-    explicit StampVisitor(qsizetype rootLength) : m_rootLength(rootLength) {}
+    StampVisitor(qsizetype rootLength, LinkRegister* links) : m_rootLength(rootLength), m_links(links) {}
+
+    std::unique_ptr<SplittableVisitor> fork() const override
+    {
+        return std::make_unique<StampVisitor>(m_rootLength, m_links);
+    }
+
+    void join(SplittableVisitor& later) override
+    {
+        const auto& part = static_cast<StampVisitor&>(later);
+        m_stamp.files += part.m_stamp.files;
+        m_stamp.bytes += part.m_stamp.bytes;
+        m_stamp.unreadable += part.m_stamp.unreadable;
+        m_stamp.latestChange = std::max(m_stamp.latestChange, part.m_stamp.latestChange);
+        m_stamp.layout += part.m_stamp.layout;
+        m_stamp.stamps += part.m_stamp.stamps;
+        m_stamp.statusStamps += part.m_stamp.statusStamps;
+        m_size += part.m_size;
+    }
 
     Verdict enterFolder(const TreeEntry& entry) override
     {
         add(entry);
+        if (m_links)
+            m_size.addFolder(entry.status());
         return Verdict::Enter;
     }
 
     Verdict visitItem(const TreeEntry& entry) override
     {
+        const struct stat& info = entry.status();
         // Finder writes ".DS_Store" files into folders it shows; only such a file is noise. A
         // folder or a link of that name is someone's data like any other.
-        if (!(S_ISREG(entry.status().st_mode) && entry.name() == ".DS_Store"))
+        if (!(S_ISREG(info.st_mode) && entry.name() == ".DS_Store"))
             add(entry);
+        if (m_links && (info.st_nlink < 2 || m_links->firstSighting(info)))
+            m_size.addItem(info);
         return Verdict::Enter;
     }
 
     // A folder that can't be opened was added when entered, as its own entry; either way what
     // could not be read is counted, never guessed.
-    void problem(const TreeEntry&, TreeProblem, int) override { ++m_stamp.unreadable; }
+    void problem(const TreeEntry& entry, TreeProblem, int) override
+    {
+        ++m_stamp.unreadable;
+        m_size.addProblem(entry.depth());
+    }
 
-    const TreeStamp& result() const { return m_stamp; }
+    const TreeStamp& stamp() const { return m_stamp; }
+    const FileSizer::Measurement& size() const { return m_size; }
 
 private:
     void add(const TreeEntry& entry)
@@ -86,26 +116,52 @@ private:
     }
 
     qsizetype m_rootLength;
+    LinkRegister* m_links;
     TreeStamp m_stamp;
+    FileSizer::Measurement m_size;
 };
+
+// The root as relative paths count from it, so that "a/" and "a" read alike.
+QByteArray rootOf(const QString& path)
+{
+    QByteArray root = QFile::encodeName(path);
+    while (root.size() > 1 && root.endsWith('/'))
+        root.chop(1);
+    return root;
+}
+
+// Walks `root` into `visitor`; true when the walk ran to its end. The walker looks at the token
+// every few thousand entries, so a stop that came before the end of a small tree is looked for
+// here too: a partial summary would pass for a whole one.
+bool walkWhole(const QByteArray& root, StampVisitor& visitor, ScanProgress* progress,
+               const CancellationToken* cancellation)
+{
+    SplitWalk::Options options;
+    options.walker.progress = progress;
+    options.walker.cancellation = cancellation;
+    const bool finished = SplitWalk(options).walk(root, visitor).end == TreeWalker::End::Finished;
+    return finished && !(cancellation && cancellation->isCancelled());
+}
 
 }  // namespace
 
 std::optional<TreeStamp> compute(const QString& path, const CancellationToken* cancellation)
 {
-    QByteArray root = QFile::encodeName(path);
-    while (root.size() > 1 && root.endsWith('/'))
-        root.chop(1);  // so relative paths read alike for "a/" and "a"
-    TreeWalker::Options options;
-    options.cancellation = cancellation;
-    TreeWalker walker(options);
-    StampVisitor visitor(root.size());
-    const bool finished = walker.walk(root, visitor).end == TreeWalker::End::Finished;
-    // The walker looks at the token every few thousand entries; a stop that came before the end
-    // of a small tree must not pass for a whole summary either.
-    if (!finished || (cancellation && cancellation->isCancelled()))
+    const QByteArray root = rootOf(path);
+    StampVisitor visitor(root.size(), nullptr);
+    if (!walkWhole(root, visitor, nullptr, cancellation))
         return std::nullopt;
-    return visitor.result();
+    return visitor.stamp();
+}
+
+std::optional<Measured> measured(const QString& path, ScanProgress* progress, const CancellationToken* cancellation)
+{
+    const QByteArray root = rootOf(path);
+    LinkRegister links;
+    StampVisitor visitor(root.size(), &links);
+    if (!walkWhole(root, visitor, progress, cancellation))
+        return std::nullopt;
+    return Measured{visitor.stamp(), visitor.size()};
 }
 
 }  // namespace Fingerprint

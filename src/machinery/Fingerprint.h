@@ -1,6 +1,7 @@
 #pragma once
 
 #include "machinery/CancellationToken.h"
+#include "machinery/FileSizer.h"
 #include "vocabulary/TreeStamp.h"
 
 #include <QString>
@@ -17,5 +18,16 @@ namespace Fingerprint {
 // since a partial summary would be mistaken for a change.
 [[nodiscard]] std::optional<TreeStamp> compute(const QString& path,
                                                const CancellationToken* cancellation = nullptr);
+
+struct Measured {
+    TreeStamp stamp;
+    FileSizer::Measurement size;
+};
+
+// `compute`'s stamp and `FileSizer::measure`'s measurement of `path` from one walk, for a row
+// that is both measured and guarded. Entries go to `progress` (may be null) as FileSizer's do.
+// Absent when `cancellation` fired during the walk.
+[[nodiscard]] std::optional<Measured> measured(const QString& path, ScanProgress* progress,
+                                               const CancellationToken* cancellation);
 
 }  // namespace Fingerprint

@@ -2,7 +2,6 @@
 
 #include "format/RelativeDate.h"
 #include "machinery/FileInfo.h"
-#include "machinery/FileSizer.h"
 #include "scan/KnownLocations.h"
 #include "scan/LocationScanner.h"
 #include "scan/PropertyList.h"
@@ -65,8 +64,8 @@ QList<CleanupItem> backupRows(const QString& backups, const ScanContext& context
 
 std::optional<CleanupItem> DevicesScanner::backupRow(const QString& folder, const ScanContext& context)
 {
-    const std::optional<FileTarget> target = StampedTarget::of(folder, &context.cancellation);
-    if (!target)
+    const std::optional<StampedTarget::Measured> measured = StampedTarget::measured(folder, context);
+    if (!measured)
         return std::nullopt;
     const BackupFacts facts = factsOf(folder);
     CleanupItem item;
@@ -78,8 +77,8 @@ std::optional<CleanupItem> DevicesScanner::backupRow(const QString& folder, cons
     item.badge = QCoreApplication::translate("DevicesScanner", "Backup");
     item.detail = backupDetail(facts);
     item.date = facts.lastBackup;
-    item.size = FileSizer::measure(folder, context.progress.get(), &context.cancellation).bytes;
-    item.removal = Removal::trash({*target});
+    item.size = measured->bytes;
+    item.removal = Removal::trash({measured->target});
     return item;
 }
 

@@ -2,7 +2,6 @@
 
 #include "format/RelativeDate.h"
 #include "machinery/FileInfo.h"
-#include "machinery/FileSizer.h"
 #include "scan/StampedTarget.h"
 #include "scan/WalkNames.h"
 #include "vocabulary/FileStatus.h"
@@ -64,15 +63,15 @@ void InstallerSearch::consider(const QString& path, int level)
 
 void InstallerSearch::addRow(const QString& path, const struct stat& info)
 {
-    const std::optional<FileTarget> target = StampedTarget::of(path, &m_context.cancellation);
-    if (!target)
+    const std::optional<StampedTarget::Measured> measured = StampedTarget::measured(path, m_context);
+    if (!measured)
         return;
     CleanupItem item;
     item.id = path;
     item.category = CategoryID::installers;
     item.title = path.section(QLatin1Char('/'), -1);
-    item.size = FileSizer::measure(path, m_context.progress.get(), &m_context.cancellation).bytes;
-    item.removal = Removal::trash({*target});
+    item.size = measured->bytes;
+    item.removal = Removal::trash({measured->target});
     item.date = QDateTime::fromSecsSinceEpoch(info.st_mtime, QTimeZone::utc());
     const QString folder = PathRules::withTilde(path.section(QLatin1Char('/'), 0, -2), m_context.home);
     //: Fact in an Installers row's detail, after its folder; %1 is a relative date like '3 months ago'

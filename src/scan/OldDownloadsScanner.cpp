@@ -2,7 +2,6 @@
 
 #include "format/RelativeDate.h"
 #include "machinery/FileInfo.h"
-#include "machinery/FileSizer.h"
 #include "scan/InstallersScanner.h"
 #include "scan/NewestChange.h"
 #include "scan/StampedTarget.h"
@@ -43,15 +42,15 @@ std::optional<CleanupItem> OldDownloadsScanner::row(const QString& path, const S
     const std::optional<qint64> newest = NewestChange::of(path, &context.cancellation);
     if (!newest || *newest >= cutoff)
         return std::nullopt;
-    const std::optional<FileTarget> target = StampedTarget::of(path, &context.cancellation);
-    if (!target)
+    const std::optional<StampedTarget::Measured> measured = StampedTarget::measured(path, context);
+    if (!measured)
         return std::nullopt;
     CleanupItem item;
     item.id = path;
     item.category = CategoryID::oldDownloads;
     item.title = path.section(QLatin1Char('/'), -1);
-    item.size = FileSizer::measure(path, context.progress.get(), &context.cancellation).bytes;
-    item.removal = Removal::trash({*target});
+    item.size = measured->bytes;
+    item.removal = Removal::trash({measured->target});
     item.date = QDateTime::fromSecsSinceEpoch(*newest, QTimeZone::utc());
     //: Detail of an Old Downloads row; %1 is a relative date like '5 months ago'
     item.detail = QCoreApplication::translate("OldDownloadsScanner", "last changed %1")

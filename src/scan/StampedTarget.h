@@ -1,6 +1,6 @@
 #pragma once
 
-#include "machinery/CancellationToken.h"
+#include "machinery/ScanContext.h"
 #include "vocabulary/FileTarget.h"
 
 #include <QString>
@@ -12,7 +12,14 @@
 // stamp of its whole tree. Thread-safe.
 namespace StampedTarget {
 
-// Absent when the entry vanished, or the folder's walk was cancelled (`cancellation` may be null).
-[[nodiscard]] std::optional<FileTarget> of(const QString& path, const CancellationToken* cancellation = nullptr);
+struct Measured {
+    FileTarget target;
+    qint64 bytes = 0;  // allocated, as FileSizer measures them
+};
+
+// The target of `path` and what it takes on disk, a folder's from the same walk as its stamp.
+// Entries count towards the context's progress. Absent when the entry vanished, or the
+// folder's walk was cancelled.
+[[nodiscard]] std::optional<Measured> measured(const QString& path, const ScanContext& context);
 
 }  // namespace StampedTarget

@@ -3,7 +3,6 @@
 #include "scan/TemporaryScanner.h"
 
 #include "format/RelativeDate.h"
-#include "machinery/FileSizer.h"
 #include "scan/StampedTarget.h"
 #include "vocabulary/FileStatus.h"
 #include "vocabulary/PathRules.h"
@@ -48,11 +47,11 @@ std::optional<Measured> measure(const QList<TemporaryScanner::Entry>& entries, c
 {
     Measured measured;
     for (const TemporaryScanner::Entry& entry : entries) {
-        const std::optional<FileTarget> target = StampedTarget::of(entry.path, &context.cancellation);
-        if (!target || context.isCancelled())
+        const std::optional<StampedTarget::Measured> one = StampedTarget::measured(entry.path, context);
+        if (!one || context.isCancelled())
             return std::nullopt;
-        measured.bytes += FileSizer::measure(entry.path, context.progress.get(), &context.cancellation).bytes;
-        measured.targets.append(*target);
+        measured.bytes += one->bytes;
+        measured.targets.append(one->target);
     }
     return measured;
 }

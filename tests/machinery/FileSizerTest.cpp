@@ -1,4 +1,5 @@
 #include "machinery/FileSizer.h"
+#include "machinery/Fingerprint.h"
 #include "machinery/ScanProgress.h"
 #include "support/TempTree.h"
 
@@ -139,7 +140,8 @@ TEST(FileSizer, PublishesEveryEntryAndReadsNothingOnceCancelled)
 }
 
 // Big enough to be measured on two threads, with hard links whose copies land in different
-// threads' subtrees: the sum must still be du's, to the byte.
+// threads' subtrees: the sum must still be du's, to the byte, also when the walk stamps the
+// tree at the same time; and the stamp joined from the pieces still sees a change deep in one.
 TEST(FileSizer, BigTreeMeasuredInPiecesMatchesDu)
 {
     TempTree tree;
@@ -163,4 +165,14 @@ TEST(FileSizer, BigTreeMeasuredInPiecesMatchesDu)
     EXPECT_EQ(m.files, 25 * 1001 + 1) << "the linked file once";
     EXPECT_EQ(m.logicalBytes, 40'000 + 5'000 * (24 * 25 / 2));
     EXPECT_TRUE(m.complete);
+
+    const std::optional<Fingerprint::Measured> stamped = Fingerprint::measured(tree.path("top"), nullptr, nullptr);
+    ASSERT_TRUE(stamped.has_value());
+    EXPECT_EQ(stamped->size.bytes, m.bytes);
+    EXPECT_EQ(stamped->size.files, m.files);
+    EXPECT_EQ(stamped->size.logicalBytes, m.logicalBytes);
+    EXPECT_EQ(stamped->stamp.files, 1 + 25 * 1001 + 24) << "the stamp lists every name of the linked file";
+    EXPECT_EQ(stamped->stamp, Fingerprint::compute(tree.path("top")));
+    tree.setTimes("top/d24/inner/f999", 1'600'000'000);
+    EXPECT_NE(Fingerprint::compute(tree.path("top")), stamped->stamp);
 }

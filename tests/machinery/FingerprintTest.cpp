@@ -1,4 +1,5 @@
 #include "machinery/Fingerprint.h"
+#include "machinery/ScanProgress.h"
 #include "support/TempTree.h"
 
 #include <QDir>
@@ -100,6 +101,33 @@ TEST(Fingerprint, AMissingPathIsUnreadableAndAStoppedWalkHasNoResult)
     token.cancel();
     EXPECT_FALSE(Fingerprint::compute(tree.path(QStringLiteral("many")), &token).has_value());
     EXPECT_EQ(stampOf(tree.path(QStringLiteral("many"))).files, 600);
+}
+
+// A row that is both measured and guarded takes both from one walk: the stamp must be the
+// remover's, the size FileSizer's (which counts Finder's files and a hard link once).
+TEST(Fingerprint, OneWalkGivesTheStampAndTheMeasurement)
+{
+    TempTree tree;
+    buildProject(tree, QStringLiteral("p"), QStringLiteral("/nowhere"));
+    tree.file(QStringLiteral("p/sub/.DS_Store"), 6148);
+    tree.hardlink(QStringLiteral("p/a-again.txt"), QStringLiteral("p/a.txt"));
+    const QString top = tree.path(QStringLiteral("p"));
+
+    ScanProgress progress;
+    const std::optional<Fingerprint::Measured> measured = Fingerprint::measured(top, &progress, nullptr);
+    ASSERT_TRUE(measured.has_value());
+    EXPECT_EQ(measured->stamp, stampOf(top));
+    EXPECT_EQ(measured->stamp.files, 3) << "both names of the linked file are part of the layout";
+    const FileSizer::Measurement sized = FileSizer::measure(top);
+    EXPECT_EQ(measured->size.bytes, sized.bytes);
+    EXPECT_EQ(measured->size.files, sized.files);
+    EXPECT_EQ(measured->size.logicalBytes, 100 + 2000 + 6148);
+    EXPECT_EQ(measured->size.latestChange, sized.latestChange);
+    EXPECT_EQ(progress.snapshot().entries, 8) << "each entry counted once";
+
+    CancellationToken token;
+    token.cancel();
+    EXPECT_FALSE(Fingerprint::measured(top, nullptr, &token).has_value());
 }
 
 }  // namespace
