@@ -59,13 +59,7 @@ public:
     void join(SplittableVisitor& later) override
     {
         const auto& part = static_cast<StampVisitor&>(later);
-        m_stamp.files += part.m_stamp.files;
-        m_stamp.bytes += part.m_stamp.bytes;
-        m_stamp.unreadable += part.m_stamp.unreadable;
-        m_stamp.latestChange = std::max(m_stamp.latestChange, part.m_stamp.latestChange);
-        m_stamp.layout += part.m_stamp.layout;
-        m_stamp.stamps += part.m_stamp.stamps;
-        m_stamp.statusStamps += part.m_stamp.statusStamps;
+        m_stamp += part.m_stamp;
         m_size += part.m_size;
     }
 

@@ -16,6 +16,20 @@ struct TreeStamp {
     quint64 statusStamps = 0; // hash of each entry's status-change time
 
     bool operator==(const TreeStamp&) const = default;
+
+    // Adds the stamp of another part of the same tree, walked apart: every hash is a sum over
+    // entries, so the parts add up to the stamp of one walk.
+    TreeStamp& operator+=(const TreeStamp& part)
+    {
+        files += part.files;
+        bytes += part.bytes;
+        unreadable += part.unreadable;
+        latestChange = latestChange > part.latestChange ? latestChange : part.latestChange;
+        layout += part.layout;
+        stamps += part.stamps;
+        statusStamps += part.statusStamps;
+        return *this;
+    }
 };
 
 inline size_t qHash(const TreeStamp& t, size_t seed = 0)
