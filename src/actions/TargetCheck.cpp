@@ -44,7 +44,7 @@ std::optional<QString> vanishedProblem(const FileTarget& target, int error)
 
 // Checks 3 to 6: the object found at the path is the one the scan saw, unchanged.
 std::optional<QString> objectProblem(const FileTarget& target, const struct stat& info,
-                                     const RemovalEnvironment& environment)
+                                     const CancellationToken* cancellation)
 {
     if (S_ISLNK(info.st_mode))
         return RemovalReasons::symbolicLink();
@@ -54,7 +54,7 @@ std::optional<QString> objectProblem(const FileTarget& target, const struct stat
         return RemovalReasons::changedSinceScan();
     if (target.content && !hasSameContent(*target.content, info))
         return RemovalReasons::changedSinceScan();
-    if (target.tree && Fingerprint::compute(target.path, environment.cancellation) != target.tree)
+    if (target.tree && Fingerprint::compute(target.path, cancellation) != target.tree)
         return RemovalReasons::changedSinceScan();
     return std::nullopt;
 }
@@ -120,7 +120,7 @@ std::optional<QString> problem(const FileTarget& target, const RemovalEnvironmen
     struct stat info {};
     if (::lstat(QFile::encodeName(target.path).constData(), &info) != 0)
         return vanishedProblem(target, errno);
-    if (auto found = objectProblem(target, info, environment))
+    if (auto found = objectProblem(target, info, environment.cancellation))
         return found;
     if (auto found = parentProblem(target))
         return found;
@@ -129,6 +129,14 @@ std::optional<QString> problem(const FileTarget& target, const RemovalEnvironmen
     if (auto found = runningProblem(target, environment))
         return found;
     return quietProblem(target, environment, projectPath);
+}
+
+bool isAsScanned(const FileTarget& target, const CancellationToken* cancellation)
+{
+    struct stat info {};
+    if (::lstat(QFile::encodeName(target.path).constData(), &info) != 0)
+        return false;
+    return !objectProblem(target, info, cancellation);
 }
 
 bool isInAllowedPlace(const QString& path, const RemovalEnvironment& environment)

@@ -20,6 +20,11 @@ namespace TargetCheck {
 [[nodiscard]] std::optional<QString> problem(const FileTarget& target, const RemovalEnvironment& environment,
                                              const std::optional<QString>& projectPath = std::nullopt);
 
+// True when the object the scan saw is still at the target's path, unchanged: not a link, same
+// device, inode and birth time, same content stamp and tree stamp where they were recorded.
+// Anything that can't be read counts as not there.
+[[nodiscard]] bool isAsScanned(const FileTarget& target, const CancellationToken* cancellation = nullptr);
+
 // Whether `path` is somewhere removal may touch: strictly inside the home folder, an app bundle
 // directly in "/Applications", or inside a scan folder on another disk.
 [[nodiscard]] bool isInAllowedPlace(const QString& path, const RemovalEnvironment& environment);

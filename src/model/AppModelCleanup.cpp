@@ -1,5 +1,6 @@
 // The cleanup session of AppModel: one worker thread removes the items one at a time and
 // reports each step back to the GUI thread, where the results and the session change.
+#include "actions/TargetCheck.h"
 #include "model/AppModel.h"
 #include "model/SelectionIndex.h"
 #include "model/SettingsStore.h"
@@ -8,6 +9,39 @@
 #include <QCoreApplication>
 #include <QPointer>
 #include <QThreadPool>
+
+#include <algorithm>
+
+namespace {
+
+// Whether the copy's every file is still on disk as the scan saw it.
+bool isOnDisk(const CleanupItem& copy)
+{
+    const auto trash = copy.removal.as<Removal::Trash>();
+    return trash && !trash->targets.isEmpty()
+        && std::all_of(trash->targets.begin(), trash->targets.end(),
+                       [](const FileTarget& target) { return TargetCheck::isAsScanned(target); });
+}
+
+// Why a duplicate copy must stay: no other copy of its group stays listed, or none of those is
+// still on disk as the scan saw it (moved, deleted or rewritten outside the app). Read from the
+// disk right before the copy goes.
+std::optional<QString> lastCopyReason(const CleanupItem& item, const QList<CleanupItem>& copies)
+{
+    if (AppModel::wouldLoseLastCopy(item, copies))
+        //: Why a duplicate was not removed: every other copy is gone or being removed
+        return AppModel::tr("It's the last copy of this file, so it was kept.");
+    if (!item.duplicateGroup)
+        return std::nullopt;
+    for (const CleanupItem& other : copies) {
+        if (other.id != item.id && other.duplicateGroup == item.duplicateGroup && isOnDisk(other))
+            return std::nullopt;
+    }
+    //: Why a duplicate was not removed: the other copies were moved or changed outside Dustlark
+    return AppModel::tr("The other copies are gone, so this is the last one. It was kept.");
+}
+
+}  // namespace
 
 template <typename Work>
 void AppModel::onWorker(Work work)
@@ -68,10 +102,8 @@ void AppModel::runCleanup(CleanupSession* session, QList<CleanupItem> items, QLi
 bool AppModel::removeOne(CleanupSession* session, const CleanupItem& item, const QList<CleanupItem>& copies)
 {
     QMetaObject::invokeMethod(this, [session, title = item.title] { session->setCurrent(title); }, Qt::QueuedConnection);
-    const CleanupSession::Outcome outcome = wouldLoseLastCopy(item, copies)
-        //: Why a duplicate was not removed: every other copy is gone or being removed
-        ? CleanupSession::Outcome::failed(tr("It's the last copy of this file, so it was kept."))
-        : m_services.removeItem(item);
+    const std::optional<QString> kept = lastCopyReason(item, copies);
+    const CleanupSession::Outcome outcome = kept ? CleanupSession::Outcome::failed(*kept) : m_services.removeItem(item);
     QMetaObject::invokeMethod(this, [this, session, item, outcome] {
         session->record(item, outcome);
         if (outcome.succeeded())

@@ -403,6 +403,11 @@ FileTarget targetOf(const File& file)
     target.device = file.device;
     target.inode = file.inode;
     target.content = file.stamp;
+    // The birth time tells this file from one made later on its freed inode; taken only while
+    // the path still names the object the walk found.
+    const std::optional<FileTarget> now = FileTarget::make(file.path);
+    if (now && now->device == file.device && now->inode == file.inode)
+        target.birth = now->birth;
     return target;
 }
 

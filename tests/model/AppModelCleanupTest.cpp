@@ -9,6 +9,7 @@
 
 #include <cstdio>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -153,6 +154,72 @@ TEST(AppModelCleanup, TheSecondOfTheLastTwoCopiesIsRefused)
     EXPECT_EQ(session.failures().first().reason, "It's the last copy of this file, so it was kept.");
     EXPECT_TRUE(QFileInfo::exists(tree.path("b.mov")));
     EXPECT_FALSE(QFileInfo::exists(tree.path("a.mov")));
+}
+
+namespace {
+
+// A duplicates row as the finder makes it: identity, birth time and content stamp.
+CleanupItem copyRow(const TempTree& tree, const QString& relative, const QString& group)
+{
+    CleanupItem copy = realRow(CategoryID::duplicates, tree, relative, 2000);
+    copy.title = relative;
+    copy.duplicateGroup = group;
+    auto& target = std::get<Removal::Trash>(copy.removal.value).targets.first();
+    struct stat info {};
+    EXPECT_EQ(::lstat(QFile::encodeName(target.path).constData(), &info), 0);
+    target.content = FileTarget::ContentStamp::of(info);
+    return copy;
+}
+
+}  // namespace
+
+// Each pair: the person ticks the first copy; outside the app the second is moved away,
+// replaced by another file of its name, rewritten in place, or left alone. Only the last
+// pair's ticked copy may go.
+TEST(AppModelCleanup, ACopyWhoseOtherCopyIsNoLongerOnDiskAsScannedStays)
+{
+    TempTree tree;
+    const QStringList pairs = {"moved", "replaced", "rewritten", "intact"};
+    for (const QString& pair : pairs) {
+        tree.file(pair + "/ticked.mov", 2000);
+        tree.file(pair + "/other.mov", 2000);
+    }
+    ModelFixture fixture({}, tree.root(), [&](AppModel::Services& s) { useRealRemover(s, tree.root()); });
+    AppModel& model = fixture.model();
+    QList<CleanupItem> rows;
+    for (const QString& pair : pairs) {
+        for (const char* name : {"/ticked.mov", "/other.mov"})
+            rows.append(copyRow(tree, pair + name, pair));
+    }
+    show(model, CategoryID::duplicates, rows);
+    for (qsizetype i = 0; i < rows.size(); i += 2)
+        model.setSelected(rows[i], true);
+    ASSERT_EQ(model.selection().size(), 4);
+    tree.dir("Elsewhere");
+    ASSERT_EQ(::rename(QFile::encodeName(tree.path("moved/other.mov")).constData(),
+                       QFile::encodeName(tree.path("Elsewhere/other.mov")).constData()), 0);
+    tree.file("replaced/new.mov", 2000);  // made first, so its inode differs
+    ASSERT_EQ(::rename(QFile::encodeName(tree.path("replaced/new.mov")).constData(),
+                       QFile::encodeName(tree.path("replaced/other.mov")).constData()), 0);
+    QFile rewritten(tree.path("rewritten/other.mov"));
+    ASSERT_TRUE(rewritten.open(QIODevice::Append));
+    ASSERT_EQ(rewritten.write("edit"), 4);
+    rewritten.close();
+
+    ASSERT_TRUE(runCleanup(model));
+
+    const CleanupSession& session = *model.cleanup();
+    QStringList kept;
+    for (const CleanupSession::Failure& failure : session.failures()) {
+        kept.append(failure.title);
+        EXPECT_EQ(failure.reason, "The other copies are gone, so this is the last one. It was kept.");
+    }
+    EXPECT_EQ(kept, QStringList({"moved/ticked.mov", "replaced/ticked.mov", "rewritten/ticked.mov"}));
+    for (const QString& pair : pairs.mid(0, 3))
+        EXPECT_TRUE(QFileInfo::exists(tree.path(pair + "/ticked.mov"))) << pair.toStdString();
+    EXPECT_EQ(session.movedToTrash(), 2000);
+    EXPECT_FALSE(QFileInfo::exists(tree.path("intact/ticked.mov")));
+    EXPECT_TRUE(QFileInfo::exists(tree.path("intact/other.mov")));
 }
 
 TEST(AppModelCleanup, ARefusedTargetIsAFailureWithItsReasonAndStaysListed)
