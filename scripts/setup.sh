@@ -5,6 +5,8 @@ set -euo pipefail
 DEBIAN_PACKAGES=(qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
     libssl-dev libplist-dev libgtest-dev libgmock-dev cmake g++ git openssl pkg-config ccache xvfb xauth python3
     qt6-base-private-dev trash-cli exfatprogs exfat-fuse)  # trash-cli: the trash round trip; exFAT: a real exFAT disk for the mover tests
+# flatpak: the leftovers tests install and uninstall real Flatpak apps that the scan then reads
+DEBIAN_PACKAGES+=(flatpak)
 BREW_PACKAGES=(qt openssl@3 libplist googletest cmake pkg-config)
 
 as_root() {

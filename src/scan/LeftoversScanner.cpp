@@ -2,7 +2,6 @@
 
 #include "format/RelativeDate.h"
 #include "machinery/Concurrency.h"
-#include "platform/Platform.h"
 #include "scan/MeasuredPaths.h"
 
 #include <QCoreApplication>
@@ -77,7 +76,7 @@ ScanOutputs LeftoversScanner::scan(const ScanContext& context) const
     const QSet<QString> installed = installedIdentifiers(folders, context.home);
     const QSet<QString> groupsInUse = installedGroups(folders, context.home, codesign, context.cancellation);
     Groups groups = removed(withoutGroups(candidates(context.home, context.fullDiskAccess), groupsInUse), installed);
-    const Groups flatpakGroups = flatpakLeftovers(context.home, flatpak, &context.cancellation);
+    const Groups flatpakGroups = flatpakLeftovers(context.home, flatpak);
     for (auto it = flatpakGroups.begin(); it != flatpakGroups.end(); ++it)
         groups[it.key()] += it.value();
 
@@ -91,11 +90,4 @@ ScanOutputs LeftoversScanner::scan(const ScanContext& context) const
     std::stable_sort(output.items.begin(), output.items.end(),
                      [](const CleanupItem& a, const CleanupItem& b) { return a.size > b.size; });
     return {{CategoryID::leftovers, output}};
-}
-
-std::optional<QString> LeftoversScanner::standardFlatpak()
-{
-    if (Platform::desktop() != Platform::Desktop::freedesktop)
-        return std::nullopt;  // Flatpak is a Linux packaging
-    return QStringLiteral("/usr/bin/flatpak");
 }

@@ -2,6 +2,7 @@
 
 #include "scan/AppFolders.h"
 #include "scan/AppsScanner.h"
+#include "scan/FlatpakApps.h"
 #include "scan/Scanner.h"
 
 #include <QMap>
@@ -21,7 +22,7 @@ public:
     using Groups = QMap<QString, QStringList>;
 
     AppFolders folders;
-    std::optional<QString> flatpak = standardFlatpak();
+    std::optional<FlatpakApps> flatpak = FlatpakApps::standard();
     std::optional<QString> codesign = AppsScanner::standardCodesign();
 
     QList<CategoryID> categories() const override { return {CategoryID::leftovers}; }
@@ -59,11 +60,8 @@ public:
     [[nodiscard]] static QString displayName(const QString& identifier, const QStringList& paths);
 
     // Linux: data folders of Flatpak apps that are no longer installed, by app ID. Empty when
-    // `flatpak` is absent or cannot list the installed apps.
-    [[nodiscard]] static Groups flatpakLeftovers(const QString& home, const std::optional<QString>& flatpak,
-                                                 const CancellationToken* cancellation = nullptr);
-
-    [[nodiscard]] static std::optional<QString> standardFlatpak();
+    // `flatpak` is absent or its installations can't be read.
+    [[nodiscard]] static Groups flatpakLeftovers(const QString& home, const std::optional<FlatpakApps>& flatpak);
 
     // Anything changed more recently than this is taken to be in use.
     static constexpr int quietDays = 30;

@@ -1,7 +1,6 @@
 #include "scan/LeftoversScanner.h"
 
 #include "machinery/FileInfo.h"
-#include "machinery/ProcessRunner.h"
 #include "machinery/TreeWalker.h"
 
 #include <QCoreApplication>
@@ -114,20 +113,6 @@ void lookInto(const QString& path, Found& found, const CancellationToken* cancel
     TreeWalker(options).walk(QFile::encodeName(path), search);
 }
 
-QSet<QString> installedFlatpaks(const QString& flatpak, const CancellationToken* cancellation, bool* known)
-{
-    const ProcessRunner::Result result = ProcessRunner::run(
-        flatpak, {QStringLiteral("list"), QStringLiteral("--app"), QStringLiteral("--columns=application")},
-        std::chrono::seconds(30), {}, cancellation);
-    *known = result.launched() && !result.output->timedOut && result.output->status == 0;
-    QSet<QString> installed;
-    if (!*known)
-        return installed;
-    for (const QString& line : result.output->standardOutput.split(QLatin1Char('\n')))
-        installed.insert(line.trimmed());
-    return installed;
-}
-
 }  // namespace
 
 QStringList LeftoversScanner::userDataSigns(const QStringList& paths, const CancellationToken* cancellation)
@@ -145,19 +130,17 @@ QStringList LeftoversScanner::userDataSigns(const QStringList& paths, const Canc
     return kinds;
 }
 
-LeftoversScanner::Groups LeftoversScanner::flatpakLeftovers(const QString& home, const std::optional<QString>& flatpak,
-                                                           const CancellationToken* cancellation)
+LeftoversScanner::Groups LeftoversScanner::flatpakLeftovers(const QString& home, const std::optional<FlatpakApps>& flatpak)
 {
     if (!flatpak)
         return {};
-    bool known = false;
-    const QSet<QString> installed = installedFlatpaks(*flatpak, cancellation, &known);
-    if (!known)
+    const std::optional<QSet<QString>> installed = flatpak->installed(home);
+    if (!installed)
         return {};  // without the installed list, every data folder would look abandoned
     const QString data = home + QStringLiteral("/.var/app");
     Groups groups;
     for (const QString& id : FileInfo::children(data)) {
-        if (!id.startsWith(QLatin1Char('.')) && !installed.contains(id))
+        if (!id.startsWith(QLatin1Char('.')) && !installed->contains(id))
             groups[id].append(data + QLatin1Char('/') + id);
     }
     return groups;

@@ -3,6 +3,7 @@
 
 #include "actions/ToolStandIn.h"
 #include "scan/AppFixture.h"
+#include "scan/FlatpakFixture.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -198,24 +199,37 @@ TEST(LeftoversScanner, LaunchAgentsGoWithTheProgramTheyStart)
     EXPECT_TRUE(rowWithId(output, "leftovers:com.broken.Agent"));
 }
 
+// Installations made by the real flatpak: the person's own under the home, the system's, and
+// one that a configuration file names. Only the data of the app uninstalled again is left over.
 TEST(LeftoversScanner, FlatpakDataOfUninstalledAppsIsListedOnlyWhenTheInstalledListIsKnown)
 {
     AppFixture f;
-    f.tree.file("home/.var/app/org.kept.Editor/config/settings", 100);
+    const QStringList ids = {"org.kept.Editor", "org.system.Viewer", "org.extra.Player", "org.gone.Browser"};
+    for (const QString& id : ids)
+        f.tree.file("home/.var/app/" + id + "/config/settings", 100);
     f.tree.file("home/.var/app/org.gone.Browser/data/History", 100);
-    const ToolStandIn flatpak("flatpak-standin", "flatpak");
-    const QString tools = QFileInfo(flatpak.path()).path();
-    writeFile(tools + "/installed", "org.kept.Editor\norg.other.App\n");
+    const FlatpakFixture flatpak(ids);
+    ASSERT_TRUE(flatpak.ok()) << qPrintable(flatpak.error());
+    const QString own = f.tree.path("home/.local/share/flatpak");
+    ASSERT_TRUE(flatpak.install(own, "org.kept.Editor")) << qPrintable(flatpak.error());
+    ASSERT_TRUE(flatpak.install(own, "org.gone.Browser")) << qPrintable(flatpak.error());
+    ASSERT_TRUE(flatpak.uninstall(own, "org.gone.Browser")) << qPrintable(flatpak.error());
+    ASSERT_TRUE(flatpak.install(f.tree.path("system"), "org.system.Viewer")) << qPrintable(flatpak.error());
+    ASSERT_TRUE(flatpak.install(f.tree.path("media/apps"), "org.extra.Player")) << qPrintable(flatpak.error());
+    f.tree.file("etc/installations.d/media.conf",
+                QByteArray("[Installation \"media\"]\nPath=") + f.tree.path("media/apps").toUtf8() + "\nDisplayName=Media\n");
     LeftoversScanner scanner = scannerFor(f);
-    scanner.flatpak = flatpak.path();
+    scanner.flatpak = FlatpakApps{{f.tree.path("system")}, f.tree.path("etc/installations.d"), {}};
 
     const ScanOutput output = scanLeftovers(scanner, f);
     ASSERT_EQ(output.items.size(), 1);
     EXPECT_EQ(output.items.first().removal.paths(), QStringList{f.tree.path("home/.var/app/org.gone.Browser")});
     EXPECT_EQ(output.items.first().userData, QStringList{"browsing history"});
 
-    writeFile(tools + "/status", "1");
+    // An installation that can't be read leaves every data folder alone, as does no flatpak.
+    f.tree.file("broken/app", 10);
+    scanner.flatpak->systemInstallations.append(f.tree.path("broken"));
     EXPECT_TRUE(scanLeftovers(scanner, f).items.isEmpty());
-    scanner.flatpak = f.tree.path("no/flatpak");
+    scanner.flatpak = std::nullopt;
     EXPECT_TRUE(scanLeftovers(scanner, f).items.isEmpty());
 }

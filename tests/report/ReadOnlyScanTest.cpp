@@ -1,0 +1,102 @@
+// A scan only reads: a full scan of every scanner, by the report tool, leaves a fixture home and
+// an empty home exactly as they were. The tool runs as the person's session would: HOME is the
+// scanned home and no XDG variable moves the tools' own folders elsewhere, so a tool that writes
+// its folders into the home (flatpak made ~/.local/share/flatpak and ~/.cache) is caught.
+#include "scan/ProjectScannerGit.h"
+#include "support/TempTree.h"
+
+#include <QDirIterator>
+#include <QFile>
+#include <QMap>
+#include <QProcess>
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+namespace {
+
+// Every entry under `root` (the root too, links not followed) with what a write would change:
+// kind and mode, size, modification and status-change times, inode and link count.
+QMap<QString, QString> entriesOf(const QString& root)
+{
+    QMap<QString, QString> entries;
+    QStringList paths{root};
+    QDirIterator it(root, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                    QDirIterator::Subdirectories);
+    while (it.hasNext())
+        paths.append(it.next());
+    for (const QString& path : paths) {
+        const QString relative = path.mid(root.size());
+        struct stat info {};
+        if (::lstat(QFile::encodeName(path).constData(), &info) != 0) {
+            entries.insert(relative, QStringLiteral("unreadable"));
+            continue;
+        }
+        entries.insert(relative, QStringLiteral("mode %1 size %2 mtime %3.%4 ctime %5.%6 inode %7 links %8")
+                                                  .arg(info.st_mode, 0, 8).arg(info.st_size)
+                                                  .arg(info.st_mtim.tv_sec).arg(info.st_mtim.tv_nsec)
+                                                  .arg(info.st_ctim.tv_sec).arg(info.st_ctim.tv_nsec)
+                                                  .arg(info.st_ino).arg(info.st_nlink));
+    }
+    return entries;
+}
+
+// Runs a full scan of `home` as the person's session would run it.
+void scanAsTheSession(const QString& home)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("HOME"), home);
+    for (const char* name : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME", "FLATPAK_USER_DIR"})
+        environment.remove(QString::fromLatin1(name));
+    QProcess cli;
+    cli.setProcessEnvironment(environment);
+    cli.setWorkingDirectory(home);
+    cli.start(QStringLiteral(DUSTLARK_CLI), {"scan", "--home", home, "--json"});
+    ASSERT_TRUE(cli.waitForFinished(120'000));
+    ASSERT_EQ(cli.exitCode(), 0) << cli.readAllStandardError().constData();
+}
+
+// What each scanner reads: builds, a git repository with a worktree, copies, large files,
+// caches, downloads, the Trash, app and Flatpak data, agents' folders.
+void buildFixtureHome(const TempTree& tree)
+{
+    tree.file("home/code/web/package.json");
+    tree.file("home/code/web/node_modules/left-pad/index.js", 4000);
+    tree.file("home/code/app/README", QByteArray("hello\n"));
+    ProjectScannerGit::initRepository(tree.path("home/code/app"));
+    ProjectScannerGit::run(tree.path("home/code/app"), {"worktree", "add", "-q", "-b", "feature", tree.path("home/code/app-feature")});
+    tree.file("home/code/app-feature/notes.txt", QByteArray("uncommitted\n"));
+    tree.sparseFile("home/media/movie.mov", 250'000'000);
+    tree.file("home/docs/report.pdf", 1'500'000, 'r');
+    tree.file("home/backup/report.pdf", 1'500'000, 'r');
+    tree.file("home/.cache/pip/http/a/b/c", 20'000'000);
+    tree.file("home/.npm/_cacache/content-v2/x", 2'000'000);
+    tree.file("home/Downloads/Setup.dmg", 10);
+    tree.file("home/Downloads/old.zip", 10);
+    tree.file("home/.local/share/Trash/files/junk.txt", 5000);
+    tree.file("home/.local/share/Trash/info/junk.txt.trashinfo", QByteArray("[Trash Info]\nPath=/junk.txt\nDeletionDate=2024-01-01T00:00:00\n"));
+    tree.file("home/.var/app/org.gone.Browser/data/History", 100);
+    tree.file("home/.config/google-chrome/Default/Cache/data_1", 1000);
+    tree.file("home/.claude/projects/p/session.jsonl", 1000);
+    tree.file("home/.android/avd/Pixel.avd/userdata.img", 1000);
+    tree.file("home/tmp/scratch.txt", 10);
+    tree.symlink("home/link-out", "/etc");
+}
+
+}  // namespace
+
+TEST(ReadOnlyScan, AFullScanLeavesAFixtureHomeAndAnEmptyHomeAsTheyWere)
+{
+    TempTree tree;
+    buildFixtureHome(tree);
+    const QString empty = tree.dir("empty");
+    for (const QString& home : {tree.path("home"), empty}) {
+        const QMap<QString, QString> before = entriesOf(home);
+        scanAsTheSession(home);
+        const QMap<QString, QString> after = entriesOf(home);
+        for (auto it = after.cbegin(); it != after.cend(); ++it)
+            EXPECT_EQ(before.value(it.key(), "(new)").toStdString(), it.value().toStdString()) << qPrintable(home + it.key());
+        for (auto it = before.cbegin(); it != before.cend(); ++it)
+            EXPECT_TRUE(after.contains(it.key())) << "gone: " << qPrintable(home + it.key());
+    }
+}
