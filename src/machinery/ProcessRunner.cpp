@@ -1,5 +1,6 @@
 #include "machinery/ProcessRunner.h"
 
+#include "machinery/OrphanReaper.h"
 #include "machinery/ToolStop.h"
 #include "platform/Platform.h"
 
@@ -347,6 +348,7 @@ Result run(const QString& executable, const QStringList& arguments, milliseconds
     Output output;
     const StopCondition condition{Clock::now() + std::clamp(timeout, milliseconds(0), longestTimeout), cancellation};
     output.status = waitForExit(tool, capture, condition, output.timedOut);
+    OrphanReaper::collectGroupAsItEnds(tool);
     drain(capture);
     output.standardOutput = QString::fromUtf8(capture.out.data);
     output.standardError = QString::fromUtf8(capture.err.data);

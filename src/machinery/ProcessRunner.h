@@ -50,7 +50,8 @@ struct Result {
 // `cancellation` (may be null) fires, the tool and everything it started are stopped (ToolStop):
 // SIGTERM now, SIGKILL 5 s later to what is left, and the call returns once nothing is left. A
 // grandchild that keeps an output open holds the call at most about 2 s after the tool itself
-// ended. Never call on the GUI thread.
+// ended; what the tool leaves running is collected when it ends (OrphanReaper), never left a
+// zombie. Never call on the GUI thread.
 [[nodiscard]] Result run(const QString& executable, const QStringList& arguments,
                          std::chrono::milliseconds timeout, const Environment& extraEnvironment = {},
                          const CancellationToken* cancellation = nullptr);

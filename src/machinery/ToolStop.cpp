@@ -15,8 +15,9 @@ constexpr std::chrono::seconds gracePeriod{5};
 constexpr std::chrono::seconds unkillableLimit{2};
 constexpr std::chrono::milliseconds roundInterval{50};
 
-std::mutex toolsMutex;
-QSet<pid_t> launchedTools;  // guarded by toolsMutex
+// Never destroyed: detached orphan watchers may still use them while the process exits.
+std::mutex& toolsMutex = *new std::mutex;
+QSet<pid_t>& launchedTools = *new QSet<pid_t>;  // guarded by toolsMutex
 
 // Read after the process table, so every tool in the table is in it.
 QSet<pid_t> launchedToolsNow()
@@ -60,8 +61,8 @@ QList<Platform::ProcessEntry> treeOf(pid_t tool, const std::vector<Platform::Pro
 // An ended orphan that we adopted stays a zombie until we collect it; a tool is collected by its run.
 void collectIfAdopted(const Platform::ProcessEntry& entry)
 {
-    if (entry.parent == ::getpid() && !launchedToolsNow().contains(entry.pid))
-        ::waitpid(entry.pid, nullptr, WNOHANG);
+    if (entry.parent == ::getpid())
+        (void)ToolStop::collectOrphan(entry.pid);
 }
 
 }  // namespace
@@ -127,4 +128,13 @@ void ToolStop::forgetTool(pid_t tool)
 {
     const std::lock_guard lock(toolsMutex);
     launchedTools.remove(tool);
+}
+
+bool ToolStop::collectOrphan(pid_t pid)
+{
+    const std::lock_guard lock(toolsMutex);
+    if (launchedTools.contains(pid))
+        return false;
+    ::waitpid(pid, nullptr, WNOHANG);
+    return true;
 }

@@ -31,6 +31,11 @@ public:
     static pid_t launchRegistered(const std::function<pid_t()>& spawn);
     static void forgetTool(pid_t tool);
 
+    // Collects `pid` if it has ended, unless it is a registered tool (its run collects that):
+    // false then. No tool can be launched while this runs, so the id can't change meaning
+    // between the look and the collection. Thread-safe.
+    static bool collectOrphan(pid_t pid);
+
 private:
     using Clock = std::chrono::steady_clock;
 

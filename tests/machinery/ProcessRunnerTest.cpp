@@ -1,12 +1,15 @@
 #include "machinery/ProcessRunner.h"
 #include "platform/Platform.h"
 #include "support/TempTree.h"
+#include "support/Wait.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QSet>
 
+#include <algorithm>
 #include <csignal>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -291,6 +294,39 @@ TEST(ProcessRunner, StopLeavesNoProcessOfTheToolsTree)
 {
     expectNoSurvivors(QStringLiteral("double-fork"), 500ms, 1);
     expectNoSurvivors(QStringLiteral("term-trap"), 500ms, 1);  // ignores the stop: killed after the grace period
+}
+
+// Ended processes that are ours to collect and belong to one of `groups` (zombies).
+int zombiesIn(const QSet<pid_t>& groups)
+{
+    int zombies = 0;
+    for (const Platform::ProcessEntry& entry : Platform::processTable())
+        zombies += entry.parent == ::getpid() && entry.ended && groups.contains(entry.group) ? 1 : 0;
+    return zombies;
+}
+
+TEST(ProcessRunner, BackgroundChildrenThatEndAfterTheirToolAreCollected)
+{
+    TempTree tree;
+    const QString groups = tree.path("groups");
+    // The tool names its group (its own id) and leaves a child that ends a little later.
+    const QString script = QStringLiteral("echo $$ >> '%1'; sleep 0.3 </dev/null >/dev/null 2>&1 & exit 0").arg(groups);
+    for (int run = 0; run < 100; ++run) {
+        const ProcessRunner::Result result = ProcessRunner::run(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), script}, 10s);
+        ASSERT_TRUE(result.launched() && result.output->status == 0) << text(result.launchError);
+    }
+    QFile file(groups);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    QSet<pid_t> ids;
+    for (const QByteArray& line : file.readAll().split('\n')) {
+        if (!line.isEmpty())
+            ids.insert(pid_t(line.toInt()));
+    }
+    ASSERT_EQ(ids.size(), 100);
+    // Every child has ended after a while; none may be left a zombie.
+    EXPECT_TRUE(waitUntil([&] { return zombiesIn(ids) == 0 && !std::any_of(ids.begin(), ids.end(), [](pid_t group) {
+        return ::kill(-group, 0) == 0;
+    }); })) << zombiesIn(ids) << " zombies";
 }
 
 TEST(ProcessRunner, OutputBeyondTheCapIsDroppedAndTheFloodStopped)
