@@ -7,6 +7,8 @@
 #include <QJsonDocument>
 #include <QRegularExpression>
 
+#include <cmath>
+
 namespace {
 
 // The text under `key`; absent when missing or not text.
@@ -76,8 +78,12 @@ qint64 DockerScanner::parseSize(const QString& text)
         {QStringLiteral("tb"), 1e12}, {QStringLiteral("kib"), 1024.0}, {QStringLiteral("mib"), 1048576.0},
         {QStringLiteral("gib"), 1073741824.0}, {QStringLiteral("tib"), 1099511627776.0},
     };
-    const double number = match.captured(1).toDouble();
-    return static_cast<qint64>(number * factors.value(match.captured(2).toLower(), 1.0));
+    const double bytes = match.captured(1).toDouble() * factors.value(match.captured(2).toLower(), 1.0);
+    // Refused, not clamped: no disk holds 2^63 bytes, so such a text is garbage, and a clamped
+    // maximum would overflow the totals it is added to. Converting it would be undefined.
+    if (!std::isfinite(bytes) || bytes >= 9223372036854775808.0)
+        return 0;
+    return static_cast<qint64>(bytes);
 }
 
 std::optional<QDateTime> DockerScanner::date(const QString& text)

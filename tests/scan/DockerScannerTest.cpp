@@ -239,6 +239,9 @@ TEST(DockerScannerFormats, SizesAndTimes)
     const std::pair<const char*, qint64> sizes[] = {
         {"1.5GB", 1'500'000'000}, {"1.5GiB", 1'610'612'736}, {"0B", 0},        {"12kB (virtual 1.2GB)", 12'000},
         {"63B", 63},              {"2.5 MB", 2'500'000},     {"1TiB", 1'099'511'627'776}, {"N/A", 0}, {"", 0},
+        // Beyond what 64 bits hold: refused as garbage rather than wrapped to a negative size.
+        {"9000000TB", 9'000'000'000'000'000'000}, {"9300000TB", 0}, {"10000000000TB", 0},
+        {"9223372036854775807B", 0},
     };
     for (const auto& [text, bytes] : sizes)
         EXPECT_EQ(DockerScanner::parseSize(QString::fromLatin1(text)), bytes) << text;
