@@ -18,11 +18,13 @@ bool sameObject(const struct stat& a, const struct stat& b)
     return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
 }
 
-Verdict openFailure(int error)
+// A folder above the entry that is gone or no folder any more was renamed or replaced since the
+// scan (perhaps only for a moment): the path changed, it didn't become unreadable.
+Verdict lookFailure(int error)
 {
     if (error == ELOOP)
         return Verdict::throughSymbolicLink;
-    if (error == ENOTDIR)
+    if (error == ENOENT || error == ENOTDIR)
         return Verdict::changed;
     return Verdict::folderUnreadable;
 }
@@ -32,12 +34,12 @@ Verdict descend(Descriptor& folder, const QByteArray& name, const QByteArray& pr
 {
     struct stat byPath {};
     if (::lstat(prefix.constData(), &byPath) != 0)
-        return Verdict::folderUnreadable;
+        return lookFailure(errno);
     if (S_ISLNK(byPath.st_mode))
         return Verdict::throughSymbolicLink;
     const int next = ::openat(folder.get(), name.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
     if (next < 0)
-        return openFailure(errno);
+        return lookFailure(errno);
     folder.reset(next);
     struct stat byDescriptor {};
     if (::fstat(folder.get(), &byDescriptor) != 0)

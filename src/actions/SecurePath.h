@@ -15,7 +15,7 @@ enum class Verdict {
     ok,
     throughSymbolicLink,  // a folder above it is (or became) a symbolic link
     folderUnreadable,     // a folder above it can't be opened or examined
-    changed,              // a folder above it was swapped between two looks
+    changed,              // a folder above it was swapped, renamed or removed between two looks
     missing,              // the final entry is not there
 };
 
