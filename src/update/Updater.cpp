@@ -1,5 +1,7 @@
 #include "update/Updater.h"
 
+#include "format/ByteCount.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QDir>
@@ -10,7 +12,9 @@
 
 #include <openssl/evp.h>
 
+#include <cerrno>
 #include <memory>
+#include <system_error>
 #include <unistd.h>
 
 namespace Updater {
@@ -41,32 +45,85 @@ std::optional<QByteArray> sha256Of(const QString& path, QString* error)
     return QByteArray(reinterpret_cast<const char*>(digest), int(length)).toHex();
 }
 
+// One download in flight: its file, and the first reason it must end that the transfer itself
+// would not tell (a failed write says "canceled" once the reply is aborted).
+struct Transfer {
+    std::shared_ptr<QTemporaryFile> image;
+    qint64 maxBytes = 0;
+    qint64 written = 0;
+    QString failure;
+
+    // Writes what arrived; false, with `failure` set, when the transfer must end.
+    bool take(const QByteArray& bytes)
+    {
+        if (!failure.isEmpty())
+            return false;
+        if (written + bytes.size() > maxBytes) {
+            failure = tooLarge(maxBytes);
+            return false;
+        }
+        if (const int error = writeAll(image->handle(), bytes)) {
+            failure = QString::fromStdString(std::generic_category().message(error));
+            return false;
+        }
+        written += bytes.size();
+        return true;
+    }
+
+    // Written straight to the descriptor: QFile's buffered write reports a full disk as
+    // "Unknown error". 0, or the errno of the write that failed.
+    static int writeAll(int fd, const QByteArray& bytes)
+    {
+        qsizetype done = 0;
+        while (done < bytes.size()) {
+            const ssize_t count = ::write(fd, bytes.constData() + done, size_t(bytes.size() - done));
+            if (count < 0 && errno == EINTR)
+                continue;
+            if (count < 0)
+                return errno;
+            done += count;
+        }
+        return 0;
+    }
+
+    QString errorOf(QNetworkReply* reply) const
+    {
+        if (!failure.isEmpty())
+            return failure;
+        if (reply->error() != QNetworkReply::NoError)
+            return reply->errorString();
+        const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+        if (status != 200)
+            return QStringLiteral("HTTP %1").arg(status);
+        return QString();
+    }
+};
+
 }  // namespace
 
-void download(const UpdateSite& site, const QUrl& url, QObject* context, std::function<void(Download)> done)
+void download(const UpdateSite& site, const QUrl& url, QObject* context, std::function<void(Download)> done,
+              const DownloadLimits& limits)
 {
-    auto image = std::make_shared<QTemporaryFile>(QDir::tempPath() + QStringLiteral("/Dustlark-update-XXXXXXupdate.dmg"));
+    const QString folder = limits.folder.isEmpty() ? QDir::tempPath() : limits.folder;
+    auto image = std::make_shared<QTemporaryFile>(folder + QStringLiteral("/Dustlark-update-XXXXXXupdate.dmg"));
     if (!image->open()) {
         done({nullptr, image->errorString()});
         return;
     }
+    auto transfer = std::make_shared<Transfer>(Transfer{image, limits.maxBytes, 0, {}});
     auto* manager = new QNetworkAccessManager(context);
     QNetworkReply* reply = manager->get(site.request(url));
-    QObject::connect(reply, &QNetworkReply::readyRead, reply, [reply, image] {
-        if (image->write(reply->readAll()) < 0)
+    QObject::connect(reply, &QNetworkReply::readyRead, reply, [reply, transfer] {
+        if (!transfer->take(reply->readAll()))
             reply->abort();
     });
-    QObject::connect(reply, &QNetworkReply::finished, manager, [manager, reply, image, done] {
-        image->write(reply->readAll());
-        const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-        QString error = reply->error() != QNetworkReply::NoError ? reply->errorString() : QString();
-        if (error.isEmpty() && status != 200)
-            error = QStringLiteral("HTTP %1").arg(status);
-        if (error.isEmpty() && !image->flush())
-            error = image->errorString();
+    QObject::connect(reply, &QNetworkReply::finished, manager, [manager, reply, transfer, done] {
+        if (reply->error() == QNetworkReply::NoError)
+            transfer->take(reply->readAll());
+        const QString error = transfer->errorOf(reply);
         reply->deleteLater();
         manager->deleteLater();
-        done(error.isEmpty() ? Download{image, {}} : Download{nullptr, error});
+        done(error.isEmpty() ? Download{transfer->image, {}} : Download{nullptr, error});
     });
 }
 
@@ -102,6 +159,13 @@ QString didNotPassCheck()
 {
     //: Install and Relaunch error when the downloaded image or app fails its digest or signature check
     return QCoreApplication::translate("Updater", "The downloaded update didn't pass the check. This copy wasn't changed.");
+}
+
+QString tooLarge(qint64 maxBytes)
+{
+    //: Install and Relaunch error, inside "Couldn't install the update (...)"; %1 is a size like "1 GB"
+    return QCoreApplication::translate("Updater", "the download is larger than %1, more than any update")
+        .arg(ByteCount::format(maxBytes));
 }
 
 QString couldNotInstall(const QString& message)

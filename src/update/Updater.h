@@ -38,10 +38,23 @@ struct Download {
     QString error;
 };
 
+// Where a download's temporary file goes and how large it may grow. An update image is tens of
+// megabytes; a server that sends more is broken or hostile, and must not fill the disk.
+struct DownloadLimits {
+    QString folder;                         // empty: the system's temporary folder
+    qint64 maxBytes = 1'000'000'000;
+};
+
 // Downloads `url` over the site's TLS settings into a new temporary file and calls `done` once
 // on the calling thread, unless `context` was destroyed first. Cookies and caches are not used;
-// a cut or failed transfer is an error, never a short file.
-void download(const UpdateSite& site, const QUrl& url, QObject* context, std::function<void(Download)> done);
+// a cut or failed transfer is an error, never a short file. A body beyond `limits.maxBytes`
+// ends the download with that said; a write that fails (a full disk) ends
+// it with the system's reason, not the transfer's "canceled".
+void download(const UpdateSite& site, const QUrl& url, QObject* context, std::function<void(Download)> done,
+              const DownloadLimits& limits = {});
+
+// "the download is larger than SIZE, more than any update": the reason inside couldNotInstall().
+[[nodiscard]] QString tooLarge(qint64 maxBytes);
 
 // "The downloaded update didn't pass the check. This copy wasn't changed."
 [[nodiscard]] QString didNotPassCheck();

@@ -1,9 +1,15 @@
+#include "support/HttpsTestServer.h"
+#include "support/PrivateMount.h"
 #include "support/TempTree.h"
+#include "support/Wait.h"
 #include "update/Updater.h"
 
 #include <QCryptographicHash>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
+#include <cstdio>
 #include <gtest/gtest.h>
 
 namespace {
@@ -15,6 +21,19 @@ QString changedAt(QString digest, int index)
 {
     digest[index] = digest[index] == QLatin1Char('0') ? QLatin1Char('1') : QLatin1Char('0');
     return digest;
+}
+
+// Downloads `path` from the server with `limits` and waits for the outcome.
+Updater::Download fetch(const HttpsTestServer& server, const QString& path, const Updater::DownloadLimits& limits)
+{
+    UpdateSite site;
+    site.origin = QUrl(server.origin());
+    site.extraCertificates = server.certificatePem();
+    std::optional<Updater::Download> result;
+    QObject context;
+    Updater::download(site, QUrl(server.origin() + path), &context, [&](Updater::Download done) { result = done; }, limits);
+    EXPECT_TRUE(waitUntil([&] { return result.has_value(); }, 30'000));
+    return result.value_or(Updater::Download{nullptr, QStringLiteral("no answer")});
 }
 
 }  // namespace
@@ -63,4 +82,56 @@ TEST(Updater, AnImageMustMatchItsDigestExactly)
     EXPECT_TRUE(missing->startsWith(QStringLiteral("Couldn't install the update (")));
     EXPECT_TRUE(missing->endsWith(QStringLiteral("). This copy wasn't changed.")));
     EXPECT_GT(missing->size(), QStringLiteral("Couldn't install the update (). This copy wasn't changed.").size());
+}
+
+TEST(UpdaterDownload, StopsAtItsOwnSizeLimitAndSaysSo)
+{
+    HttpsTestServer server;
+    ASSERT_TRUE(server.isListening()) << qPrintable(server.error());
+    HttpsTestServer::Response big(200, QByteArray(300'000, 'i'));
+    big.chunkSize = 16'384;
+    server.serve(QStringLiteral("/big.dmg"), big);
+    server.serve(QStringLiteral("/fits.dmg"), HttpsTestServer::Response(200, QByteArray(200'000, 'i')));
+    TempTree tree;
+    const Updater::DownloadLimits limits{tree.dir(QStringLiteral("tmp")), 200'000};
+
+    const Updater::Download cut = fetch(server, QStringLiteral("/big.dmg"), limits);
+    EXPECT_FALSE(cut.image);
+    EXPECT_EQ(cut.error, QStringLiteral("the download is larger than 200 KB, more than any update"));
+    EXPECT_TRUE(waitUntil([&] { return QDir(limits.folder).isEmpty(); })) << "the partial image is removed";
+
+    const Updater::Download whole = fetch(server, QStringLiteral("/fits.dmg"), limits);
+    ASSERT_TRUE(whole.image) << qPrintable(whole.error);
+    EXPECT_EQ(QFileInfo(whole.image->fileName()).size(), 200'000);
+}
+
+// Runs inside the private mount namespace of the test below, downloading into a tiny tmpfs.
+TEST(UpdaterFullDisk, DISABLED_DownloadIntoTheFullFolder)
+{
+    const QString folder = qEnvironmentVariable("DUSTLARK_SMALL_FOLDER");
+    if (folder.isEmpty())
+        GTEST_SKIP() << "runs only inside UpdaterDownload.AFullDiskGivesItsCauseNotCanceled";
+    HttpsTestServer server;
+    ASSERT_TRUE(server.isListening()) << qPrintable(server.error());
+    server.serve(QStringLiteral("/image.dmg"), HttpsTestServer::Response(200, QByteArray(2'000'000, 'i')));
+    const Updater::Download download = fetch(server, QStringLiteral("/image.dmg"), {folder, 1'000'000'000});
+    std::printf("REPORT %s\n", download.image ? "downloaded" : qPrintable(download.error));
+    std::fflush(stdout);
+}
+
+TEST(UpdaterDownload, AFullDiskGivesItsCauseNotCanceled)
+{
+    TempTree tree;
+    const QString folder = tree.dir(QStringLiteral("small"));
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DUSTLARK_SMALL_FOLDER"), folder);
+    const QString script = QStringLiteral(
+        "mount -t tmpfs -o size=256k dustlark-test \"$1\" || exit 77; echo MOUNTED; "
+        "exec \"$2\" --gtest_also_run_disabled_tests --gtest_filter=UpdaterFullDisk.*");
+    const auto run = runInPrivateMount(script, folder, environment);
+    if (!run)
+        GTEST_SKIP() << "a small disk in a private mount namespace needs root and unshare(1)";
+    if (!run->mounted)
+        GTEST_SKIP() << "this system refuses a private tmpfs mount: " << qPrintable(run->error);
+    EXPECT_EQ(run->report(), QStringLiteral("No space left on device")) << qPrintable(run->output);
 }
