@@ -4,67 +4,56 @@
 <context>
     <name>AIPrompt</name>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="25"/>
         <source>runs `%1` (permanent)</source>
         <extracomment>AI prompt: how a tool removes a row, after &quot;How Dustlark would remove it: &quot;. Keep the backticks; %1 is the command line</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="66"/>
         <source>Dustlark category: %1. %2</source>
         <extracomment>AI prompt line. Placeholders: category title; its explanation</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="73"/>
         <source>Mac: %1</source>
         <extracomment>AI prompt line. %1 names the system version and the processor</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="80"/>
         <source>Answer in %1.</source>
         <extracomment>AI prompt line for a person whose language the app has no translation for. %1 is that language&apos;s name</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="82"/>
         <source>Answer in English.</source>
         <extracomment>AI prompt&apos;s last line. Translators: write this sentence naming your own language, e.g. &quot;Réponds en français.&quot;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="89"/>
         <source>Item: %1</source>
         <extracomment>AI prompt line for a row without a tag. Placeholder: item name</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="91"/>
         <source>Item: %1 (%2)</source>
         <extracomment>AI prompt line. Placeholders: item name; its tag</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="99"/>
         <source>Paths:</source>
         <extracomment>AI prompt: heading of the row&apos;s paths, listed one per line below it</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="110"/>
         <source>Largest contents:</source>
         <extracomment>AI prompt: heading of a folder&apos;s largest entries, listed one per line below it</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="113"/>
         <source>%1: %2</source>
         <extracomment>AI prompt: one entry of a folder. Placeholders: its name; its size on disk</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/prompt/AIPrompt.cpp" line="40"/>
         <source>runs `%1` after `docker rm` of %n stopped containers (permanent)</source>
         <extracomment>AI prompt: how Docker removes an image that stopped containers hold. Keep the backticks; %1 is the command line; %n is the number of containers</extracomment>
         <translation>
@@ -73,7 +62,6 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/prompt/AIPrompt.cpp" line="116"/>
         <source>%n more entries</source>
         <extracomment>AI prompt: the entries of a folder left out of the list. %n is their number</extracomment>
         <translation>
@@ -82,121 +70,101 @@
         </translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="124"/>
         <source>Dustlark&apos;s note: %1</source>
         <extracomment>AI prompt line. Placeholder: the row&apos;s detail line</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="126"/>
         <source>Dustlark&apos;s safety hint: %1</source>
         <extracomment>AI prompt line. Placeholder: the safety label (&quot;Safe&quot;, &quot;Ask AI&quot; or &quot;Risky&quot;)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="128"/>
         <source>Size on disk: %1</source>
         <extracomment>AI prompt line. Placeholder: the size on disk</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="131"/>
         <source>Last changed or used: %1</source>
         <extracomment>AI prompt line. Placeholder: the date and time the row was last changed or used</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="133"/>
         <source>How Dustlark would remove it: %1</source>
         <extracomment>AI prompt line. Placeholder: how the row goes, e.g. &quot;moves it to the Trash (…)&quot;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="141"/>
         <source>Please tell me:</source>
         <extracomment>AI prompt: heading of the four questions</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="143"/>
         <source>1. What this is and which app or tool uses it.</source>
         <extracomment>AI prompt question</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="145"/>
         <source>2. What breaks or is lost if I remove it, and whether it comes back on its own.</source>
         <extracomment>AI prompt question</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="147"/>
         <source>3. How I could restore it if I need it later.</source>
         <extracomment>AI prompt question</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="149"/>
         <source>4. Your recommendation: remove, keep, or check something first (say exactly what to check).</source>
         <extracomment>AI prompt question</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="160"/>
         <source>Removal: everything goes to the Trash (it can be put back until the Trash is emptied).</source>
         <extracomment>AI prompt line about a list of rows that all go to the Trash</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="162"/>
         <source>Removal: some items are removed permanently by their tool.</source>
         <extracomment>AI prompt line about a list of rows some of which a tool removes for good</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="173"/>
         <source>%1. %2 — %3 — %4</source>
         <extracomment>AI prompt: one numbered row of a list. Placeholders: number; name; detail line; size</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="175"/>
         <source>%1. %2 — %3 — %4 — %5</source>
         <extracomment>AI prompt: one numbered row of a list. Placeholders: number; name; detail line; size; its paths joined by &quot;; &quot;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="187"/>
         <source>(%1 more not listed)</source>
         <extracomment>AI prompt: the rows left out of a long list. %1 is their number</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="203"/>
         <source>empties the Trash (permanent)</source>
         <extracomment>AI prompt: how emptying the Trash works, after &quot;How Dustlark would remove it: &quot;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="205"/>
         <source>moves it to the Trash (it can be put back until the Trash is emptied)</source>
         <extracomment>AI prompt: how a row goes to the Trash, after &quot;How Dustlark would remove it: &quot;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="211"/>
         <source>I&apos;m cleaning up my Mac with Dustlark and want to know whether it&apos;s safe to remove this item.</source>
         <extracomment>AI prompt&apos;s first line, about one row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="226"/>
         <source>I&apos;m cleaning up my Mac with Dustlark. For each item below, tell me whether it&apos;s safe to remove.</source>
         <extracomment>AI prompt&apos;s first line, about a list of rows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/prompt/AIPrompt.cpp" line="230"/>
         <source>Answer as a table: number, item, verdict (Remove / Keep / Check), and one short reason. For Check, say exactly what to check (for example, whether saved passwords are synced elsewhere). Then list the numbers to remove.</source>
         <extracomment>AI prompt: what the answer about a list of rows should look like</extracomment>
         <translation type="unfinished"></translation>
@@ -205,7 +173,6 @@
 <context>
     <name>AIQuestions</name>
     <message>
-        <location filename="../src/ui/AIQuestions.cpp" line="35"/>
         <source>Question copied. Paste it into your AI assistant.</source>
         <extracomment>Toast after the question for an AI assistant was copied to the clipboard</extracomment>
         <translation type="unfinished"></translation>
@@ -214,55 +181,46 @@
 <context>
     <name>AboutPage</name>
     <message>
-        <location filename="../src/ui/AboutPage.cpp" line="21"/>
         <source>Version %1 (%2)</source>
         <extracomment>Version line of the About screen; %1 is the version (1.4), %2 the build number (140)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/AboutPage.cpp" line="28"/>
         <source>A scan only reads. You choose what goes to the Trash.</source>
         <extracomment>The app&apos;s promise, on the overview and the About screen</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/AboutPage.cpp" line="31"/>
         <source>Updates</source>
         <extracomment>Heading of the update check on the About screen</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/AboutPage.cpp" line="62"/>
         <source>GNU Lesser General Public License, version 3</source>
         <extracomment>Licence of Qt on the About screen</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/AboutPage.cpp" line="64"/>
         <source>Apache License, version 2.0</source>
         <extracomment>Licence of OpenSSL on the About screen</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/AboutPage.cpp" line="66"/>
         <source>GNU Lesser General Public License, version 2.1</source>
         <extracomment>Licence of libplist on the About screen</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/AboutPage.cpp" line="83"/>
         <source>Libraries and Licences</source>
         <extracomment>Heading of the licences of the libraries Dustlark ships</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/AboutPage.cpp" line="85"/>
         <source>Dustlark is built with these libraries and ships them under their licences. The LGPL libraries are linked so that they can be replaced by your own build.</source>
         <extracomment>Note above the licences on the About screen</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/AboutPage.cpp" line="95"/>
         <source>Show Licence</source>
         <extracomment>Button that shows the full text of a library&apos;s licence</extracomment>
         <translation type="unfinished"></translation>
@@ -271,97 +229,81 @@
 <context>
     <name>AgentsScanner</name>
     <message>
-        <location filename="../src/scan/AgentsScanner.cpp" line="58"/>
         <source>last changed %1</source>
         <extracomment>Fact in the detail line of an AI agents row; %1 is a relative date like &quot;3 days ago&quot;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerProjects.cpp" line="66"/>
         <source>Claude app scratch</source>
         <extracomment>Name of the project of Claude desktop&apos;s scratch sessions, shown in a Claude Code sessions row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerProjects.cpp" line="69"/>
         <source>Claude sandbox status</source>
         <extracomment>Name of the project of Claude&apos;s sandbox status sessions, shown in a Claude Code sessions row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="132"/>
         <source>%1 data · %2</source>
         <extracomment>Row title of a data folder of an AI agent that is not installed; %1 is the agent, %2 the folder</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="134"/>
         <source>%1 isn&apos;t installed; its chats, settings and caches are here</source>
         <extracomment>Note of a data folder of an AI agent that is not installed; %1 is the agent</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="146"/>
         <source>Claude virtual machine image</source>
         <extracomment>Row title in the AI agents list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="148"/>
         <source>Used by Claude&apos;s agent mode; downloaded again the next time it&apos;s needed</source>
         <extracomment>Note of the Claude virtual machine image row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="156"/>
         <source>Claude Code sessions · %1</source>
         <extracomment>Row title of one project&apos;s Claude Code sessions; %1 is the project, like ~/code/app</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="158"/>
         <source>Session history /resume uses</source>
         <extracomment>Note of a Claude Code sessions row; /resume is a command and stays as it is</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="172"/>
         <source>Codex sessions · %1-%2</source>
         <extracomment>Row title of one month of Codex sessions; %1 is the year, %2 the month number</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="174"/>
         <source>Session history `codex resume` uses</source>
         <extracomment>Note of a Codex sessions row; the command stays as it is</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="186"/>
         <source>Codex archived sessions</source>
         <extracomment>Row title in the AI agents list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="188"/>
         <source>Sessions you archived</source>
         <extracomment>Note of the Codex archived sessions row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="190"/>
         <source>Codex migration backups</source>
         <extracomment>Row title in the AI agents list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="192"/>
         <source>Copies Codex made while migrating its data</source>
         <extracomment>Note of the Codex migration backups row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="202"/>
         <source>Codex backup files (%n)</source>
         <extracomment>Row title in the AI agents list; %n is the number of backup files</extracomment>
         <translation>
@@ -370,79 +312,66 @@
         </translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="204"/>
         <source>Old copies of Codex&apos;s databases and settings (*.bak)</source>
         <extracomment>Note of the Codex backup files row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="213"/>
         <source>Cursor state backup</source>
         <extracomment>Row title in the AI agents list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="215"/>
         <source>One-time backup of Cursor&apos;s state database (chat history lives in the live copy)</source>
         <extracomment>Note of the Cursor state backup row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="222"/>
         <source>Cursor agent chats</source>
         <extracomment>Row title in the AI agents list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="224"/>
         <source>Saved chats of Cursor&apos;s agent</source>
         <extracomment>Note of the Cursor agent chats row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="230"/>
         <source>Chat history and checkpoints; resuming and restoring use them</source>
         <extracomment>Note of the Gemini CLI and Qwen Code temporary files rows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="234"/>
         <source>Antigravity backup</source>
         <extracomment>Row title in the AI agents list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="236"/>
         <source>A backup copy of Antigravity&apos;s data</source>
         <extracomment>Note of the Antigravity backup row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="238"/>
         <source>Antigravity browser profile</source>
         <extracomment>Row title in the AI agents list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="240"/>
         <source>The browser profile the agent uses; may hold sign-ins</source>
         <extracomment>Note of the Antigravity browser profile row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="242"/>
         <source>Gemini CLI temporary files</source>
         <extracomment>Row title in the AI agents list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="247"/>
         <source>Qwen Code temporary files</source>
         <extracomment>Row title in the AI agents list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="256"/>
         <source>%1 state of deleted projects (%n)</source>
         <extracomment>Row title in the AI agents list; %1 is an editor, %n the number of folders</extracomment>
         <translation>
@@ -451,13 +380,11 @@
         </translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="258"/>
         <source>Saved editor state of folders that no longer exist</source>
         <extracomment>Note of an editor&apos;s state of deleted projects row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="270"/>
         <source>%1 old extension versions (%n)</source>
         <extracomment>Row title in the AI agents list; %1 is an editor, %n the number of extension folders</extracomment>
         <translation>
@@ -466,19 +393,16 @@
         </translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="272"/>
         <source>Older copies kept after extensions updated</source>
         <extracomment>Note of an editor&apos;s old extension versions row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="281"/>
         <source>%1 task history in %2</source>
         <extracomment>Row title in the AI agents list; %1 is an agent extension like Cline, %2 the editor it runs in</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AgentsScannerRows.cpp" line="283"/>
         <source>Saved tasks and conversations</source>
         <extracomment>Note of an agent extension&apos;s task history row</extracomment>
         <translation type="unfinished"></translation>
@@ -487,19 +411,16 @@
 <context>
     <name>AndroidScanner</name>
     <message>
-        <location filename="../src/scan/AndroidScanner.cpp" line="44"/>
         <source>Android emulator with its apps and data</source>
         <extracomment>Detail line of an Android emulator row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AndroidScanner.cpp" line="48"/>
         <source>changed %1</source>
         <extracomment>Fact in an Android emulator&apos;s detail line; %1 is a relative date like &apos;3 months ago&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AndroidScanner.cpp" line="118"/>
         <source>Emulator</source>
         <extracomment>Badge of an Android emulator row</extracomment>
         <translation type="unfinished"></translation>
@@ -508,31 +429,26 @@
 <context>
     <name>AppCachesScanner</name>
     <message>
-        <location filename="../src/scan/AppCachesScanner.cpp" line="55"/>
         <source>Mail attachment copies</source>
         <extracomment>Row title in the app caches list: copies of attachments Mail made when they were opened</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AppCachesScanner.cpp" line="57"/>
         <source>Opened attachments; the messages keep the originals</source>
         <extracomment>Detail line of the Mail attachment copies row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AppCachesScanner.cpp" line="100"/>
         <source>Web caches in ~/.config/%1</source>
         <extracomment>Detail line of an app&apos;s web caches row on Linux; %1 is the app&apos;s folder in ~/.config</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AppCachesScanner.cpp" line="102"/>
         <source>Web caches in ~/Library/Application Support/%1</source>
         <extracomment>Detail line of an app&apos;s web caches row; %1 is the app&apos;s folder in Application Support</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AppCachesScanner.cpp" line="226"/>
         <source>Inside app data</source>
         <extracomment>Badge of a row of web caches found inside an app&apos;s data folder</extracomment>
         <translation type="unfinished"></translation>
@@ -541,7 +457,6 @@
 <context>
     <name>AppLanguage</name>
     <message>
-        <location filename="../src/vocabulary/AppLanguage.cpp" line="88"/>
         <source>System Language</source>
         <extracomment>Language picker: the entry that follows the language chosen in System Settings</extracomment>
         <translation type="unfinished"></translation>
@@ -550,26 +465,21 @@
 <context>
     <name>AppModel</name>
     <message>
-        <location filename="../src/model/AppModel.cpp" line="229"/>
         <source>The scan was stopped before this category finished.</source>
         <extracomment>Banner of a category whose scanner had not finished when the person stopped the scan</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/model/AppModel.cpp" line="244"/>
         <source>The scan was stopped; this list may be incomplete.</source>
         <extracomment>Banner of a category whose scanner returned early because the scan was stopped</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/model/AppModelCleanup.cpp" line="73"/>
         <source>It&apos;s the last copy of this file, so it was kept.</source>
         <extracomment>Why a duplicate was not removed: every other copy is gone or being removed</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/model/AppModelSafeList.cpp" line="11"/>
-        <location filename="../src/model/AppModelStorage.cpp" line="62"/>
         <source>“%1” is on the Safe List.</source>
         <extracomment>Toast after a row was put on the Safe List; %1 is the row&apos;s title
 ----------
@@ -577,13 +487,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/model/AppModelUpdate.cpp" line="54"/>
         <source>the release has no disk image on the maker&apos;s site</source>
         <extracomment>Inside &quot;Couldn&apos;t install the update (...)&quot; when the release names no disk image on the maker&apos;s site</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/model/AppModelUpdate.cpp" line="90"/>
         <source>The update is installed, but it couldn&apos;t be started. Open Dustlark again.</source>
         <extracomment>Shown when the update is in place but macOS couldn&apos;t start the new copy</extracomment>
         <translation type="unfinished"></translation>
@@ -592,13 +500,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>AppsScanner</name>
     <message>
-        <location filename="../src/scan/AppsScanner.cpp" line="31"/>
         <source>App %1</source>
         <extracomment>Uninstaller row detail of an app without data; %1 is the app&apos;s size</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/scan/AppsScanner.cpp" line="34"/>
         <source>App %1 + app data %2 in %n places</source>
         <extracomment>Uninstaller row detail; %1 is the app&apos;s size, %2 its data size, %n the number of places</extracomment>
         <translation>
@@ -607,37 +513,31 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         </translation>
     </message>
     <message>
-        <location filename="../src/scan/AppsScanner.cpp" line="42"/>
         <source>never opened</source>
         <extracomment>Fact in an uninstaller row&apos;s detail line</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AppsScanner.cpp" line="45"/>
         <source>opened %1</source>
         <extracomment>Fact in an uninstaller row&apos;s detail line; %1 is a relative date like &quot;3 months ago&quot;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AppsScanner.cpp" line="51"/>
         <source>“%1” folder stays: it may belong to %2</source>
         <extracomment>Fact in an uninstaller row&apos;s detail line; first %1 is a folder name, %2 another app&apos;s name</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AppsScanner.cpp" line="69"/>
         <source>Your apps</source>
         <extracomment>Badge of an app installed in ~/Applications</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AppsScanner.cpp" line="82"/>
         <source>Running. Quit it to remove it.</source>
         <extracomment>Why a running app can&apos;t be selected</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/AppsScanner.cpp" line="131"/>
         <source>Without Full Disk Access, the data of App Store apps (their containers) isn&apos;t listed as leftovers.</source>
         <extracomment>Note above the Apps list</extracomment>
         <translation type="unfinished"></translation>
@@ -646,25 +546,21 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>ByteCount</name>
     <message>
-        <location filename="../src/format/ByteCount.cpp" line="41"/>
         <source>Zero KB</source>
         <extracomment>A size of nothing, in the system&apos;s file-size style</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/ByteCount.cpp" line="46"/>
         <source>%1 byte</source>
         <extracomment>A size of one byte; %1 is &quot;1&quot; or &quot;-1&quot;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/ByteCount.cpp" line="48"/>
         <source>%1 bytes</source>
         <extracomment>A size below one kilobyte; %1 is the number of bytes</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/ByteCount.cpp" line="61"/>
         <source>%1 %2</source>
         <extracomment>A size with its unit, e.g. &quot;1.2 GB&quot;; %1 is the number, %2 the unit (KB, MB, GB, TB)</extracomment>
         <translation type="unfinished"></translation>
@@ -673,265 +569,221 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>CategoryID</name>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="90"/>
         <source>Project Builds</source>
         <extracomment>Sidebar title of the category of build folders inside projects</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="92"/>
         <source>Git Worktrees</source>
         <extracomment>Sidebar title of the category of extra git working copies</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="94"/>
         <source>Xcode</source>
         <extracomment>Sidebar title of the category of Xcode data (product name)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="96"/>
         <source>Simulators</source>
         <extracomment>Sidebar title of the category of iOS simulator devices and runtimes</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="98"/>
         <source>Android</source>
         <extracomment>Sidebar title of the category of Android SDK and Gradle data</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="100"/>
         <source>Package Caches</source>
         <extracomment>Sidebar title of the category of package-manager download caches</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="102"/>
         <source>Editors</source>
         <extracomment>Sidebar title of the category of code editor caches</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="104"/>
         <source>Docker</source>
         <extracomment>Sidebar title of the category of Docker objects (product name)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="106"/>
         <source>AI Models</source>
         <extracomment>Sidebar title of the category of local AI model files</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="108"/>
         <source>AI Agents</source>
         <extracomment>Sidebar title of the category of AI coding agents&apos; data</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="110"/>
         <source>Applications</source>
         <extracomment>Sidebar title of the category of installed applications (the uninstaller)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="112"/>
         <source>Removed Apps&apos; Leftovers</source>
         <extracomment>Sidebar title of the category of data left behind by apps that were removed</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="114"/>
         <source>App Caches</source>
         <extracomment>Sidebar title of the category of application caches</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="116"/>
         <source>Logs</source>
         <extracomment>Sidebar title of the category of log files and crash reports</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="118"/>
         <source>Browser Caches</source>
         <extracomment>Sidebar title of the category of web browser caches</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="120"/>
         <source>Installers</source>
         <extracomment>Sidebar title of the category of disk images and installer packages</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="122"/>
         <source>Old Downloads</source>
         <extracomment>Sidebar title of the category of files that sat in Downloads for a long time</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="124"/>
         <source>Temporary Files</source>
         <extracomment>Sidebar title of the category of temporary files</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="126"/>
         <source>Large Files</source>
         <extracomment>Sidebar title of the category of very large files</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="128"/>
         <source>Duplicates</source>
         <extracomment>Sidebar title of the category of files with exact copies</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="130"/>
         <source>iPhone &amp; iPad</source>
         <extracomment>Sidebar title of the category of iPhone and iPad backups and updates</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="132"/>
         <source>Trash</source>
         <extracomment>Sidebar title of the Trash category</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="143"/>
         <source>node_modules, build outputs and virtual environments inside your projects. npm, Gradle, Xcode or SwiftPM rebuild them on the next build, which takes time and sometimes internet. Each row shows when its project last changed.</source>
         <extracomment>Explanation above the Project Builds list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="146"/>
         <source>Extra working copies of your git repositories, grouped by repository, often left by AI agents and parallel branches. Removing one moves its folder to the Trash; its branch and commits stay in the repository. Changes not committed in it, and files git ignores there (like .env), go with it. The main copy of a repository is never listed.</source>
         <extracomment>Explanation above the Git Worktrees list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="149"/>
         <source>DerivedData, caches, previews and device support files are rebuilt automatically. Archives hold your uploaded builds and the symbols that make their crash reports readable. An old archive&apos;s build comes back from its git tag, but not its crash symbols; the newest archive of each app is marked Risky.</source>
         <extracomment>Explanation above the Xcode list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="152"/>
         <source>Device: one virtual iPhone or iPad with its apps and data. Removing it keeps its iOS; a new one is created in seconds (agents and Xcode do it themselves). Runtime: an iOS version itself, shared by its devices. Removing it stops those devices until you download that iOS again. Xcode removes both for good, they don&apos;t go to the Trash. Running simulators can&apos;t be removed.</source>
         <extracomment>Explanation above the Simulators list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="155"/>
         <source>Gradle caches and downloads come back on the next build. Emulators and system images are kept unless you select them.</source>
         <extracomment>Explanation above the Android list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="158"/>
         <source>Download caches of npm, Yarn, Homebrew, pip, CocoaPods and other tools. They are downloaded again when needed. The Maven repository, pnpm store and browser test downloads take longer to get back.</source>
         <extracomment>Explanation above the Package Caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="161"/>
         <source>Caches of VS Code, Cursor and JetBrains IDEs. Settings, extensions and projects stay.</source>
         <extracomment>Explanation above the Editors list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="164"/>
         <source>Stopped containers, images no running container uses, build cache and volumes no container uses. Docker removes them for good, they don&apos;t go to the Trash. Check volumes carefully: they can hold databases.</source>
         <extracomment>Explanation above the Docker list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="167"/>
         <source>Local AI models from Ollama, LM Studio and Hugging Face. They are often many gigabytes to download again, so keep the ones you still use.</source>
         <extracomment>Explanation above the AI Models list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="170"/>
         <source>What AI coding agents keep on this Mac: Claude, ChatGPT and Codex, Cursor, Antigravity and Gemini, Qwen, Windsurf, Kiro, Trae, Cline and others. Session histories are what &quot;resume&quot; uses; anything changed in the last day is locked. Live databases and settings are never offered.</source>
         <extracomment>Explanation above the AI Agents list; &quot;resume&quot; is the agents&apos; command to continue a session</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="173"/>
         <source>Remove an app together with its own data in your Library: settings, history, caches and login agents, matched by the app&apos;s identifier. That data is what the app works with, so removing it resets the app. Hover a row to see every path. Apple apps and running apps aren&apos;t offered; apps installed for all users may need Finder to remove.</source>
         <extracomment>Explanation above the Applications list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="176"/>
         <source>Settings, caches and data in your Library from apps that are no longer installed, grouped by app identifier. If you plan to install an app again and want its settings back, keep its row. Not shown: leftovers of a vendor whose other apps are still installed (vendors share helpers) and anything changed in the last %1 days (something still uses it).</source>
         <extracomment>Explanation above the leftovers list; %1 is a number of days</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="180"/>
         <source>Temporary data apps keep to work faster. Apps recreate it; quit them before cleaning. Leave Apple system caches (com.apple.…) unless you know what they hold.</source>
         <extracomment>Explanation above the App Caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="183"/>
         <source>Diagnostic logs and crash reports of apps.</source>
         <extracomment>Explanation above the Logs list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="186"/>
         <source>Cached pages and images. Cookies, history, passwords and open tabs are not touched.</source>
         <extracomment>Explanation above the Browser Caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="189"/>
         <source>Disk images and installer packages in Downloads and Desktop. Keep the ones you need offline.</source>
         <extracomment>Explanation above the Installers list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="192"/>
         <source>Files and folders that have been in Downloads for %1 days or more. Installers and files of %2+ are listed in their own categories.</source>
         <extracomment>Explanation above the Old Downloads list; %1 is a number of days, %2 a size such as &quot;200 MB&quot;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="197"/>
         <source>Temporary files apps and tools left in /tmp and your macOS temp folder, plus your own temp folders (~/tmp, ~/temp). Only items where nothing changed for days are shown, so running builds and agent sessions stay out.</source>
         <extracomment>Explanation above the Temporary Files list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="200"/>
         <source>Files of %1 or more in your home folder. Review each one before you select it.</source>
         <extracomment>Explanation above the Large Files list; %1 is a size such as &quot;200 MB&quot;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="204"/>
         <source>Files of %1 or more that have exact copies in your home folder. Open a file to see every copy and choose which to remove; one copy always stays. Copies that already share space on the disk aren&apos;t shown, since removing them frees nothing.</source>
         <extracomment>Explanation above the Duplicates list; %1 is a size such as &quot;1 MB&quot;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="208"/>
         <source>iPhone and iPad backups made by Finder, and downloaded iOS updates. A backup may be the only copy of a device&apos;s data: remove it only if you have a newer one or iCloud Backup.</source>
         <extracomment>Explanation above the iPhone &amp; iPad list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="211"/>
         <source>Files in the Trash still take space until the Trash is emptied.</source>
         <extracomment>Explanation above the Trash list</extracomment>
         <translation type="unfinished"></translation>
@@ -940,7 +792,6 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>CategoryItemDelegate</name>
     <message>
-        <location filename="../src/ui/CategoryItemDelegate.cpp" line="70"/>
         <source>11 months ago</source>
         <extracomment>Width sample for the date column; not shown</extracomment>
         <translation type="unfinished"></translation>
@@ -949,13 +800,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>CategoryListModel</name>
     <message>
-        <location filename="../src/ui/CategoryListModel.cpp" line="78"/>
         <source>Other worktrees</source>
         <extracomment>Section heading of worktrees whose repository is not known</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/ui/CategoryListModel.cpp" line="80"/>
         <source>%1 · %n worktrees</source>
         <extracomment>Under a repository&apos;s name in Git Worktrees: %1 is its folder, %n the number of its worktrees listed</extracomment>
         <translation>
@@ -964,7 +813,6 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/ui/CategoryListModel.cpp" line="89"/>
         <source>%n copies of %1 each</source>
         <extracomment>Section heading of a group of identical files; %n is the number of copies shown, %1 the size of one copy</extracomment>
         <translation>
@@ -973,7 +821,6 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         </translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryListModel.cpp" line="157"/>
         <source>One copy always stays.</source>
         <extracomment>Tooltip of the disabled checkbox of the one copy of a duplicate that must stay</extracomment>
         <translation type="unfinished"></translation>
@@ -982,109 +829,91 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>CategoryPage</name>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="104"/>
         <source>Rescan</source>
         <extracomment>Button that scans one category again</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="121"/>
         <source>Select All</source>
         <extracomment>Checkbox that selects every row the list shows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="126"/>
         <source>Search</source>
         <extracomment>Placeholder of the search field above a list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="131"/>
         <source>Ask AI About These</source>
         <extracomment>Button that copies one question about every shown row for an AI assistant</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="133"/>
         <source>Copies a description of the shown rows for an AI assistant (Claude, Codex, ChatGPT).</source>
         <extracomment>Tooltip of the button that copies a question about every shown row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="136"/>
         <source>Empty Trash…</source>
         <extracomment>Button of the Trash category; a confirmation follows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="157"/>
         <source>Shows only rows of at least this size, in every list.</source>
         <extracomment>Tooltip of the size filter above every list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="217"/>
         <source>Scans the scan folders again; Project Builds, Git Worktrees, Large Files and Duplicates refresh together</source>
         <extracomment>Tooltip of the rescan button of Project Builds, Git Worktrees, Large Files and Duplicates</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="220"/>
         <source>Scans this category again</source>
         <extracomment>Tooltip of the rescan button of every other category</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="287"/>
         <source>Nothing matches the filter.</source>
         <extracomment>Empty state when the size filter or the search hides every row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="290"/>
         <source>Scanning…</source>
         <extracomment>Empty state while the category is being scanned</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="293"/>
         <source>Scan to see what&apos;s here.</source>
         <extracomment>Empty state of a category that was never scanned</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPage.cpp" line="295"/>
         <source>Nothing to clean here.</source>
         <extracomment>Empty state when the scan found nothing in this category</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPageActions.cpp" line="60"/>
         <source>Add to Safe List</source>
         <extracomment>Row menu: never show this row in scans again</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPageActions.cpp" line="64"/>
         <source>Add Project to Safe List</source>
         <extracomment>Row menu: never show anything inside this row&apos;s project or repository folder again</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPageActions.cpp" line="70"/>
         <source>Ask an AI Assistant</source>
         <extracomment>Row menu: copy a description of this row to paste into an AI assistant</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPageActions.cpp" line="76"/>
         <source>Move to Another Disk…</source>
         <extracomment>Row menu: copy this row&apos;s files to another disk, check the copy, then trash the original</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CategoryPageActions.cpp" line="110"/>
         <source>“%1” is on the Safe List.</source>
         <extracomment>Toast after a row was put on the Safe List; %1 is the row&apos;s title</extracomment>
         <translation type="unfinished"></translation>
@@ -1093,25 +922,21 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>CleanerGroup</name>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="240"/>
         <source>Developer</source>
         <extracomment>Sidebar heading of the developer categories</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="242"/>
         <source>Everyday</source>
         <extracomment>Sidebar heading of the everyday categories</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="249"/>
         <source>Developer Cleaner</source>
         <extracomment>Overview heading of the developer categories</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/CategoryID.cpp" line="251"/>
         <source>Everyday Cleaner</source>
         <extracomment>Overview heading of the everyday categories</extracomment>
         <translation type="unfinished"></translation>
@@ -1120,13 +945,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>CleanupConfirmation</name>
     <message>
-        <location filename="../src/ui/CleanupConfirmation.cpp" line="29"/>
         <source>Move “%1” to the Trash?</source>
         <extracomment>Title of the cleanup confirmation for one item that goes to the Trash; %1 is its name</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/ui/CleanupConfirmation.cpp" line="31"/>
         <source>Move %n items to the Trash?</source>
         <extracomment>Title of the cleanup confirmation when every item goes to the Trash; %n is their number</extracomment>
         <translation>
@@ -1135,25 +958,21 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         </translation>
     </message>
     <message>
-        <location filename="../src/ui/CleanupConfirmation.cpp" line="85"/>
         <source>Removed for good</source>
         <extracomment>Heading of the part of the cleanup confirmation about items Docker and Xcode remove for good</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CleanupConfirmation.cpp" line="132"/>
         <source>Remove for Good and Clean</source>
         <extracomment>Confirming button of the cleanup when some items are removed for good</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CleanupConfirmation.cpp" line="135"/>
         <source>Move to Trash</source>
         <extracomment>Confirming button of the cleanup when every item goes to the Trash</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CleanupConfirmation.cpp" line="137"/>
         <source>Cancel</source>
         <extracomment>Button that closes the cleanup sheet without removing anything</extracomment>
         <translation type="unfinished"></translation>
@@ -1162,19 +981,16 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>CleanupProgress</name>
     <message>
-        <location filename="../src/ui/CleanupProgress.cpp" line="17"/>
         <source>Cleaning…</source>
         <extracomment>Heading of the cleanup sheet while items are being removed</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CleanupProgress.cpp" line="25"/>
         <source>Stop</source>
         <extracomment>Button that stops the cleanup after the item being removed</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/ui/CleanupProgress.cpp" line="51"/>
         <source>%1 of %n items</source>
         <extracomment>Progress of the cleanup; %1 items handled so far, %n items in all</extracomment>
         <translation>
@@ -1183,7 +999,6 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         </translation>
     </message>
     <message>
-        <location filename="../src/ui/CleanupProgress.cpp" line="54"/>
         <source>Stopping…</source>
         <extracomment>The Stop button after it was pressed, until the current item is done</extracomment>
         <translation type="unfinished"></translation>
@@ -1192,37 +1007,31 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>CleanupResults</name>
     <message>
-        <location filename="../src/ui/CleanupResults.cpp" line="40"/>
         <source>Done</source>
         <extracomment>Button that closes the results of a cleanup</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CleanupResults.cpp" line="65"/>
         <source>Moved to the Trash</source>
         <extracomment>Results of a cleanup: the size of what went to the Trash</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CleanupResults.cpp" line="68"/>
         <source>Removed by Docker and Xcode</source>
         <extracomment>Results of a cleanup: the size of what Docker and the simulator tool removed for good</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CleanupResults.cpp" line="70"/>
         <source>Free space before</source>
         <extracomment>Results of a cleanup: free disk space before it ran</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CleanupResults.cpp" line="72"/>
         <source>Free space after</source>
         <extracomment>Results of a cleanup: free disk space after it ran</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/ui/CleanupResults.cpp" line="95"/>
         <source>%n items couldn&apos;t be removed</source>
         <extracomment>Heading of the failures in the results of a cleanup; %n is their number</extracomment>
         <translation>
@@ -1231,25 +1040,21 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         </translation>
     </message>
     <message>
-        <location filename="../src/ui/CleanupResults.cpp" line="114"/>
         <source>Empty Trash…</source>
         <extracomment>Button in the results of a cleanup; a confirmation follows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CleanupResults.cpp" line="134"/>
         <source>The Trash is empty.</source>
         <extracomment>Results of a cleanup, after the Trash was emptied</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CleanupResults.cpp" line="137"/>
         <source>Files in the Trash still take space. Empty the Trash to get it back, or check them in Finder first.</source>
         <extracomment>Results of a cleanup when files went to the Trash</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/CleanupResults.cpp" line="140"/>
         <source>Files in the Trash still take space. Empty the Trash to get it back, or check them in your file manager first.</source>
         <extracomment>Results of a cleanup when files went to the Trash (Linux: the desktop&apos;s file manager)</extracomment>
         <translation type="unfinished"></translation>
@@ -1258,13 +1063,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>CleanupSession</name>
     <message>
-        <location filename="../src/model/CleanupSession.cpp" line="104"/>
         <source>Docker and Xcode remove these items without the Trash. This can&apos;t be undone.</source>
         <extracomment>Text of the cleanup confirmation when some items are removed for good</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/model/CleanupSession.cpp" line="98"/>
         <source>Remove %n items for good?</source>
         <extracomment>Title of the cleanup confirmation when some items are removed for good; %n is their number</extracomment>
         <translation>
@@ -1273,7 +1076,6 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/model/CleanupSession.cpp" line="116"/>
         <source>%n selected items are marked Risky: %1. They may hold data that exists nowhere else.</source>
         <extracomment>Cleanup confirmation line; %n is the number of Risky items, %1 the first three titles, comma-separated</extracomment>
         <translation>
@@ -1282,37 +1084,31 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         </translation>
     </message>
     <message>
-        <location filename="../src/model/CleanupSession.cpp" line="124"/>
         <source>Move to the Trash</source>
         <extracomment>Heading of the part of the cleanup confirmation that lists what goes to the Trash</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/model/CleanupSession.cpp" line="130"/>
         <source>You can put them back from the Trash until you empty it.</source>
         <extracomment>Cleanup confirmation, under &quot;Move to the Trash&quot;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/model/CleanupSession.cpp" line="138"/>
         <source>Docker and Xcode remove these themselves. This can&apos;t be undone.</source>
         <extracomment>Cleanup confirmation, the part about items Docker and Xcode remove for good</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/model/CleanupSession.cpp" line="140"/>
         <source>Docker and Xcode remove these themselves. This can&apos;t be undone. Docker also removes %1 stopped containers of the selected images.</source>
         <extracomment>Cleanup confirmation when selected Docker images have stopped containers; %1 is their number</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/model/CleanupSession.cpp" line="148"/>
         <source>Cleaning stopped</source>
         <extracomment>Heading of the results sheet after the person stopped the cleanup</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/model/CleanupSession.cpp" line="150"/>
         <source>Cleaning finished</source>
         <extracomment>Heading of the results sheet</extracomment>
         <translation type="unfinished"></translation>
@@ -1321,7 +1117,6 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>CleanupSheet</name>
     <message>
-        <location filename="../src/ui/CleanupSheet.cpp" line="17"/>
         <source>Clean</source>
         <extracomment>Window title of the cleanup sheet (shown where sheets have a title bar)</extracomment>
         <translation type="unfinished"></translation>
@@ -1330,31 +1125,26 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>DevicesScanner</name>
     <message>
-        <location filename="../src/scan/DevicesScanner.cpp" line="42"/>
         <source>date unknown</source>
         <extracomment>Detail of a device backup whose date can&apos;t be read</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DevicesScanner.cpp" line="44"/>
         <source>backed up %1</source>
         <extracomment>Detail of a device backup; %1 is a relative date like &apos;2 years ago&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DevicesScanner.cpp" line="76"/>
         <source>iPhone or iPad backup</source>
         <extracomment>Title of a device backup whose device name can&apos;t be read</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DevicesScanner.cpp" line="78"/>
         <source>Backup</source>
         <extracomment>Badge of a device backup row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DevicesScanner.cpp" line="94"/>
         <source>Device backups can be listed only with Full Disk Access.</source>
         <extracomment>Note above iPhone &amp; iPad when backups can&apos;t be listed</extracomment>
         <translation type="unfinished"></translation>
@@ -1363,145 +1153,121 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>DockerScanner</name>
     <message>
-        <location filename="../src/scan/DockerScanner.cpp" line="93"/>
         <source>Docker Desktop&apos;s disk image takes %1 on this Mac</source>
         <extracomment>Part of the Docker summary list; %1 is a size like &apos;60 GB&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DockerScanner.cpp" line="95"/>
         <source>Docker Desktop may return freed space to macOS gradually.</source>
         <extracomment>Note in the Docker category</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DockerScanner.cpp" line="156"/>
         <source>Docker uses: %1</source>
         <extracomment>Summary above the Docker list; %1 is a comma-separated list like &apos;images 3 GB, build cache 5 GB&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DockerScanner.cpp" line="178"/>
         <source>Docker isn&apos;t installed.</source>
         <extracomment>Note in the Docker category</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DockerScanner.cpp" line="184"/>
         <source>Docker is set to use another computer. Dustlark cleans only Docker on this Mac.</source>
         <extracomment>Note in the Docker category</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DockerScanner.cpp" line="190"/>
         <source>Docker isn&apos;t running. Start Docker and scan again to see its containers and images.</source>
         <extracomment>Note in the Docker category</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DockerScannerRows.cpp" line="36"/>
         <source>Created %1</source>
         <extracomment>Docker image detail; %1 is the image&apos;s age like &apos;3 months ago&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DockerScannerRows.cpp" line="41"/>
         <source>also removes stopped container %1</source>
         <extracomment>Docker image detail; %1 is the name of a stopped container made from the image</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DockerScannerRows.cpp" line="44"/>
         <source>also removes stopped containers %1</source>
         <extracomment>Docker image detail; %1 lists the names of stopped containers made from the image</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DockerScannerRows.cpp" line="53"/>
         <source>Untagged image</source>
         <extracomment>Title of a Docker image without a name</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DockerScannerRows.cpp" line="55"/>
         <source>Image</source>
         <extracomment>Badge of a Docker image</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DockerScannerRows.cpp" line="72"/>
         <source>Anonymous volume %1</source>
         <extracomment>Title of an unnamed Docker volume; %1 is the start of its identifier</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DockerScannerRows.cpp" line="81"/>
         <source>no container uses it</source>
         <extracomment>Docker volume detail</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DockerScannerRows.cpp" line="83"/>
         <source>may hold a database or uploads</source>
         <extracomment>Docker volume detail</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DockerScannerRows.cpp" line="88"/>
         <source>Compose project %1</source>
         <extracomment>Docker volume detail; %1 is a Compose project name</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DockerScannerRows.cpp" line="98"/>
         <source>images %1</source>
         <extracomment>Part of the Docker summary list; %1 is a size like &apos;1.2 GB&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DockerScannerRows.cpp" line="101"/>
         <source>containers %1</source>
         <extracomment>Part of the Docker summary list; %1 is a size like &apos;1.2 GB&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DockerScannerRows.cpp" line="104"/>
         <source>local volumes %1</source>
         <extracomment>Part of the Docker summary list; %1 is a size like &apos;1.2 GB&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DockerScannerRows.cpp" line="107"/>
         <source>build cache %1</source>
         <extracomment>Part of the Docker summary list; %1 is a size like &apos;1.2 GB&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DockerScannerRows.cpp" line="117"/>
         <source>Container</source>
         <extracomment>Badge of a stopped Docker container</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DockerScannerRows.cpp" line="144"/>
         <source>Build cache</source>
         <extracomment>Title of Docker&apos;s build cache row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DockerScannerRows.cpp" line="146"/>
         <source>Cache</source>
         <extracomment>Badge of Docker&apos;s build cache row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DockerScannerRows.cpp" line="148"/>
         <source>Layers kept by docker build; the next build takes longer</source>
         <extracomment>Detail of Docker&apos;s build cache row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DockerScannerRows.cpp" line="173"/>
         <source>Volume</source>
         <extracomment>Badge of a Docker volume</extracomment>
         <translation type="unfinished"></translation>
@@ -1510,13 +1276,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>DuplicateFinder</name>
     <message>
-        <location filename="../src/scan/DuplicateFinder.cpp" line="417"/>
         <source>created %1</source>
         <extracomment>Fact in a Duplicates row&apos;s detail line; %1 is a relative date like &apos;3 months ago&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/DuplicateFinder.cpp" line="426"/>
         <source>Oldest copy</source>
         <extracomment>Badge of the oldest copy among duplicates</extracomment>
         <translation type="unfinished"></translation>
@@ -1525,7 +1289,6 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>FolderActions</name>
     <message>
-        <location filename="../src/ui/FolderActions.cpp" line="18"/>
         <source>Add to Safe List</source>
         <extracomment>Row menu of a storage folder: never show anything inside it in scans</extracomment>
         <translation type="unfinished"></translation>
@@ -1534,19 +1297,16 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>FolderListEditor</name>
     <message>
-        <location filename="../src/ui/FolderListEditor.cpp" line="21"/>
         <source>Choose a Folder</source>
         <extracomment>Title of the folder picker</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/FolderListEditor.cpp" line="34"/>
         <source>Add Folder…</source>
         <extracomment>Button that adds a folder to a list of folders</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/FolderListEditor.cpp" line="36"/>
         <source>Remove</source>
         <extracomment>Button that removes the selected folder from a list of folders</extracomment>
         <translation type="unfinished"></translation>
@@ -1555,7 +1315,6 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>ImageInstall</name>
     <message>
-        <location filename="../src/update/ImageInstall.cpp" line="53"/>
         <source>the disk image holds no app</source>
         <extracomment>Inside &quot;Couldn&apos;t install the update (...)&quot; when the downloaded disk image holds no app</extracomment>
         <translation type="unfinished"></translation>
@@ -1564,13 +1323,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>InstallersScanner</name>
     <message>
-        <location filename="../src/scan/InstallersScanner.cpp" line="79"/>
         <source>changed %1</source>
         <extracomment>Fact in an Installers row&apos;s detail, after its folder; %1 is a relative date like &apos;3 months ago&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/InstallersScanner.cpp" line="99"/>
         <source>Some folders couldn&apos;t be read. Allow access when macOS asks.</source>
         <extracomment>Note above Installers when some folders of Downloads or Desktop can&apos;t be read</extracomment>
         <translation type="unfinished"></translation>
@@ -1579,439 +1336,366 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>KnownLocations</name>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="81"/>
         <source>Xcode cache</source>
         <extracomment>Row title in the Xcode list: Xcode&apos;s own cache folder</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="84"/>
         <source>SwiftUI previews</source>
         <extracomment>Row title in the Xcode list: data of SwiftUI previews</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="87"/>
         <source>Simulator caches</source>
         <extracomment>Row title in the Xcode list: caches of the iOS simulator</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="90"/>
         <source>Test simulator clones</source>
         <extracomment>Row title in the Xcode list: simulator copies made for running tests</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="93"/>
         <source>Xcode downloads</source>
         <extracomment>Row title in the Xcode list: files Xcode downloaded</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="97"/>
         <source>Device logs</source>
         <extracomment>Row title in the Xcode list: logs copied from connected iPhones and iPads</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="106"/>
         <source>Gradle caches</source>
         <extracomment>Row title in the Android list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="109"/>
         <source>Gradle wrapper · </source>
         <extracomment>Prefix of a row title in the Android list; a Gradle version such as gradle-8.5-bin follows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="112"/>
         <source>Gradle daemon logs</source>
         <extracomment>Row title in the Android list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="115"/>
         <source>Android cache</source>
         <extracomment>Row title in the Android list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="118"/>
         <source>Android build cache</source>
         <extracomment>Row title in the Android list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="121"/>
         <source>Android Studio cache · </source>
         <extracomment>Prefix of a row title in the Android list; a folder name such as AndroidStudio2024.1 follows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="124"/>
         <source>Android SDK system image</source>
         <extracomment>Detail line of an Android system image row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="127"/>
         <source>NDK </source>
         <extracomment>Prefix of a row title in the Android list; an NDK version number follows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="129"/>
         <source>Android NDK version; projects that pin it download it again</source>
         <extracomment>Detail line of an Android NDK row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="132"/>
         <source>Build tools </source>
         <extracomment>Prefix of a row title in the Android list; a version number follows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="134"/>
         <source>Android SDK build tools version</source>
         <extracomment>Detail line of an Android build tools row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="137"/>
         <source>SDK platform </source>
         <extracomment>Prefix of a row title in the Android list; a platform name such as android-34 follows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="139"/>
         <source>Android SDK platform</source>
         <extracomment>Detail line of an Android SDK platform row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="142"/>
         <source>Gradle JDK · </source>
         <extracomment>Prefix of a row title in the Android list; a Java version folder follows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="144"/>
         <source>Java downloaded by Gradle toolchains</source>
         <extracomment>Detail line of a row of Java that Gradle downloaded</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="159"/>
         <source>npm cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="162"/>
         <source>Yarn cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="165"/>
         <source>Yarn Berry cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="168"/>
         <source>pnpm store</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="170"/>
         <source>Projects link their packages from here</source>
         <extracomment>Detail line of the pnpm store row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="173"/>
         <source>Bun cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="176"/>
         <source>Homebrew downloads</source>
         <extracomment>Row title in the package caches list: packages Homebrew downloaded</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="179"/>
         <source>pip cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="182"/>
         <source>uv cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="185"/>
         <source>CocoaPods cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="188"/>
         <source>Swift Package Manager cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="191"/>
         <source>Carthage cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="194"/>
         <source>Go build cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="197"/>
         <source>Cargo downloads</source>
         <extracomment>Row title in the package caches list: crates Cargo downloaded</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="200"/>
         <source>Cargo registry index</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="203"/>
         <source>Cargo git dependencies</source>
         <extracomment>Row title in the package caches list: dependencies Cargo fetched from git</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="206"/>
         <source>Go modules</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="208"/>
         <source>Projects download them again on the next build</source>
         <extracomment>Detail line of the Go modules row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="211"/>
         <source>Dart and Flutter packages</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="213"/>
         <source>`flutter pub get` downloads them again</source>
         <extracomment>Detail line of the Dart and Flutter packages row; the command stays as it is</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="216"/>
         <source>NuGet packages</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="219"/>
         <source>NuGet HTTP cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="222"/>
         <source>Poetry cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="224"/>
         <source>Includes Poetry&apos;s virtual environments; `poetry install` creates them again</source>
         <extracomment>Detail line of the Poetry cache row; the command stays as it is</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="227"/>
         <source>node-gyp headers</source>
         <extracomment>Row title in the package caches list: C headers node-gyp downloaded</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="230"/>
         <source>Electron downloads</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="233"/>
         <source>electron-builder cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="236"/>
         <source>Deno cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="239"/>
         <source>TypeScript cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="242"/>
         <source>Composer cache</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="245"/>
         <source>Prisma engines</source>
         <extracomment>Row title in the package caches list: database engines Prisma downloaded</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="248"/>
         <source>Playwright browsers</source>
         <extracomment>Row title in the package caches list: browsers Playwright downloaded for tests</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="250"/>
         <source>Tests need `npx playwright install` afterwards</source>
         <extracomment>Detail line of the Playwright browsers row; the command stays as it is</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="253"/>
         <source>Puppeteer browsers</source>
         <extracomment>Row title in the package caches list: browsers Puppeteer downloaded</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="256"/>
         <source>Maven repository</source>
         <extracomment>Row title in the package caches list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="258"/>
         <source>May hold artifacts you installed locally</source>
         <extracomment>Detail line of the Maven repository row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="282"/>
         <source>Ollama models</source>
         <extracomment>Row title in the AI models list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="284"/>
         <source>All models pulled with Ollama; `ollama pull` downloads them again</source>
         <extracomment>Detail line of the Ollama models row; the command stays as it is</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="296"/>
         <source>Downloaded iPhone update; Finder downloads it again when needed</source>
         <extracomment>Detail line of a downloaded iPhone software update</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="299"/>
         <source>Downloaded iPad update; Finder downloads it again when needed</source>
         <extracomment>Detail line of a downloaded iPad software update</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="319"/>
         <source>VS Code caches</source>
         <extracomment>Row title in the editors list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="321"/>
         <source>Cursor caches</source>
         <extracomment>Row title in the editors list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="323"/>
         <source>Windsurf caches</source>
         <extracomment>Row title in the editors list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="326"/>
         <source>JetBrains cache · </source>
         <extracomment>Prefix of a row title in the editors list; an IDE folder such as IntelliJIdea2024.1 follows</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="330"/>
         <source>Zed cache</source>
         <extracomment>Row title in the editors list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="358"/>
         <source>Crash reports</source>
         <extracomment>Row title in the logs list: reports macOS wrote when apps crashed or hung</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="360"/>
         <source>Reports of apps that crashed or hung; needed only to report a problem</source>
         <extracomment>Detail line of the crash reports row</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="363"/>
         <source>Diagnostic logs; the app starts new ones when it needs them</source>
         <extracomment>Detail line of an app&apos;s log folder in the logs list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="372"/>
         <source>VS Code logs</source>
         <extracomment>Row title in the logs list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="375"/>
         <source>Cursor logs</source>
         <extracomment>Row title in the logs list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="378"/>
         <source>Windsurf logs</source>
         <extracomment>Row title in the logs list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/KnownLocations.cpp" line="381"/>
         <source>npm debug logs</source>
         <extracomment>Row title in the logs list: logs npm writes when a command fails</extracomment>
         <translation type="unfinished"></translation>
@@ -2020,43 +1704,36 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>LargeFoldersPage</name>
     <message>
-        <location filename="../src/ui/LargeFoldersPage.cpp" line="25"/>
         <source>Folder</source>
         <extracomment>Column heading of the large folders: the folder</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/LargeFoldersPage.cpp" line="27"/>
         <source>Size</source>
         <extracomment>Column heading of the large folders: its size</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/LargeFoldersPage.cpp" line="29"/>
         <source>Files</source>
         <extracomment>Column heading of the large folders: how many files it holds</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/LargeFoldersPage.cpp" line="31"/>
         <source>Small Files</source>
         <extracomment>Column heading of the large folders: the share of its bytes in small files</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/LargeFoldersPage.cpp" line="33"/>
         <source>Kind</source>
         <extracomment>Column heading of the large folders: the kind of data</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/LargeFoldersPage.cpp" line="45"/>
         <source>Large Folders</source>
         <extracomment>Heading of the large folders screen</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/LargeFoldersPage.cpp" line="47"/>
         <source>Folders that are big because they hold thousands of small files (each under 1 MB), such as package folders and caches. A folder inside a listed one is counted only once.</source>
         <extracomment>Explanation on the large folders screen</extracomment>
         <translation type="unfinished"></translation>
@@ -2065,19 +1742,16 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>LeftoversScanner</name>
     <message>
-        <location filename="../src/scan/LeftoversScanner.cpp" line="29"/>
         <source>settings and caches only</source>
         <extracomment>Fact in a leftovers row&apos;s detail line</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/LeftoversScanner.cpp" line="32"/>
         <source>has %1</source>
         <extracomment>Fact in a leftovers row&apos;s detail line; %1 is a list like &apos;saved passwords, bookmarks&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/scan/LeftoversScanner.cpp" line="48"/>
         <source>%n places</source>
         <extracomment>Badge of a leftovers row; %n is the number of places in ~/Library</extracomment>
         <translation>
@@ -2086,37 +1760,31 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         </translation>
     </message>
     <message>
-        <location filename="../src/scan/LeftoversScanner.cpp" line="52"/>
         <source>last changed %1</source>
         <extracomment>Fact in a leftovers row&apos;s detail line; %1 is a relative date like &quot;3 months ago&quot;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/LeftoversScannerSigns.cpp" line="19"/>
         <source>saved passwords</source>
         <extracomment>Kind of personal data found in a leftover, in a list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/LeftoversScannerSigns.cpp" line="21"/>
         <source>bookmarks</source>
         <extracomment>Kind of personal data found in a leftover, in a list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/LeftoversScannerSigns.cpp" line="23"/>
         <source>browsing history</source>
         <extracomment>Kind of personal data found in a leftover, in a list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/LeftoversScannerSigns.cpp" line="25"/>
         <source>documents</source>
         <extracomment>Kind of personal data found in a leftover, in a list</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/LeftoversScannerSigns.cpp" line="27"/>
         <source>databases</source>
         <extracomment>Kind of personal data found in a leftover, in a list</extracomment>
         <translation type="unfinished"></translation>
@@ -2125,19 +1793,16 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>LocationScanner</name>
     <message>
-        <location filename="../src/scan/LocationScanner.cpp" line="144"/>
         <source>project no longer exists</source>
         <extracomment>Fact in the detail line of an Xcode DerivedData row, after the project&apos;s path</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/LocationScanner.cpp" line="168"/>
         <source>Archived %1</source>
         <extracomment>Detail line of an Xcode archive row; %1 is the date it was archived, like &quot;Jan 15, 2024&quot;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/LocationScanner.cpp" line="344"/>
         <source>Some folders couldn&apos;t be read. Give Dustlark Full Disk Access in Settings to include them.</source>
         <extracomment>Note above a category&apos;s list when some folders could not be read</extracomment>
         <translation type="unfinished"></translation>
@@ -2146,104 +1811,86 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>MainWindow</name>
     <message>
-        <location filename="../src/ui/MainWindow.cpp" line="29"/>
         <source>Dustlark</source>
         <extracomment>Window title (the app&apos;s name)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MainWindow.cpp" line="100"/>
         <source>File</source>
         <extracomment>Menu of the app&apos;s commands</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MainWindow.cpp" line="103"/>
         <source>Settings…</source>
         <extracomment>Menu entry that opens the settings window</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MainWindow.cpp" line="115"/>
         <source>Quit Dustlark</source>
         <extracomment>Menu entry that quits the app</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MainWindowCleanup.cpp" line="83"/>
-        <location filename="../src/ui/MainWindowCleanup.cpp" line="88"/>
         <source>Quit while Dustlark is working?</source>
         <extracomment>Question when the app is asked to quit while a cleanup or a move changes files</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MainWindowCleanup.cpp" line="93"/>
         <source>Dustlark stops after the current item and removes an unfinished copy, then quits.</source>
         <extracomment>Under &quot;Quit while Dustlark is working?&quot;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MainWindowCleanup.cpp" line="95"/>
         <source>Keep Working</source>
         <extracomment>Answer to &quot;Quit while Dustlark is working?&quot;: don&apos;t quit</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MainWindowCleanup.cpp" line="97"/>
         <source>Stop and Quit</source>
         <extracomment>Answer to &quot;Quit while Dustlark is working?&quot;: stop after the current item, then quit</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MainWindowNavigation.cpp" line="39"/>
         <source>Clean the selected items?</source>
         <extracomment>Question when another screen is chosen while items are selected</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MainWindowNavigation.cpp" line="43"/>
         <source>%1 is selected here. Clean it now, or clear the selection and go on.</source>
         <extracomment>Under &quot;Clean the selected items?&quot;; %1 names the selection, e.g. &quot;1.2 GB in 3 items&quot;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MainWindowNavigation.cpp" line="45"/>
         <source>Clean…</source>
         <extracomment>Answer to &quot;Clean the selected items?&quot;: open the cleanup of the selection</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MainWindowNavigation.cpp" line="48"/>
         <source>Clear Selection</source>
         <extracomment>Answer to &quot;Clean the selected items?&quot;: empty the selection and show the chosen screen</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MainWindowNavigation.cpp" line="50"/>
         <source>Cancel</source>
         <extracomment>Answer to &quot;Clean the selected items?&quot;: stay on this screen</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MainWindowToolbar.cpp" line="27"/>
         <source>Toolbar</source>
         <extracomment>Name of the main toolbar (shown in its context menu)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MainWindowToolbar.cpp" line="74"/>
         <source>Stop</source>
         <extracomment>Toolbar button that stops the running scan</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MainWindowToolbar.cpp" line="78"/>
         <source>Scan</source>
         <extracomment>Toolbar button that scans everything</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/ui/MainWindowToolbar.cpp" line="97"/>
         <source>Scanning… %Ln items</source>
         <extracomment>Scan progress in the toolbar; %Ln is the number of files and folders looked at so far</extracomment>
         <translation>
@@ -2252,7 +1899,6 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         </translation>
     </message>
     <message>
-        <location filename="../src/ui/MainWindowToolbar.cpp" line="110"/>
         <source>%1 available</source>
         <extracomment>Free space on the disk, in the toolbar; %1 is a size such as &quot;120.5 GB&quot;</extracomment>
         <translation type="unfinished"></translation>
@@ -2261,55 +1907,46 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>MoveDestinationPage</name>
     <message>
-        <location filename="../src/ui/MoveDestinationPage.cpp" line="38"/>
         <source>Move “%1” to another disk?</source>
         <extracomment>Heading of the move sheet; %1 is the row&apos;s title</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MoveDestinationPage.cpp" line="41"/>
         <source>Dustlark copies it to the folder you choose, checks that the copy matches the original, and only then moves the original to the Trash.</source>
         <extracomment>Under the move sheet&apos;s heading: what a move does, in order</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MoveDestinationPage.cpp" line="56"/>
         <source>To:</source>
         <extracomment>Label before the chosen destination folder of a move</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MoveDestinationPage.cpp" line="59"/>
         <source>No folder chosen</source>
         <extracomment>Shown where the destination folder goes until one is chosen</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MoveDestinationPage.cpp" line="63"/>
         <source>Choose Folder…</source>
         <extracomment>Button that opens the folder chooser for a move&apos;s destination</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MoveDestinationPage.cpp" line="74"/>
         <source>Move</source>
         <extracomment>Button that starts the move to another disk</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MoveDestinationPage.cpp" line="88"/>
         <source>Choose a Folder on Another Disk</source>
         <extracomment>Title of the folder chooser for a move&apos;s destination</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MoveDestinationPage.cpp" line="92"/>
         <source>Choose</source>
         <extracomment>Confirming button of the folder chooser of a move</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MoveDestinationPage.cpp" line="104"/>
         <source>Checking the folder…</source>
         <extracomment>Shown while a chosen destination folder is being checked</extracomment>
         <translation type="unfinished"></translation>
@@ -2318,25 +1955,21 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>MoveOutcomePage</name>
     <message>
-        <location filename="../src/ui/MoveOutcomePage.cpp" line="25"/>
         <source>“%1” was moved</source>
         <extracomment>Heading of the move sheet after a move; %1 is the row&apos;s title</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MoveOutcomePage.cpp" line="27"/>
         <source>It is now at %1. The original is in the Trash.</source>
         <extracomment>After a move: %1 is the new location; the original went to the Trash</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MoveOutcomePage.cpp" line="33"/>
         <source>The move didn&apos;t finish</source>
         <extracomment>Heading of the move sheet when a move failed or was stopped; the text below says how far it came</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MoveOutcomePage.cpp" line="37"/>
         <source>Done</source>
         <extracomment>Button that closes the move sheet</extracomment>
         <translation type="unfinished"></translation>
@@ -2345,37 +1978,31 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>MoveProgressPage</name>
     <message>
-        <location filename="../src/ui/MoveProgressPage.cpp" line="24"/>
         <source>Moving “%1”…</source>
         <extracomment>Heading of the move sheet while the copy runs; %1 is the row&apos;s title</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MoveProgressPage.cpp" line="27"/>
         <source>To %1</source>
         <extracomment>Under the heading while a move runs; %1 is the destination folder</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MoveProgressPage.cpp" line="33"/>
         <source>Stop</source>
         <extracomment>Button that stops a move: the copy ends and is removed, the original stays</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MoveProgressPage.cpp" line="60"/>
         <source>Stopping and removing the copy…</source>
         <extracomment>Shown after Stop while the copy ends and is removed</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MoveProgressPage.cpp" line="63"/>
         <source>%1 of %2</source>
         <extracomment>Progress of a move; %1 bytes copied so far, %2 in all, e.g. &quot;1.2 GB of 4.5 GB&quot;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MoveProgressPage.cpp" line="66"/>
         <source>Reading the original…</source>
         <extracomment>Progress of a move before the first bytes arrived (the original is being read first)</extracomment>
         <translation type="unfinished"></translation>
@@ -2384,13 +2011,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>MoveSheet</name>
     <message>
-        <location filename="../src/ui/MoveSheet.cpp" line="16"/>
         <source>Move to Another Disk</source>
         <extracomment>Window title of the move sheet (shown where sheets have a title bar)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/MoveSheet.cpp" line="40"/>
         <source>Dustlark is busy with a scan, a cleanup or another move. Try again when it has finished.</source>
         <extracomment>Why a move could not start: the app is scanning, cleaning or moving something else</extracomment>
         <translation type="unfinished"></translation>
@@ -2399,91 +2024,76 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>Mover</name>
     <message>
-        <location filename="../src/actions/MoverReasons.cpp" line="12"/>
         <source>The destination folder isn&apos;t available.</source>
         <extracomment>Move to Another Disk error: the chosen folder is missing or not a folder</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/MoverReasons.cpp" line="18"/>
         <source>Dustlark can&apos;t write to that folder.</source>
         <extracomment>Move to Another Disk error: no permission to write into the chosen folder</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/MoverReasons.cpp" line="24"/>
         <source>That folder is on the same disk, so moving there frees no space. Choose another disk.</source>
         <extracomment>Move to Another Disk error: the chosen folder is on the disk the item is on</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/MoverReasons.cpp" line="30"/>
         <source>That folder is inside the item itself. Choose another folder.</source>
         <extracomment>Move to Another Disk error: the chosen folder lies inside the item being moved</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/MoverReasons.cpp" line="36"/>
         <source>Two parts of it are named “%1”, so they can&apos;t go into one folder.</source>
         <extracomment>Move to Another Disk error: two parts of the item differ only in upper and lower case; %1 is the name</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/MoverReasons.cpp" line="42"/>
         <source>“%1” already exists in that folder.</source>
         <extracomment>Move to Another Disk error: the destination already holds something of that name; %1 is the name</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/MoverReasons.cpp" line="48"/>
         <source>Only files and folders can be moved to another disk.</source>
         <extracomment>Move to Another Disk error: the row is a Docker object, a simulator or the Trash</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/MoverReasons.cpp" line="54"/>
         <source>Some files in it can&apos;t be read, so the copy couldn&apos;t be checked. Nothing was changed.</source>
         <extracomment>Move to Another Disk error: some entries of the item can&apos;t be read</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/MoverReasons.cpp" line="60"/>
         <source>Not enough space on that disk: %1 needed, %2 free.</source>
         <extracomment>Move to Another Disk error: %1 is the size needed, %2 the free space, e.g. &quot;12 GB&quot;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/MoverReasons.cpp" line="67"/>
         <source>“Dustlark unfinished move” is still in that folder from an earlier move. Check it and remove it, then try again.</source>
         <extracomment>Move to Another Disk error: a work folder of an earlier, interrupted move is in the destination</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/MoverReasons.cpp" line="73"/>
         <source>Copy failed: %1</source>
         <extracomment>Move to Another Disk error: the copy tool failed; %1 is its message</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/MoverReasons.cpp" line="79"/>
         <source>The original changed while it was copied. Nothing was changed; try again.</source>
         <extracomment>Move to Another Disk error: a file of the original was changed during the copy</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/MoverReasons.cpp" line="85"/>
         <source>The copy didn&apos;t match the original (%1 of %2 files). The original wasn&apos;t changed.</source>
         <extracomment>Move to Another Disk error: the copy differs from the original; %1 is the copy&apos;s file count, %2 the original&apos;s</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/MoverReasons.cpp" line="92"/>
         <source>Copied and verified, but the original couldn&apos;t go to the Trash: %1</source>
         <extracomment>Move to Another Disk error: the verified copy is in place but the original stayed; %1 is the reason</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/MoverReasons.cpp" line="98"/>
         <source>Stopped. The original wasn&apos;t changed.</source>
         <extracomment>Move to Another Disk: the person pressed Stop or quit; everything copied was removed</extracomment>
         <translation type="unfinished"></translation>
@@ -2492,19 +2102,16 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>OldDownloadsScanner</name>
     <message>
-        <location filename="../src/scan/OldDownloadsScanner.cpp" line="57"/>
         <source>last changed %1</source>
         <extracomment>Detail of an Old Downloads row; %1 is a relative date like &apos;5 months ago&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/OldDownloadsScanner.cpp" line="61"/>
         <source>Folder</source>
         <extracomment>Badge of an Old Downloads row that is a folder</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/OldDownloadsScanner.cpp" line="68"/>
         <source>Downloads couldn&apos;t be read. Allow access when macOS asks.</source>
         <extracomment>Note above Old Downloads when the Downloads folder can&apos;t be read</extracomment>
         <translation type="unfinished"></translation>
@@ -2513,7 +2120,6 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>OverviewPage</name>
     <message numerus="yes">
-        <location filename="../src/ui/OverviewPage.cpp" line="29"/>
         <source>%Ln items</source>
         <extracomment>Number of items removed by one cleanup; %Ln is the number</extracomment>
         <translation>
@@ -2522,121 +2128,101 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         </translation>
     </message>
     <message>
-        <location filename="../src/ui/OverviewPage.cpp" line="35"/>
         <source>Date</source>
         <extracomment>Column heading of the cleanup history: when a cleanup ran</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/OverviewPage.cpp" line="37"/>
         <source>Freed</source>
         <extracomment>Column heading of the cleanup history: the space a cleanup freed</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/OverviewPage.cpp" line="39"/>
         <source>Items</source>
         <extracomment>Column heading of the cleanup history: how many items a cleanup removed</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/OverviewPage.cpp" line="49"/>
         <source>%1 moved to the Trash, %2 removed by tools</source>
         <extracomment>Tooltip of a cleanup&apos;s freed space; %1 and %2 are sizes</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/OverviewPage.cpp" line="76"/>
         <source>Overview</source>
         <extracomment>Heading of the overview screen</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/OverviewPage.cpp" line="78"/>
         <source>A scan only reads. You choose what goes to the Trash.</source>
         <extracomment>The promise on the overview screen</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/OverviewPage.cpp" line="83"/>
         <source>Statistics</source>
         <extracomment>Heading of the statistics on the overview screen</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/OverviewPage.cpp" line="88"/>
         <source>Cleanup History</source>
         <extracomment>Heading of the list of past cleanups on the overview screen</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/OverviewPage.cpp" line="121"/>
         <source>Your first cleanup will show up here.</source>
         <extracomment>Shown instead of the cleanup history while there is none</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/OverviewPage.cpp" line="144"/>
         <source>Full Disk Access is off</source>
         <extracomment>Heading of the banner shown while the app lacks Full Disk Access</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/OverviewPage.cpp" line="146"/>
         <source>Without it, Dustlark can&apos;t read some folders, such as Mail, Messages and Safari data, so what they hold is missing from the scan.</source>
         <extracomment>Banner text shown while the app lacks Full Disk Access</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/OverviewPage.cpp" line="149"/>
         <source>Open Privacy Settings…</source>
         <extracomment>Button of the Full Disk Access banner; opens the system&apos;s privacy settings</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/OverviewPage.cpp" line="191"/>
         <source>Cleaned in total</source>
         <extracomment>Statistics caption under the bytes freed by all cleanups so far</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/OverviewPage.cpp" line="193"/>
         <source>Cleanups</source>
         <extracomment>Statistics caption under the number of cleanups so far</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/OverviewPage.cpp" line="195"/>
         <source>Items removed</source>
         <extracomment>Statistics caption under the number of items removed so far</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/OverviewPage.cpp" line="232"/>
         <source>Found so far</source>
         <extracomment>Caption under a group&apos;s found size while a scan runs</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/OverviewPage.cpp" line="235"/>
         <source>Found to review</source>
         <extracomment>Caption under a group&apos;s found size after a scan</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/OverviewPage.cpp" line="238"/>
         <source>Not scanned yet</source>
         <extracomment>Caption of a group on the overview before any scan</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/OverviewPage.cpp" line="250"/>
         <source>Last scan: %1, found %2.</source>
         <extracomment>Overview statistics line; %1 is a relative date (&quot;3 days ago&quot;), %2 a size</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/OverviewPage.cpp" line="254"/>
         <source>No full scan yet.</source>
         <extracomment>Overview statistics line before the first finished full scan</extracomment>
         <translation type="unfinished"></translation>
@@ -2645,13 +2231,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>ProcessRunner</name>
     <message>
-        <location filename="../src/machinery/ProcessRunner.cpp" line="322"/>
         <source>The tool didn&apos;t answer in time.</source>
         <extracomment>Error when a command-line tool (docker, xcrun) times out</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/machinery/ProcessRunner.cpp" line="329"/>
         <source>Exit code %1</source>
         <extracomment>Error of a command-line tool that gave no message</extracomment>
         <translation type="unfinished"></translation>
@@ -2660,7 +2244,6 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>ProjectScanner</name>
     <message numerus="yes">
-        <location filename="../src/scan/ProjectScanner.cpp" line="149"/>
         <source>%n files or folders were left out because their names can&apos;t be read as text. Rename them to include them.</source>
         <extracomment>Note above Project Builds and Large Files; %n is the number of files and folders whose names aren&apos;t valid text</extracomment>
         <translation>
@@ -2669,7 +2252,6 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/scan/ProjectScanner.cpp" line="158"/>
         <source>%n folders couldn&apos;t be read. Allow access when macOS asks, or give Dustlark Full Disk Access.</source>
         <extracomment>Note above Project Builds and Large Files; %n is the number of folders that couldn&apos;t be read</extracomment>
         <translation>
@@ -2678,13 +2260,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         </translation>
     </message>
     <message>
-        <location filename="../src/scan/ProjectScannerRows.cpp" line="42"/>
         <source>project changed %1</source>
         <extracomment>Fact in a Project Builds row&apos;s detail line; %1 is a relative date like &apos;3 months ago&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/scan/ProjectScannerRows.cpp" line="46"/>
         <source>%n files in it are tracked by git</source>
         <extracomment>Fact in a Project Builds row&apos;s detail line; %n is how many files in the folder git tracks</extracomment>
         <translation>
@@ -2693,7 +2273,6 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         </translation>
     </message>
     <message>
-        <location filename="../src/scan/ProjectScannerRows.cpp" line="104"/>
         <source>opened %1</source>
         <extracomment>Fact in a Large Files row&apos;s detail line; %1 is a relative date like &apos;3 months ago&apos;</extracomment>
         <translation type="unfinished"></translation>
@@ -2702,79 +2281,66 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>RelativeDate</name>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="25"/>
         <source>last month</source>
         <extracomment>Relative date</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="27"/>
         <source>%1 months ago</source>
         <extracomment>Relative date; %1 is a number of months (2 to 11)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="32"/>
         <source>last year</source>
         <extracomment>Relative date</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="34"/>
         <source>%1 years ago</source>
         <extracomment>Relative date; %1 is a number of years (2 or more)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="44"/>
         <source>just now</source>
         <extracomment>Relative date of something that happened less than a minute ago</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="49"/>
         <source>1 minute ago</source>
         <extracomment>Relative date</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="51"/>
         <source>%1 minutes ago</source>
         <extracomment>Relative date; %1 is a number of minutes (2 to 59)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="57"/>
         <source>1 hour ago</source>
         <extracomment>Relative date</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="59"/>
         <source>%1 hours ago</source>
         <extracomment>Relative date; %1 is a number of hours (2 to 23)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="64"/>
         <source>yesterday</source>
         <extracomment>Relative date</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="67"/>
         <source>%1 days ago</source>
         <extracomment>Relative date; %1 is a number of days (2 to 6)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="73"/>
         <source>last week</source>
         <extracomment>Relative date</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/format/RelativeDate.cpp" line="75"/>
         <source>%1 weeks ago</source>
         <extracomment>Relative date; %1 is a number of weeks (2 to 4)</extracomment>
         <translation type="unfinished"></translation>
@@ -2783,133 +2349,111 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>Remover</name>
     <message>
-        <location filename="../src/actions/DockerRemoval.cpp" line="48"/>
         <source>Docker isn&apos;t installed.</source>
         <extracomment>Cleanup failure reason for a Docker item</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/DockerRemoval.cpp" line="54"/>
         <source>Docker now uses a different setup than during the scan. Scan again.</source>
         <extracomment>Cleanup failure reason for a Docker item: the Docker endpoint differs from the scan&apos;s</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/FinderTrash.cpp" line="43"/>
         <source>The administrator password wasn&apos;t entered.</source>
         <extracomment>Cleanup failure reason: macOS asked for the password to remove an app and it was cancelled</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/FinderTrash.cpp" line="47"/>
         <source>macOS didn&apos;t allow Dustlark to control Finder. Allow it in System Settings › Privacy &amp; Security › Automation.</source>
         <extracomment>Cleanup failure reason: macOS doesn&apos;t let Dustlark control Finder (Automation permission)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/FinderTrash.cpp" line="53"/>
         <source>Finder couldn&apos;t move it to the Trash: %1</source>
         <extracomment>Cleanup failure reason. The placeholder is Finder&apos;s own message (a sentence).</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/RemovalReasons.cpp" line="10"/>
         <source>It is outside your home folder.</source>
         <extracomment>Why an item can&apos;t be moved to the Trash</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/RemovalReasons.cpp" line="16"/>
         <source>It no longer exists.</source>
         <extracomment>Why an item can&apos;t be moved to the Trash</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/RemovalReasons.cpp" line="22"/>
         <source>It is a symbolic link.</source>
         <extracomment>Why an item can&apos;t be moved to the Trash</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/RemovalReasons.cpp" line="28"/>
         <source>It changed since the scan. Scan again.</source>
         <extracomment>Why an item can&apos;t be moved to the Trash</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/RemovalReasons.cpp" line="34"/>
         <source>Its path goes through a symbolic link.</source>
         <extracomment>Why an item can&apos;t be moved to the Trash</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/RemovalReasons.cpp" line="40"/>
         <source>Its folder can&apos;t be read.</source>
         <extracomment>Why an item can&apos;t be moved to the Trash</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/RemovalReasons.cpp" line="46"/>
         <source>Locked in git (git worktree lock).</source>
         <extracomment>Why a git worktree can&apos;t be selected; keep the command as is</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/RemovalReasons.cpp" line="52"/>
         <source>Running. Quit it to remove it.</source>
         <extracomment>Why a running app can&apos;t be selected</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/RemovalReasons.cpp" line="58"/>
         <source>Changed in the last day; a session may be running.</source>
         <extracomment>Why an AI agent&apos;s session history can&apos;t be selected</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/RemovalReasons.cpp" line="64"/>
         <source>The Trash is emptied with Empty Trash.</source>
         <extracomment>Why the Trash row is not removed like other items</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/RemovalReasons.cpp" line="70"/>
         <source>Its name can&apos;t be read exactly. Rename it to remove it.</source>
         <extracomment>Why an item can&apos;t be moved to the Trash: its file name is not valid text, so it can&apos;t be told apart from a similar name</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/RemovalReasons.cpp" line="77"/>
         <source>It couldn&apos;t be moved to the Trash.</source>
         <extracomment>Cleanup failure reason when the system&apos;s trash refused without saying why</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/RemovalReasons.cpp" line="80"/>
         <source>It couldn&apos;t be moved to the Trash: %1</source>
         <extracomment>Cleanup failure reason. The placeholder is the system&apos;s own description of the error.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/RemovalReasons.cpp" line="86"/>
         <source>The tool couldn&apos;t be started: %1</source>
         <extracomment>Cleanup failure reason. The placeholder is the system&apos;s reason, e.g. &quot;No such file or directory&quot;.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/SimulatorRemoval.cpp" line="25"/>
         <source>Xcode&apos;s simulator tool gave an answer Dustlark can&apos;t read.</source>
         <extracomment>Cleanup failure reason when Xcode&apos;s simulator tool (xcrun simctl) printed something unreadable</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/SimulatorRemoval.cpp" line="94"/>
         <source>Running. Shut it down to remove it.</source>
         <extracomment>Why a simulator device can&apos;t be removed</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/SimulatorRemoval.cpp" line="132"/>
         <source>A simulator on it is running. Shut it down to remove it.</source>
         <extracomment>Why a simulator runtime can&apos;t be removed</extracomment>
         <translation type="unfinished"></translation>
@@ -2918,19 +2462,16 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>ReportOptions</name>
     <message>
-        <location filename="../src/report/ReportOptions.cpp" line="32"/>
         <source>Unknown argument &quot;%1&quot;.</source>
         <extracomment>Error of the report tool; %1 is the argument it did not understand</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/report/ReportOptions.cpp" line="37"/>
         <source>%1 needs a value.</source>
         <extracomment>Error of the report tool; %1 is an option such as --home</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/report/ReportOptions.cpp" line="50"/>
         <source>Unknown category &quot;%1&quot;.</source>
         <extracomment>Error of the report tool; %1 is the category name it did not know</extracomment>
         <translation type="unfinished"></translation>
@@ -2939,19 +2480,16 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>Reveal</name>
     <message>
-        <location filename="../src/ui/Reveal.cpp" line="18"/>
         <source>Show in Finder</source>
         <extracomment>Menu entry and button that show an item selected in Finder</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/Reveal.cpp" line="20"/>
         <source>Show in File Manager</source>
         <extracomment>Menu entry and button that show an item in the desktop&apos;s file manager (Linux)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/Reveal.cpp" line="32"/>
         <source>No file manager could show “%1”.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2959,19 +2497,16 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>RunningApps</name>
     <message>
-        <location filename="../src/scan/RunningApps.cpp" line="110"/>
         <source>Running. Quit %1 to remove it.</source>
         <extracomment>Why a row can&apos;t be selected; %1 is the name of the app that uses it</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/RunningApps.cpp" line="116"/>
         <source>Running. Quit %1 to clean its caches.</source>
         <extracomment>Why an app&apos;s cache row can&apos;t be selected; %1 is the app&apos;s name</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/RunningApps.cpp" line="122"/>
         <source>Running. Quit %1 to clean its cache.</source>
         <extracomment>Why a browser&apos;s cache row can&apos;t be selected; %1 is the browser&apos;s name</extracomment>
         <translation type="unfinished"></translation>
@@ -2980,61 +2515,51 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>SafeListPage</name>
     <message>
-        <location filename="../src/ui/SafeListPage.cpp" line="42"/>
         <source>Added %1</source>
         <extracomment>When a row was put on the Safe List; %1 is a relative date (&quot;3 days ago&quot;, &quot;yesterday&quot;)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/SafeListPage.cpp" line="95"/>
         <source>Safe List</source>
         <extracomment>Heading of the Safe List screen</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/SafeListPage.cpp" line="97"/>
         <source>Items and folders here never appear in scans and can&apos;t be cleaned by mistake. Add an item or its whole project from the ••• menu of any row.</source>
         <extracomment>Explanation at the top of the Safe List screen</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/SafeListPage.cpp" line="110"/>
         <source>Items</source>
         <extracomment>Heading of the single items on the Safe List</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/SafeListPage.cpp" line="118"/>
         <source>No items are on the list.</source>
         <extracomment>Shown instead of the Safe List&apos;s items while there are none</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/SafeListPage.cpp" line="121"/>
         <source>Taking an item off the list scans its category again, so it shows up right away.</source>
         <extracomment>Note under the Safe List&apos;s items</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/SafeListPage.cpp" line="127"/>
         <source>Folders — nothing inside is shown</source>
         <extracomment>Heading of the folders on the Safe List</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/SafeListPage.cpp" line="130"/>
         <source>No folders are on the list.</source>
         <extracomment>Shown instead of the Safe List&apos;s folders while there are none</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/SafeListPage.cpp" line="133"/>
         <source>A folder taken off the list shows up again in the next scan.</source>
         <extracomment>Note under the Safe List&apos;s folders</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/SafeListPage.cpp" line="151"/>
         <source>Remove from List</source>
         <extracomment>Button that takes one row off the Safe List</extracomment>
         <translation type="unfinished"></translation>
@@ -3043,55 +2568,46 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>Safety</name>
     <message>
-        <location filename="../src/vocabulary/Safety.cpp" line="11"/>
         <source>Safe</source>
         <extracomment>Safety label of a row: it comes back on its own</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/Safety.cpp" line="13"/>
         <source>Ask AI</source>
         <extracomment>Safety label of a row: ask an AI assistant whether to remove it</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/Safety.cpp" line="15"/>
         <source>Risky</source>
         <extracomment>Safety label of a row: may hold data that exists nowhere else</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/Safety.cpp" line="24"/>
         <source>comes back on its own</source>
         <extracomment>Legend of the Safe label, lower case</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/Safety.cpp" line="26"/>
         <source>depends on how you use it</source>
         <extracomment>Legend of the Ask AI label, lower case</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/Safety.cpp" line="28"/>
         <source>may hold data you can&apos;t get back</source>
         <extracomment>Legend of the Risky label, lower case</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/Safety.cpp" line="37"/>
         <source>Safe to remove: it comes back on its own when needed; you only lose the time to rebuild or download it.</source>
         <extracomment>Tooltip of the Safe label</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/Safety.cpp" line="39"/>
         <source>Depends on how you use it. Click to copy a description for an AI assistant (Claude, Codex, ChatGPT) and ask.</source>
         <extracomment>Tooltip of the Ask AI label; clicking it copies a question</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/Safety.cpp" line="41"/>
         <source>Risky: you can lose data that exists nowhere else. Remove only if you&apos;re sure.</source>
         <extracomment>Tooltip of the Risky label</extracomment>
         <translation type="unfinished"></translation>
@@ -3100,13 +2616,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>SelectionBar</name>
     <message>
-        <location filename="../src/ui/SelectionBar.cpp" line="14"/>
         <source>Clean…</source>
         <extracomment>Button that opens the cleanup of the selected items</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/ui/SelectionBar.cpp" line="31"/>
         <source>%1 in %n items</source>
         <extracomment>Names a selection; %1 is the total size, %n the number of items</extracomment>
         <translation>
@@ -3115,13 +2629,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         </translation>
     </message>
     <message>
-        <location filename="../src/ui/SelectionBar.cpp" line="39"/>
         <source>Labels show how safe it is to delete each item. Nothing is selected for you.</source>
         <extracomment>Line under a list while nothing is selected</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/SelectionBar.cpp" line="43"/>
         <source>%1 selected</source>
         <extracomment>Line under a list; %1 names the selection, e.g. &quot;1.2 GB in 3 items&quot;</extracomment>
         <translation type="unfinished"></translation>
@@ -3130,55 +2642,46 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>SettingsPage</name>
     <message>
-        <location filename="../src/ui/SettingsPage.cpp" line="26"/>
         <source>Settings</source>
         <extracomment>Heading of the settings</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/SettingsPage.cpp" line="28"/>
         <source>Scan Folders</source>
         <extracomment>Heading of the scan folders in the settings</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/SettingsPage.cpp" line="30"/>
         <source>Dustlark looks for project builds, Git worktrees, large files and duplicates in these folders.</source>
         <extracomment>Explanation of the scan folders in the settings</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/SettingsPage.cpp" line="67"/>
         <source>Updates</source>
         <extracomment>Heading of the update check in the settings</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/SettingsPage.cpp" line="75"/>
         <source>Language:</source>
         <extracomment>Label of the interface language picker in the settings</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/SettingsPage.cpp" line="78"/>
         <source>Relaunch</source>
         <extracomment>Button that restarts the app so a newly chosen language takes effect</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/SettingsPage.cpp" line="90"/>
         <source>Interface Language</source>
         <extracomment>Heading of the interface language in the settings</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/SettingsPage.cpp" line="119"/>
         <source>The new language is used after Dustlark relaunches.</source>
         <extracomment>Shown after choosing another interface language</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/SettingsPage.cpp" line="129"/>
         <source>Dustlark couldn&apos;t relaunch. Quit it and open it again.</source>
         <extracomment>Shown when the app could not start itself again</extracomment>
         <translation type="unfinished"></translation>
@@ -3187,31 +2690,26 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>Sidebar</name>
     <message>
-        <location filename="../src/ui/Sidebar.cpp" line="48"/>
         <source>Overview</source>
         <extracomment>Sidebar entry of the overview screen</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/Sidebar.cpp" line="50"/>
         <source>Storage</source>
         <extracomment>Sidebar entry of the storage breakdown screen</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/Sidebar.cpp" line="52"/>
         <source>Large Folders</source>
         <extracomment>Sidebar entry of the screen of folders that are large because of many small files</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/Sidebar.cpp" line="54"/>
         <source>Safe List</source>
         <extracomment>Sidebar entry of the Safe List screen</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/Sidebar.cpp" line="57"/>
         <source>About</source>
         <extracomment>Sidebar entry of the About screen</extracomment>
         <translation type="unfinished"></translation>
@@ -3220,121 +2718,101 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>SimulatorScanner</name>
     <message>
-        <location filename="../src/scan/SimulatorScanner.cpp" line="38"/>
         <source>The tool&apos;s answer isn&apos;t valid JSON.</source>
         <extracomment>Why the simulator tool&apos;s listing couldn&apos;t be used: it printed something that isn&apos;t valid JSON</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/SimulatorScanner.cpp" line="101"/>
         <source>Couldn&apos;t list simulator devices: %1</source>
         <extracomment>Note in the Simulators category; %1 is the tool&apos;s error sentence</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/SimulatorScanner.cpp" line="110"/>
         <source>Couldn&apos;t list simulator runtimes: %1</source>
         <extracomment>Note in the Simulators category; %1 is the tool&apos;s error sentence. The devices are still listed.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/SimulatorScanner.cpp" line="179"/>
         <source>Xcode isn&apos;t installed, so there are no simulators to manage.</source>
         <extracomment>Note in the Simulators category</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/SimulatorScannerRows.cpp" line="35"/>
         <source>never used</source>
         <extracomment>Fact in a simulator device&apos;s detail line</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/SimulatorScannerRows.cpp" line="37"/>
         <source>used %1</source>
         <extracomment>Fact in a simulator&apos;s detail line; %1 is a relative date like &apos;3 months ago&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/SimulatorScannerRows.cpp" line="43"/>
         <source>removing it keeps %1</source>
         <extracomment>Fact in a simulator device&apos;s detail line; %1 is the runtime&apos;s name like &apos;iOS 17.5&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/SimulatorScannerRows.cpp" line="47"/>
         <source>runtime is missing</source>
         <extracomment>Why a simulator device can&apos;t run, in parentheses of &quot;can&apos;t run: its iOS is gone (%1)&quot;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/SimulatorScannerRows.cpp" line="50"/>
         <source>can&apos;t run: its iOS is gone (%1)</source>
         <extracomment>Fact in a simulator device&apos;s detail line; %1 is Xcode&apos;s reason</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/SimulatorScannerRows.cpp" line="58"/>
         <source>%1 runtime</source>
         <extracomment>Title of a simulator runtime row; %1 is its name like &apos;iOS 17.5&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/SimulatorScannerRows.cpp" line="66"/>
         <source>Build %1</source>
         <extracomment>Fact in a simulator runtime&apos;s detail line; %1 is a build like &apos;21F79&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/SimulatorScannerRows.cpp" line="72"/>
         <source>%1 devices stop working without it; getting it back is a %2 download</source>
         <extracomment>Fact in a simulator runtime&apos;s detail line; %1 is a number of devices, %2 a size like &apos;7.4 GB&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/SimulatorScannerRows.cpp" line="76"/>
         <source>no devices use it</source>
         <extracomment>Fact in a simulator runtime&apos;s detail line</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/SimulatorScannerRows.cpp" line="85"/>
         <source>A simulator on it is running. Shut it down to remove it.</source>
         <extracomment>Why a simulator runtime can&apos;t be selected</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/SimulatorScannerRows.cpp" line="88"/>
         <source>Installed with Xcode; remove it in Xcode Settings › Components.</source>
         <extracomment>Why a simulator runtime can&apos;t be selected</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/SimulatorScannerRows.cpp" line="118"/>
         <source>Simulator %1</source>
         <extracomment>A simulator runtime whose platform can&apos;t be told; %1 is its version like &apos;17.5&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/SimulatorScannerRows.cpp" line="135"/>
         <source>Device</source>
         <extracomment>Badge of a simulator device</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/SimulatorScannerRows.cpp" line="137"/>
         <source>Unavailable</source>
         <extracomment>Badge of a simulator device that can&apos;t run, because its runtime is gone</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/SimulatorScannerRows.cpp" line="143"/>
         <source>Running. Shut it down to remove it.</source>
         <extracomment>Why a simulator device can&apos;t be selected</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/SimulatorScannerRows.cpp" line="155"/>
         <source>Runtime</source>
         <extracomment>Badge of a simulator runtime</extracomment>
         <translation type="unfinished"></translation>
@@ -3343,25 +2821,21 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>SizeFilter</name>
     <message>
-        <location filename="../src/vocabulary/SizeFilter.cpp" line="38"/>
         <source>All Sizes</source>
         <extracomment>Size filter menu: show rows of every size</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/SizeFilter.cpp" line="40"/>
         <source>10 MB+</source>
         <extracomment>Size filter menu: show rows of 10 megabytes or more</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/SizeFilter.cpp" line="42"/>
         <source>100 MB+</source>
         <extracomment>Size filter menu: show rows of 100 megabytes or more</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/vocabulary/SizeFilter.cpp" line="44"/>
         <source>1 GB+</source>
         <extracomment>Size filter menu: show rows of 1 gigabyte or more</extracomment>
         <translation type="unfinished"></translation>
@@ -3370,19 +2844,16 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>StorageAnalyzer</name>
     <message>
-        <location filename="../src/storage/StorageAnalyzer.cpp" line="73"/>
         <source>1 folder couldn&apos;t be read; what it holds counts as %1.</source>
         <extracomment>Note above the storage breakdown when one folder could not be read</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/storage/StorageAnalyzer.cpp" line="76"/>
         <source>%1 folders couldn&apos;t be read; what they hold counts as %2.</source>
         <extracomment>Note above the storage breakdown; %1 is the number of folders that could not be read, %2 the name of the remainder</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/storage/StorageAnalyzer.cpp" line="120"/>
         <source>Without Full Disk Access, app containers, Mail, Messages and Safari data aren&apos;t measured and fall under macOS and system data.</source>
         <extracomment>Note above the storage breakdown while the app lacks Full Disk Access</extracomment>
         <translation type="unfinished"></translation>
@@ -3391,85 +2862,71 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>StorageBucket</name>
     <message>
-        <location filename="../src/storage/StorageBucket.cpp" line="38"/>
         <source>Applications</source>
         <extracomment>Storage kind: applications</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/storage/StorageBucket.cpp" line="40"/>
         <source>Developer</source>
         <extracomment>Storage kind: developer tools&apos; data, build folders and package caches</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/storage/StorageBucket.cpp" line="42"/>
         <source>Photos</source>
         <extracomment>Storage kind: pictures and photo libraries</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/storage/StorageBucket.cpp" line="44"/>
         <source>Videos</source>
         <extracomment>Storage kind: movies and video projects</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/storage/StorageBucket.cpp" line="46"/>
         <source>Music</source>
         <extracomment>Storage kind: music, audio and the music and TV libraries</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/storage/StorageBucket.cpp" line="48"/>
         <source>Documents</source>
         <extracomment>Storage kind: pdf, text, office documents, e-books</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/storage/StorageBucket.cpp" line="50"/>
         <source>Archives &amp; Disk Images</source>
         <extracomment>Storage kind: zip, dmg, pkg, ...</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/storage/StorageBucket.cpp" line="52"/>
         <source>iPhone &amp; iPad Backups</source>
         <extracomment>Storage kind: backups of iPhones and iPads made on this computer</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/storage/StorageBucket.cpp" line="54"/>
         <source>Mail &amp; Messages</source>
         <extracomment>Storage kind: Mail and Messages data</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/storage/StorageBucket.cpp" line="56"/>
         <source>App Data &amp; Caches</source>
         <extracomment>Storage kind: app data in the Library</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/storage/StorageBucket.cpp" line="58"/>
         <source>Trash</source>
         <extracomment>Storage kind: the macOS Trash</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/storage/StorageBucket.cpp" line="60"/>
         <source>Other Files</source>
         <extracomment>Storage kind: files of any other type</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/storage/StorageBucket.cpp" line="75"/>
         <source>macOS and System Data</source>
         <extracomment>Storage breakdown: the used space the analysis could not attribute (the system, other accounts, protected data)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/storage/StorageBucket.cpp" line="77"/>
         <source>System and Other Data</source>
         <extracomment>Storage breakdown on Linux: the used space the analysis could not attribute (the system, other accounts, protected data)</extracomment>
         <translation type="unfinished"></translation>
@@ -3478,37 +2935,31 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>StorageHeader</name>
     <message>
-        <location filename="../src/ui/StorageHeader.cpp" line="52"/>
         <source>Stop</source>
         <extracomment>Button of the storage screens while an analysis runs</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StorageHeader.cpp" line="54"/>
         <source>Measure Again</source>
         <extracomment>Button of the storage screens: measure the disk again</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StorageHeader.cpp" line="56"/>
         <source>Measure Disk</source>
         <extracomment>Button of the storage screens before any analysis</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StorageHeader.cpp" line="66"/>
         <source>Measured %1.</source>
         <extracomment>Status line of the storage screens; %1 is a relative date (&quot;5 minutes ago&quot;)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StorageHeader.cpp" line="69"/>
         <source>Not measured yet. Measuring reads your home folder; it changes nothing.</source>
         <extracomment>Status line of the storage screens before any analysis</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StorageHeader.cpp" line="93"/>
         <source>Measuring… %1 items looked at · %2</source>
         <extracomment>Status line while the disk is measured; %1 is a number of files and folders, %2 the folder being read</extracomment>
         <translation type="unfinished"></translation>
@@ -3517,44 +2968,36 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 <context>
     <name>StoragePage</name>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="60"/>
         <source>1 file</source>
         <extracomment>Number of files in a storage folder, singular</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="62"/>
         <source>%1 files</source>
         <extracomment>Number of files in a storage folder; %1 is the number</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="70"/>
         <source>Storage</source>
         <extracomment>Heading of the storage screen</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="72"/>
         <source>Where the space on your disk goes, by kind of data. Click a kind to see its folders, and a folder to see its largest files.</source>
         <extracomment>Explanation on the storage screen</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="76"/>
         <source>Back</source>
         <extracomment>Button of the storage drill-down: go up one level</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="97"/>
         <source>Kind</source>
         <extracomment>Column heading of the storage legend: the kind of data</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="99"/>
-        <location filename="../src/ui/StoragePage.cpp" line="120"/>
         <source>Size</source>
         <extracomment>Column heading of the storage legend: the kind&apos;s size
 ----------
@@ -3562,55 +3005,46 @@ Column heading of the storage drill-down: its size</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="101"/>
         <source>Share</source>
         <extracomment>Column heading of the storage legend: the kind&apos;s share of the used space</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="118"/>
         <source>Name</source>
         <extracomment>Column heading of the storage drill-down: a folder or file</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="122"/>
         <source>Files</source>
         <extracomment>Column heading of the storage drill-down: how many files it holds</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="163"/>
         <source>not measured</source>
         <extracomment>Middle of the storage ring before any analysis</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="179"/>
         <source>used</source>
         <extracomment>Under the size in the middle of the storage ring: the disk&apos;s used space</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="181"/>
         <source>measured</source>
         <extracomment>Under the size in the middle of the storage ring when the disk&apos;s used space is unknown</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="208"/>
         <source>The system, other accounts and data that can&apos;t be read without more access.</source>
         <extracomment>Tooltip of the remainder in the storage legend</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="223"/>
         <source>Choose a kind of data</source>
         <extracomment>Above the storage drill-down before a kind of data is chosen</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/StoragePage.cpp" line="262"/>
         <source>Files in this folder</source>
         <extracomment>Storage drill-down: the files that lie directly in the folder, not in a sub-folder</extracomment>
         <translation type="unfinished"></translation>
@@ -3619,43 +3053,36 @@ Column heading of the storage drill-down: its size</extracomment>
 <context>
     <name>SystemAccess</name>
     <message>
-        <location filename="../src/actions/FreedesktopTrash.cpp" line="86"/>
         <source>Some items in the Trash couldn&apos;t be removed. Empty the Trash again or use your file manager.</source>
         <extracomment>Empty Trash error on Linux, when some trashed items could not be deleted</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/SystemAccess.cpp" line="33"/>
         <source>Finder is still emptying the Trash; it finishes on its own.</source>
         <extracomment>Empty Trash status</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/SystemAccess.cpp" line="40"/>
         <source>macOS didn&apos;t allow Dustlark to control Finder. Allow it in System Settings › Privacy &amp; Security › Automation.</source>
         <extracomment>Empty Trash error</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/SystemAccess.cpp" line="46"/>
         <source>Emptying the Trash was stopped in Finder. What was already removed is gone.</source>
         <extracomment>Empty Trash error</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/SystemAccess.cpp" line="65"/>
         <source>Finder couldn&apos;t empty the whole Trash: %1 Quit the app that uses it and empty the Trash again.</source>
         <extracomment>Empty Trash error. The placeholder is Finder&apos;s own sentence.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/SystemAccess.cpp" line="68"/>
         <source>Finder couldn&apos;t empty the whole Trash: %1 Empty the Trash again or use Finder.</source>
         <extracomment>Empty Trash error. The placeholder is Finder&apos;s own sentence.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/actions/SystemAccess.cpp" line="77"/>
         <source>Finder couldn&apos;t be asked to empty the Trash: %1</source>
         <extracomment>Empty Trash error when osascript can&apos;t be started. The placeholder is the system&apos;s reason.</extracomment>
         <translation type="unfinished"></translation>
@@ -3664,7 +3091,6 @@ Column heading of the storage drill-down: its size</extracomment>
 <context>
     <name>SystemTrash</name>
     <message>
-        <location filename="../src/actions/FreedesktopTrashMove.cpp" line="32"/>
         <source>The Trash folder can&apos;t be set up.</source>
         <extracomment>Why a file couldn&apos;t be moved to the Trash: the system&apos;s Trash folder is missing and can&apos;t be made</extracomment>
         <translation type="unfinished"></translation>
@@ -3673,49 +3099,41 @@ Column heading of the storage drill-down: its size</extracomment>
 <context>
     <name>TemporaryScanner</name>
     <message>
-        <location filename="../src/scan/TemporaryScannerRows.cpp" line="29"/>
         <source>System temp</source>
         <extracomment>Badge of a Temporary Files row found in the system&apos;s temporary folders</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/TemporaryScannerRows.cpp" line="31"/>
         <source>Your temp folder</source>
         <extracomment>Badge of a Temporary Files row found in the person&apos;s own temp folder (~/tmp)</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/TemporaryScannerRows.cpp" line="37"/>
         <source>last changed %1</source>
         <extracomment>Detail of a Temporary Files row; %1 is a relative date like &apos;5 days ago&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/TemporaryScannerRows.cpp" line="75"/>
         <source>Simulator device</source>
         <extracomment>Title and badge of a temporary simulator device found in a temporary folder</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/TemporaryScannerRows.cpp" line="78"/>
         <source>temporary device set in %1</source>
         <extracomment>Detail of a temporary simulator device; %1 is its folder, like &apos;/tmp/XCTestDevices/…&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/TemporaryScannerRows.cpp" line="82"/>
         <source>Running. Shut it down to remove it.</source>
         <extracomment>Why a running simulator device can&apos;t be selected</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/TemporaryScannerRows.cpp" line="100"/>
         <source>Claude Code</source>
         <extracomment>Badge of a Claude Code scratch entry in a temporary folder</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/scan/TemporaryScannerRows.cpp" line="118"/>
         <source>%n old files in %1</source>
         <extracomment>Title of a Temporary Files row that gathers the old files of one folder; %1 is the folder&apos;s name</extracomment>
         <translation>
@@ -3724,43 +3142,36 @@ Column heading of the storage drill-down: its size</extracomment>
         </translation>
     </message>
     <message>
-        <location filename="../src/scan/TemporaryScannerRows.cpp" line="217"/>
         <source>Claude Code temp files · %1</source>
         <extracomment>Title of a Claude Code project&apos;s scratch folder; %1 is the project&apos;s folder, like &apos;~/www/app&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/TemporaryScannerRows.cpp" line="219"/>
         <source>Scratchpads and task output of this project&apos;s past sessions</source>
         <extracomment>Detail of a Claude Code project&apos;s scratch folder</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/TemporaryScannerRows.cpp" line="223"/>
         <source>Claude Code session files · %1</source>
         <extracomment>Title of one Claude Code session&apos;s scratch files; %1 is the project&apos;s folder, like &apos;~/www/app&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/TemporaryScannerRows.cpp" line="225"/>
         <source>One past session&apos;s scratchpad and task output; it may hold work that isn&apos;t saved elsewhere</source>
         <extracomment>Detail of one Claude Code session&apos;s scratch files</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/TemporaryScannerRows.cpp" line="230"/>
         <source>Claude Code temp files</source>
         <extracomment>Title of Claude Code scratch files that belong to no one project</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/TemporaryScannerRows.cpp" line="232"/>
         <source>Scratchpads and task output of past sessions</source>
         <extracomment>Detail of Claude Code scratch files that belong to no one project</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/TemporaryScannerRows.cpp" line="238"/>
         <source>Shown: system temp items untouched for %1+ days (macOS also clears /tmp when it restarts) and items in your own temp folders untouched for %2+ days.</source>
         <extracomment>Summary of Temporary Files; %1 and %2 are numbers of days (3 and 30)</extracomment>
         <translation type="unfinished"></translation>
@@ -3769,31 +3180,26 @@ Column heading of the storage drill-down: its size</extracomment>
 <context>
     <name>TrashEmptier</name>
     <message>
-        <location filename="../src/ui/TrashEmptier.cpp" line="16"/>
         <source>Empty the Trash?</source>
         <extracomment>Question before the Trash is emptied</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/TrashEmptier.cpp" line="19"/>
         <source>Everything in the Trash is deleted for good, including files you put there yourself. This can&apos;t be undone.</source>
         <extracomment>Text of the question before the Trash is emptied</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/TrashEmptier.cpp" line="21"/>
         <source>Empty Trash</source>
         <extracomment>Button that empties the Trash for good</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/TrashEmptier.cpp" line="23"/>
         <source>Cancel</source>
         <extracomment>Button that closes a question without doing anything</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/TrashEmptier.cpp" line="47"/>
         <source>Couldn&apos;t empty the Trash</source>
         <extracomment>Title of the message when the Trash could not be emptied; the system&apos;s reason follows</extracomment>
         <translation type="unfinished"></translation>
@@ -3802,31 +3208,26 @@ Column heading of the storage drill-down: its size</extracomment>
 <context>
     <name>TrashScanner</name>
     <message>
-        <location filename="../src/scan/TrashScanner.cpp" line="17"/>
         <source>Trash</source>
         <extracomment>Title of the one row of the Trash category</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/TrashScanner.cpp" line="26"/>
         <source>Size unknown without Full Disk Access</source>
         <extracomment>Detail of the Trash row when Dustlark may not read the Trash</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/TrashScanner.cpp" line="35"/>
         <source>macOS lets Dustlark measure the Trash only with Full Disk Access. Empty Trash works without it.</source>
         <extracomment>Note above the Trash category without Full Disk Access</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/TrashScanner.cpp" line="42"/>
         <source>Some items in the Trash couldn&apos;t be read, so its size counts only the rest. Empty Trash removes them too.</source>
         <extracomment>Note above the Trash category when some of its items could not be read</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/scan/TrashScanner.cpp" line="62"/>
         <source>%n files</source>
         <extracomment>Detail of the Trash row; %n is the number of files in the Trash</extracomment>
         <translation>
@@ -3838,43 +3239,36 @@ Column heading of the storage drill-down: its size</extracomment>
 <context>
     <name>UpdateBox</name>
     <message>
-        <location filename="../src/ui/UpdateBox.cpp" line="19"/>
         <source>Check for Updates</source>
         <extracomment>Button that asks the maker&apos;s web site whether a newer build exists</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/UpdateBox.cpp" line="21"/>
         <source>Open Release Page</source>
         <extracomment>Button that opens the web page of an available update</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/UpdateBox.cpp" line="23"/>
         <source>Install and Relaunch</source>
         <extracomment>Button that downloads, checks and installs an available update, then starts it</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/UpdateBox.cpp" line="51"/>
         <source>Installing the update…</source>
         <extracomment>Shown while an update downloads, is checked and installed</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/UpdateBox.cpp" line="56"/>
         <source>Checking for updates…</source>
         <extracomment>Shown while the update check runs</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/UpdateBox.cpp" line="61"/>
         <source>Dustlark %1 is available.</source>
         <extracomment>Shown when a newer build exists; %1 is its version, e.g. 1.4</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/ui/UpdateBox.cpp" line="66"/>
         <source>This is the newest build of Dustlark.</source>
         <extracomment>Shown when the update check found no newer build</extracomment>
         <translation type="unfinished"></translation>
@@ -3883,13 +3277,11 @@ Column heading of the storage drill-down: its size</extracomment>
 <context>
     <name>UpdateChecker</name>
     <message>
-        <location filename="../src/update/UpdateChecker.cpp" line="21"/>
         <source>The update information isn&apos;t available right now. Try again later.</source>
         <extracomment>Check for Updates error when the web site answered with something other than the version file</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/update/UpdateChecker.cpp" line="81"/>
         <source>Couldn&apos;t check for updates: %1</source>
         <extracomment>Check for Updates error. The placeholder is the system&apos;s error message.</extracomment>
         <translation type="unfinished"></translation>
@@ -3898,13 +3290,11 @@ Column heading of the storage drill-down: its size</extracomment>
 <context>
     <name>Updater</name>
     <message>
-        <location filename="../src/update/Updater.cpp" line="104"/>
         <source>The downloaded update didn&apos;t pass the check. This copy wasn&apos;t changed.</source>
         <extracomment>Install and Relaunch error when the downloaded image or app fails its digest or signature check</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/update/Updater.cpp" line="110"/>
         <source>Couldn&apos;t install the update (%1). This copy wasn&apos;t changed.</source>
         <extracomment>Install and Relaunch error. The placeholder is the system&apos;s or a tool&apos;s message.</extracomment>
         <translation type="unfinished"></translation>
@@ -3913,25 +3303,21 @@ Column heading of the storage drill-down: its size</extracomment>
 <context>
     <name>WorktreeFinder</name>
     <message>
-        <location filename="../src/scan/WorktreeFinderRows.cpp" line="74"/>
         <source>not checked for changes: git isn&apos;t installed</source>
         <extracomment>Fact in a Git Worktrees row&apos;s detail line when git is missing</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/WorktreeFinderRows.cpp" line="80"/>
         <source>not checked for changes</source>
         <extracomment>Fact in a Git Worktrees row&apos;s detail line when git couldn&apos;t tell what changed</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/WorktreeFinderRows.cpp" line="83"/>
         <source>everything committed</source>
         <extracomment>Fact in a Git Worktrees row&apos;s detail line: no file differs from the last commit</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/scan/WorktreeFinderRows.cpp" line="85"/>
         <source>%n files not committed</source>
         <extracomment>Fact in a Git Worktrees row&apos;s detail line; %n is the number of files not committed</extracomment>
         <translation>
@@ -3940,13 +3326,11 @@ Column heading of the storage drill-down: its size</extracomment>
         </translation>
     </message>
     <message>
-        <location filename="../src/scan/WorktreeFinderRows.cpp" line="94"/>
         <source>changed %1</source>
         <extracomment>Fact in a Git Worktrees row&apos;s detail line; %1 is a relative date like &apos;3 months ago&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
-        <location filename="../src/scan/WorktreeFinderRows.cpp" line="100"/>
         <source>%n commits on no branch</source>
         <extracomment>Fact in a Git Worktrees row&apos;s detail line; %n commits only this detached worktree holds</extracomment>
         <translation>
@@ -3955,13 +3339,11 @@ Column heading of the storage drill-down: its size</extracomment>
         </translation>
     </message>
     <message>
-        <location filename="../src/scan/WorktreeFinderRows.cpp" line="143"/>
         <source>No branch</source>
         <extracomment>Badge of a git worktree whose HEAD is detached</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/WorktreeFinderRows.cpp" line="177"/>
         <source>Git isn&apos;t installed, so Dustlark can&apos;t see changes not committed in these worktrees. Install Xcode&apos;s command line tools to see them.</source>
         <extracomment>Note above the Git Worktrees list when no git is installed</extracomment>
         <translation type="unfinished"></translation>
@@ -3970,67 +3352,56 @@ Column heading of the storage drill-down: its size</extracomment>
 <context>
     <name>XcodeScanner</name>
     <message>
-        <location filename="../src/scan/XcodeScanner.cpp" line="28"/>
         <source>Another copy of Xcode; the one selected for builds is not this one</source>
         <extracomment>Detail of a row of another Xcode copy, when no copy is known to be selected</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/XcodeScanner.cpp" line="30"/>
         <source>Another copy of Xcode; the one selected for builds is %1</source>
         <extracomment>Detail of a row of another Xcode copy; %1 is the selected copy&apos;s name like &apos;Xcode.app&apos;</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/XcodeScanner.cpp" line="54"/>
         <source>Xcode app</source>
         <extracomment>Badge of a row of another copy of Xcode</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/XcodeScannerArchives.cpp" line="21"/>
         <source>Version %1 (%2)</source>
         <extracomment>Fact of an Xcode archive; %1 is the app&apos;s version, %2 its build number</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/XcodeScannerArchives.cpp" line="24"/>
         <source>Version %1</source>
         <extracomment>Fact of an Xcode archive; %1 is the app&apos;s version</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/XcodeScannerArchives.cpp" line="27"/>
         <source>archived %1</source>
         <extracomment>Fact of an Xcode archive; %1 is the date and time it was made</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/XcodeScannerArchives.cpp" line="30"/>
         <source>uploaded to Apple</source>
         <extracomment>Fact of an Xcode archive that was sent to App Store Connect</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/XcodeScannerArchives.cpp" line="37"/>
         <source>Newest</source>
         <extracomment>Badge of the newest Xcode archive of an app</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/XcodeScannerArchives.cpp" line="39"/>
         <source>newest archive of this app: its build and crash symbols exist only here</source>
         <extracomment>Fact of the newest Xcode archive of an app</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/XcodeScannerArchives.cpp" line="46"/>
         <source>the build comes back from its git tag; only crash symbols for this build are lost</source>
         <extracomment>Fact of an Xcode archive that is not the newest of its app</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/scan/XcodeScannerArchives.cpp" line="49"/>
         <source>a newer build of this version exists</source>
         <extracomment>Fact of an Xcode archive when a later archive of the same app has the same version</extracomment>
         <translation type="unfinished"></translation>
