@@ -236,7 +236,7 @@
     <message>
         <source>Claude app scratch</source>
         <extracomment>Name of the project of Claude desktop&apos;s scratch sessions, shown in a Claude Code sessions row</extracomment>
-        <translation>Claude-App-Notizen</translation>
+        <translation>Claude-App-Entwürfe</translation>
     </message>
     <message>
         <source>Claude sandbox status</source>
@@ -696,7 +696,7 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     <message>
         <source>Device: one virtual iPhone or iPad with its apps and data. Removing it keeps its iOS; a new one is created in seconds (agents and Xcode do it themselves). Runtime: an iOS version itself, shared by its devices. Removing it stops those devices until you download that iOS again. Xcode removes both for good, they don&apos;t go to the Trash. Running simulators can&apos;t be removed.</source>
         <extracomment>Explanation above the Simulators list</extracomment>
-        <translation>Gerät: ein virtuelles iPhone oder iPad mit seinen Apps und Daten. Entfernen behält sein iOS; ein neues ist in Sekunden erstellt (Agenten und Xcode erledigen das selbst). Laufzeitumgebung: eine iOS-Version selbst, von ihren Geräten geteilt. Entfernen legt diese Geräte still, bis du dieses iOS erneut lädst. Xcode entfernt beides endgültig, nichts kommt in den Papierkorb. Laufende Simulatoren lassen sich nicht entfernen.</translation>
+        <translation>Gerät: ein virtuelles iPhone oder iPad mit seinen Apps und Daten. Entfernen behält sein iOS; ein neues ist in Sekunden erstellt (Agenten und Xcode erledigen das selbst). Runtime: eine iOS-Version selbst, von ihren Geräten geteilt. Entfernen legt diese Geräte still, bis du dieses iOS erneut lädst. Xcode entfernt beides endgültig, nichts kommt in den Papierkorb. Laufende Simulatoren lassen sich nicht entfernen.</translation>
     </message>
     <message>
         <source>Gradle caches and downloads come back on the next build. Emulators and system images are kept unless you select them.</source>
@@ -846,7 +846,7 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     <message>
         <source>Ask AI About These</source>
         <extracomment>Button that copies one question about every shown row for an AI assistant</extracomment>
-        <translation>KI zu diesen fragen</translation>
+        <translation>KI zu allen fragen</translation>
     </message>
     <message>
         <source>Copies a description of the shown rows for an AI assistant (Claude, Codex, ChatGPT).</source>
@@ -906,7 +906,7 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     <message>
         <source>Ask an AI Assistant</source>
         <extracomment>Row menu: copy a description of this row to paste into an AI assistant</extracomment>
-        <translation>Einen KI-Assistenten fragen</translation>
+        <translation>KI-Assistenten fragen</translation>
     </message>
     <message>
         <source>Move to Another Disk…</source>
@@ -2247,7 +2247,7 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <source>%n files or folders were left out because their names can&apos;t be read as text. Rename them to include them.</source>
         <extracomment>Note above Project Builds and Large Files; %n is the number of files and folders whose names aren&apos;t valid text</extracomment>
         <translation>
-            <numerusform>%n Datei oder Ordner wurde ausgelassen, weil der Name nicht als Text lesbar ist. Benenne sie um, um sie einzubeziehen.</numerusform>
+            <numerusform>%n Datei oder Ordner wurde ausgelassen, weil der Name nicht als Text lesbar ist. Benenne das Objekt um, um es einzubeziehen.</numerusform>
             <numerusform>%n Dateien oder Ordner wurden ausgelassen, weil ihre Namen nicht als Text lesbar sind. Benenne sie um, um sie einzubeziehen.</numerusform>
         </translation>
     </message>
@@ -2381,7 +2381,7 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     <message>
         <source>Running. Shut it down to remove it.</source>
         <extracomment>Why a simulator device can&apos;t be removed</extracomment>
-        <translation>Läuft. Fahre ihn herunter, um ihn zu entfernen.</translation>
+        <translation>Läuft. Fahre es herunter, um es zu entfernen.</translation>
     </message>
     <message>
         <source>A simulator on it is running. Shut it down to remove it.</source>
@@ -2491,6 +2491,7 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     </message>
     <message>
         <source>No file manager could show “%1”.</source>
+        <extracomment>Toast when no file manager could show an item; %1 is its name</extracomment>
         <translation>Kein Dateimanager konnte „%1“ zeigen.</translation>
     </message>
 </context>
@@ -2730,7 +2731,7 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     <message>
         <source>Couldn&apos;t list simulator runtimes: %1</source>
         <extracomment>Note in the Simulators category; %1 is the tool&apos;s error sentence. The devices are still listed.</extracomment>
-        <translation>Simulator-Laufzeitumgebungen ließen sich nicht auflisten: %1</translation>
+        <translation>Simulator-Runtimes ließen sich nicht auflisten: %1</translation>
     </message>
     <message>
         <source>Xcode isn&apos;t installed, so there are no simulators to manage.</source>
@@ -2755,7 +2756,7 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     <message>
         <source>runtime is missing</source>
         <extracomment>Why a simulator device can&apos;t run, in parentheses of &quot;can&apos;t run: its iOS is gone (%1)&quot;</extracomment>
-        <translation>Laufzeitumgebung fehlt</translation>
+        <translation>Runtime fehlt</translation>
     </message>
     <message>
         <source>can&apos;t run: its iOS is gone (%1)</source>
@@ -2765,7 +2766,7 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     <message>
         <source>%1 runtime</source>
         <extracomment>Title of a simulator runtime row; %1 is its name like &apos;iOS 17.5&apos;</extracomment>
-        <translation>Laufzeitumgebung %1</translation>
+        <translation>Runtime %1</translation>
     </message>
     <message>
         <source>Build %1</source>
@@ -2810,12 +2811,12 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     <message>
         <source>Running. Shut it down to remove it.</source>
         <extracomment>Why a simulator device can&apos;t be selected</extracomment>
-        <translation>Läuft. Fahre ihn herunter, um ihn zu entfernen.</translation>
+        <translation>Läuft. Fahre es herunter, um es zu entfernen.</translation>
     </message>
     <message>
         <source>Runtime</source>
         <extracomment>Badge of a simulator runtime</extracomment>
-        <translation>Laufzeit</translation>
+        <translation>Runtime</translation>
     </message>
 </context>
 <context>
@@ -3379,7 +3380,7 @@ Column heading of the storage drill-down: its size</extracomment>
     <message>
         <source>archived %1</source>
         <extracomment>Fact of an Xcode archive; %1 is the date and time it was made</extracomment>
-        <translation>archiviert %1</translation>
+        <translation>archiviert am %1</translation>
     </message>
     <message>
         <source>uploaded to Apple</source>

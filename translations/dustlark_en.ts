@@ -2491,6 +2491,7 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     </message>
     <message>
         <source>No file manager could show “%1”.</source>
+        <extracomment>Toast when no file manager could show an item; %1 is its name</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>

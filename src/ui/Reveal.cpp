@@ -27,10 +27,11 @@ void show(AppModel* model, const QString& path, const QString& opener)
         if (SystemAccess::reveal(path, opener))
             return;
         QMetaObject::invokeMethod(qApp, [receiver, path] {
-            if (receiver)
-                //: Toast when no file manager could show an item; %1 is its name
-                receiver->showToast(QCoreApplication::translate("Reveal", "No file manager could show “%1”.")
-                                        .arg(QFileInfo(path).fileName()));
+            if (!receiver)
+                return;
+            //: Toast when no file manager could show an item; %1 is its name
+            receiver->showToast(QCoreApplication::translate("Reveal", "No file manager could show “%1”.")
+                                    .arg(QFileInfo(path).fileName()));
         }, Qt::QueuedConnection);
     });
 }
