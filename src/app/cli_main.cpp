@@ -3,6 +3,7 @@
 #include "vocabulary/AppLanguage.h"
 
 #include <QCoreApplication>
+#include <QSettings>
 
 int main(int argc, char* argv[])
 {
@@ -10,7 +11,9 @@ int main(int argc, char* argv[])
     QCoreApplication::setOrganizationName(QStringLiteral("Dustlark"));
     QCoreApplication::setApplicationName(QStringLiteral("Dustlark"));
     QCoreApplication::setApplicationVersion(UpdateChecker::currentVersion());
-    AppLanguage::installEnglish();
+    // The app's own preferences: the report speaks the language the person chose for the app.
+    const QSettings settings;
+    AppLanguage::loadAtLaunch(settings);
     QStringList arguments = QCoreApplication::arguments();
     arguments.removeFirst();
     return ReportCommand::run(arguments);

@@ -22,9 +22,10 @@ struct PromptContext {
     [[nodiscard]] static PromptContext current();
 
     // The language to name in the answer-language line: the system's preferred language
-    // (`systemLanguage`, a code such as "pl-PL") when the person follows the system
-    // (`launchChoice` empty) and no offered translation and not English, the source, covers it.
-    [[nodiscard]] static std::optional<QString> uncarriedLanguage(const QString& launchChoice,
+    // (`systemLanguage`, a code such as "pl-PL") when the interface follows it (`interface`, the
+    // language in force, is that language) and no offered translation and not English, the
+    // source, covers it. An interface in another language was chosen and answers itself.
+    [[nodiscard]] static std::optional<QString> uncarriedLanguage(const QLocale& interface,
                                                                   const QString& systemLanguage,
                                                                   const QList<AppLanguage::Option>& offered);
 };

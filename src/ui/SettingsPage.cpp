@@ -15,7 +15,8 @@
 
 SettingsPage::SettingsPage(SettingsStore* settings, QSettings* preferences, QList<AppLanguage::Option> languages,
                            QWidget* parent)
-    : QWidget(parent), m_settings(settings), m_preferences(preferences), m_scanFolders(new FolderListEditor(this)),
+    : QWidget(parent), m_settings(settings), m_preferences(preferences),
+      m_launchChoice(AppLanguage::chosen(*preferences)), m_scanFolders(new FolderListEditor(this)),
       m_languagePicker(new QComboBox(this)), m_relaunchNote(PageLabels::note({}, this)),
       m_relaunchButton(new QPushButton(this))
 {
@@ -114,7 +115,7 @@ void SettingsPage::refreshScanFolders()
 
 void SettingsPage::refreshRelaunch()
 {
-    const bool pending = AppLanguage::chosen(*m_preferences) != AppLanguage::launchChoice();
+    const bool pending = AppLanguage::chosen(*m_preferences) != m_launchChoice;
     //: Shown after choosing another interface language
     m_relaunchNote->setText(tr("The new language is used after Dustlark relaunches."));
     m_relaunchNote->setVisible(pending);

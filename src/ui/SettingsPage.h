@@ -21,6 +21,7 @@ class SettingsPage : public QWidget {
 
 public:
     // `preferences` is where the language choice is kept; `languages` what the picker offers.
+    // Made at launch: the choice stored then is the one in force until the app relaunches.
     SettingsPage(SettingsStore* settings, QSettings* preferences,
                  QList<AppLanguage::Option> languages = AppLanguage::offered(), QWidget* parent = nullptr);
 
@@ -47,6 +48,7 @@ private:
 
     SettingsStore* m_settings;
     QSettings* m_preferences;
+    const QString m_launchChoice;
     FolderListEditor* m_scanFolders;
     QComboBox* m_languagePicker;
     QLabel* m_relaunchNote;

@@ -5,18 +5,14 @@
 #include <QProcess>
 #include <QTranslator>
 
+#include <algorithm>
+
 namespace AppLanguage {
 
 namespace {
 
 const QString languagesKey = QStringLiteral("AppleLanguages");
 const QString filePrefix = QStringLiteral("dustlark_");
-
-QString& launchCode()
-{
-    static QString code;
-    return code;
-}
 
 // The picker's name of a language, in that language ("English", "Deutsch").
 QString nativeTitle(const QString& code)
@@ -55,9 +51,23 @@ QString chosen(const QSettings& settings)
     return list.first().toString();
 }
 
-QString launchChoice()
+QLocale inForce(const QString& choice, const QStringList& preferred, const QStringList& catalogued)
 {
-    return launchCode();
+    if (!choice.isEmpty())
+        return QLocale(choice);
+    if (preferred.isEmpty())
+        return QLocale::c();
+    const auto carried = [&catalogued](const QLocale::Language language) {
+        return language == QLocale::English || std::any_of(catalogued.begin(), catalogued.end(), [language](const QString& code) {
+                   return QLocale(code).language() == language;
+               });
+    };
+    for (const QString& code : preferred) {
+        const QLocale locale(code);
+        if (carried(locale.language()))
+            return locale;
+    }
+    return QLocale(preferred.first());
 }
 
 bool installEnglish(const QString& folder)
@@ -69,17 +79,25 @@ bool installEnglish(const QString& folder)
     return false;
 }
 
-bool loadAtLaunch(const QSettings& settings, const QString& folder)
+Launch loadAtLaunch(const QSettings& settings, const QString& folder)
 {
     installEnglish(folder);
-    launchCode() = chosen(settings);
-    const QLocale locale = launchCode().isEmpty() ? QLocale() : QLocale(launchCode());
+    Launch launch{chosen(settings), QLocale::c()};
+    QStringList catalogued;
+    for (const Option& option : offered(folder)) {
+        if (!option.code.isEmpty())
+            catalogued.append(option.code);
+    }
+    launch.locale = inForce(launch.choice, QLocale::system().uiLanguages(), catalogued);
+    QLocale::setDefault(launch.locale);
+    if (launch.locale.language() == QLocale::English || launch.locale.language() == QLocale::C)
+        return launch;
     auto* translator = new QTranslator(QCoreApplication::instance());
-    if (translator->load(locale, QStringLiteral("dustlark"), QStringLiteral("_"), folder)
-        && QCoreApplication::installTranslator(translator))
-        return true;
-    delete translator;
-    return false;
+    launch.translated = translator->load(launch.locale, QStringLiteral("dustlark"), QStringLiteral("_"), folder)
+                        && QCoreApplication::installTranslator(translator);
+    if (!launch.translated)
+        delete translator;
+    return launch;
 }
 
 QList<Option> offered(const QString& folder)
