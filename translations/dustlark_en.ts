@@ -225,6 +225,11 @@
         <extracomment>Button that shows the full text of a library&apos;s licence</extracomment>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Button that closes the window of a licence&apos;s text</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>AgentsScanner</name>
@@ -1951,6 +1956,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <extracomment>Shown while a chosen destination folder is being checked</extracomment>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Button that closes the move sheet without moving anything</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>MoveOutcomePage</name>
@@ -3203,6 +3213,11 @@ Column heading of the storage drill-down: its size</extracomment>
     <message>
         <source>Couldn&apos;t empty the Trash</source>
         <extracomment>Title of the message when the Trash could not be emptied; the system&apos;s reason follows</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <extracomment>Button that closes the message that the Trash could not be emptied</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -111,7 +111,9 @@ void AboutPage::showLicence(const Library& library)
     for (const QString& resource : library.texts)
         parts.append(licenceText(resource));
     text->setPlainText(parts.join(QStringLiteral("\n\n")));
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, dialog);
+    auto* buttons = new QDialogButtonBox(dialog);
+    //: Button that closes the window of a licence's text
+    buttons->addButton(tr("Close"), QDialogButtonBox::RejectRole);
     connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::close);
     auto* layout = new QVBoxLayout(dialog);
     layout->addWidget(text);

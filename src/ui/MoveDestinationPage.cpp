@@ -75,7 +75,8 @@ QDialogButtonBox* MoveDestinationPage::makeButtons()
     m_move->setEnabled(false);
     m_move->setDefault(true);
     auto* buttons = new QDialogButtonBox(this);
-    buttons->addButton(QDialogButtonBox::Cancel);
+    //: Button that closes the move sheet without moving anything
+    buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
     buttons->addButton(m_move, QDialogButtonBox::AcceptRole);
     connect(buttons, &QDialogButtonBox::rejected, this, &MoveDestinationPage::cancelled);
     return buttons;

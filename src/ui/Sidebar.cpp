@@ -1,9 +1,13 @@
 #include "ui/Sidebar.h"
 
+#include "format/ByteCount.h"
 #include "ui/BusyGlyph.h"
 #include "ui/CategoryIcon.h"
 
 #include <QHeaderView>
+#include <QScrollBar>
+
+#include <algorithm>
 
 namespace {
 
@@ -110,6 +114,27 @@ QTreeWidgetItem* Sidebar::itemFor(const SidebarDestination& destination) const
             return *it;
     }
     return nullptr;
+}
+
+QSize Sidebar::minimumSizeHint() const
+{
+    // The rows carry a fixed size hint, so the style measures each title itself.
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    option.features |= QStyleOptionViewItem::HasDisplay | QStyleOptionViewItem::HasDecoration;
+    option.decorationSize = iconSize();
+    int titles = 0;
+    for (QTreeWidgetItemIterator it(const_cast<Sidebar*>(this)); *it; ++it) {
+        option.text = (*it)->text(0);
+        option.icon = (*it)->icon(0);
+        option.font = (*it)->font(0);
+        option.fontMetrics = QFontMetrics(option.font);
+        const int indent = (*it)->parent() ? indentation() : 0;
+        titles = std::max(titles, indent + style()->sizeFromContents(QStyle::CT_ItemViewItem, &option, QSize(), this).width());
+    }
+    const int sizes = fontMetrics().horizontalAdvance(ByteCount::format(999'990'000'000)) + 12;
+    const int chrome = 8 + 6 + 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+    return {titles + sizes + chrome, QTreeWidget::minimumSizeHint().height()};
 }
 
 void Sidebar::updateGeometries()

@@ -24,6 +24,9 @@ public:
     void setCategoryBusy(CategoryID category, bool busy);
     bool isCategoryBusy(CategoryID category) const { return m_busy.contains(category); }
     QTreeWidgetItem* itemFor(const SidebarDestination& destination) const;
+    // Wide enough for every title whole beside a size column, in any language: a splitter
+    // never squeezes the list below it.
+    QSize minimumSizeHint() const override;
 
 protected:
     void updateGeometries() override;

@@ -45,7 +45,9 @@ void TrashEmptier::trashDidChange()
         return;
     //: Title of the message when the Trash could not be emptied; the system's reason follows
     const QString title = tr("Couldn't empty the Trash");
-    auto* box = new QMessageBox(QMessageBox::Warning, title, title, QMessageBox::Ok, m_window);
+    auto* box = new QMessageBox(QMessageBox::Warning, title, title, QMessageBox::NoButton, m_window);
+    //: Button that closes the message that the Trash could not be emptied
+    box->addButton(tr("OK"), QMessageBox::AcceptRole);
     box->setInformativeText(m_model->trashMessage());
     box->setWindowModality(Qt::WindowModal);
     box->setAttribute(Qt::WA_DeleteOnClose);

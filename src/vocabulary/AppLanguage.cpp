@@ -1,6 +1,7 @@
 #include "vocabulary/AppLanguage.h"
 
 #include <QDir>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QProcess>
 #include <QTranslator>
@@ -25,6 +26,16 @@ QString nativeTitle(const QString& code)
     if (!title.isEmpty())
         title[0] = title.at(0).toUpper();
     return title.isEmpty() ? code : title;
+}
+
+// Installs the catalogue `name`_<language> from `folder` over the ones installed before.
+bool install(const QLocale& locale, const QString& name, const QString& folder)
+{
+    auto* translator = new QTranslator(QCoreApplication::instance());
+    if (translator->load(locale, name, QStringLiteral("_"), folder) && QCoreApplication::installTranslator(translator))
+        return true;
+    delete translator;
+    return false;
 }
 
 }  // namespace
@@ -72,11 +83,7 @@ QLocale inForce(const QString& choice, const QStringList& preferred, const QStri
 
 bool installEnglish(const QString& folder)
 {
-    auto* translator = new QTranslator(QCoreApplication::instance());
-    if (translator->load(QStringLiteral("dustlark_en"), folder) && QCoreApplication::installTranslator(translator))
-        return true;
-    delete translator;
-    return false;
+    return install(QLocale(QLocale::English), QStringLiteral("dustlark"), folder);
 }
 
 Launch loadAtLaunch(const QSettings& settings, const QString& folder)
@@ -92,11 +99,9 @@ Launch loadAtLaunch(const QSettings& settings, const QString& folder)
     QLocale::setDefault(launch.locale);
     if (launch.locale.language() == QLocale::English || launch.locale.language() == QLocale::C)
         return launch;
-    auto* translator = new QTranslator(QCoreApplication::instance());
-    launch.translated = translator->load(launch.locale, QStringLiteral("dustlark"), QStringLiteral("_"), folder)
-                        && QCoreApplication::installTranslator(translator);
-    if (!launch.translated)
-        delete translator;
+    launch.translated = install(launch.locale, QStringLiteral("dustlark"), folder);
+    // Qt's own texts (a file dialog's buttons, a text field's menu), where Qt's catalogue is installed.
+    install(launch.locale, QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
     return launch;
 }
 
