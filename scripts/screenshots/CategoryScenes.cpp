@@ -1,11 +1,13 @@
 // The projects list with a selection, and the cleanup sheets over it.
 #include "Scenes.h"
+#include "format/RelativeDate.h"
 #include "support/Wait.h"
 #include "ui/CategoryPage.h"
 #include "ui/CleanupConfirmation.h"
 #include "ui/CleanupSheet.h"
 #include "ui/WindowFixture.h"
 
+#include <QCoreApplication>
 #include <QPushButton>
 
 namespace {
@@ -41,13 +43,15 @@ CleanupItem projectRow(const QString& home, const Project& project, const QDateT
     row.category = CategoryID::projects;
     row.title = project.folder;
     row.badge = QString(project.badge);
-    row.detail = "~/Projects/" + QString(project.project) + " · rebuilt by " + project.badge;
+    row.date = project.daysAgo == 0 ? now.addSecs(-3 * 3600) : now.addDays(-project.daysAgo);
+    // The sources' own texts, so a picture in another language shows that language.
+    row.detail = "~/Projects/" + QString(project.project) + " · "
+                 + QCoreApplication::translate("ProjectScanner", "project changed %1").arg(RelativeDate::marker(*row.date));
     row.size = project.size;
     row.projectPath = folder;
-    row.date = project.daysAgo == 0 ? now.addSecs(-3 * 3600) : now.addDays(-project.daysAgo);
     row.removal = Removal::trash({});
     if (project.daysAgo == 0)
-        row.lockedReason = "Changed in the last day; a build may be running.";
+        row.lockedReason = QCoreApplication::translate("Remover", "Changed in the last day; a session may be running.");
     return row;
 }
 
@@ -68,7 +72,9 @@ public:
         m_xip = fileRow(m_fixture.home(), CategoryID::largeFiles, "Downloads/Xcode_15.2.xip");
         m_xip.size = 3'050'000'000;
         m_xip.detail = "~/Downloads";
-        m_fixture.start({scannerOf(CategoryID::projects, m_rows, {"Some folders in ~/Archive couldn't be read."}),
+        m_fixture.start({scannerOf(CategoryID::projects, m_rows, {QCoreApplication::translate("ProjectScanner",
+                             "%n folders couldn't be read. Allow access when macOS asks, or give Dustlark Full Disk Access.",
+                             nullptr, 2)}),
                          scannerOf(CategoryID::largeFiles, {m_movie, m_xip})});
         m_fixture.window().resize(1280, 800);
         m_scanned = m_fixture.scan();
@@ -135,10 +141,23 @@ QImage cleanupResults()
 
 }  // namespace
 
+// The list at the smallest size the window takes, where long words would clip first.
+QImage smallestWindow()
+{
+    ProjectsWindow window;
+    if (!window.scanned())
+        return {};
+    window.fixture().model().setSelected(window.rows()[0], true);
+    window.fixture().window().resize(window.fixture().window().minimumSizeHint());
+    QCoreApplication::processEvents();
+    return window.fixture().window().grab().toImage();
+}
+
 QList<Scene> categoryScenes()
 {
     return {
         {QStringLiteral("category-list.png"), categoryList},
+        {QStringLiteral("smallest-window.png"), smallestWindow},
         {QStringLiteral("cleanup-confirmation.png"), cleanupConfirmation},
         {QStringLiteral("cleanup-results.png"), cleanupResults},
     };

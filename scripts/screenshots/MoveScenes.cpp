@@ -10,6 +10,7 @@
 #include "ui/MoveSheet.h"
 #include "ui/WindowFixture.h"
 
+#include <QCoreApplication>
 #include <QLabel>
 #include <QMenu>
 #include <QProgressBar>
@@ -37,7 +38,7 @@ public:
         m_fixture.window().resize(1100, 700);
         std::unique_ptr<QMenu> menu(page->makeRowMenu(m_fixture.rowOf(footage.id)));
         for (QAction* action : menu->actions()) {
-            if (action->text() == QStringLiteral("Move to Another Disk…"))
+            if (action->text() == QCoreApplication::translate("CategoryPage", "Move to Another Disk…"))
                 action->trigger();
         }
         m_sheet = m_fixture.window().findChild<MoveSheet*>();

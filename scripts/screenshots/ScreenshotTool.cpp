@@ -1,7 +1,8 @@
 // Draws the screenshots in docs/screenshots/ from the real screens over fixture data, under the
-// offscreen platform: `dustlark-screenshots FOLDER [NAME...]`. Not a test; scripts/screenshots.sh
-// runs it.
+// offscreen platform: `dustlark-screenshots [--language CODE] FOLDER [NAME...]`, in English unless
+// a language is named. Not a test; scripts/screenshots.sh runs it.
 #include "Scenes.h"
+#include "support/InterfaceLanguage.h"
 #include "support/main/TestEnvironment.h"
 #include "vocabulary/AppLanguage.h"
 
@@ -31,9 +32,19 @@ int main(int argc, char** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     AppLanguage::installEnglish();  // singular and plural of counted texts, as the app has them
-    const QStringList arguments = app.arguments().mid(1);
+    QStringList arguments = app.arguments().mid(1);
+    QString language = QStringLiteral("en");
+    if (arguments.size() >= 2 && arguments.first() == QLatin1String("--language")) {
+        language = arguments.at(1);
+        arguments = arguments.mid(2);
+    }
     if (arguments.isEmpty()) {
-        std::fprintf(stderr, "usage: dustlark-screenshots FOLDER [NAME...]\n");
+        std::fprintf(stderr, "usage: dustlark-screenshots [--language CODE] FOLDER [NAME...]\n");
+        return 2;
+    }
+    const InterfaceLanguage interface(language);
+    if (language != QLatin1String("en") && !interface.installed()) {
+        std::fprintf(stderr, "no catalogue for the language %s\n", qPrintable(language));
         return 2;
     }
     const QDir folder(arguments.first());

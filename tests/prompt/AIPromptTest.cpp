@@ -196,8 +196,9 @@ TEST(LargestContents, OnlyARowOfOneRealFolderIsListed)
 TEST(PromptContext, NamesThePreferredLanguageOnlyWhenTheInterfaceHasNoTranslationForIt)
 {
     const QList<AppLanguage::Option> offered = {{"", "System Language"}, {"de", "Deutsch"}};
-    EXPECT_EQ(PromptContext::uncarriedLanguage("", "pl-PL", offered), "Polish");
-    EXPECT_EQ(PromptContext::uncarriedLanguage("", "de-AT", offered), std::nullopt);
-    EXPECT_EQ(PromptContext::uncarriedLanguage("", "en-US", offered), std::nullopt);
-    EXPECT_EQ(PromptContext::uncarriedLanguage("de", "pl-PL", offered), std::nullopt) << "a chosen language answers itself";
+    EXPECT_EQ(PromptContext::uncarriedLanguage(QLocale("pl-PL"), "pl-PL", offered), "Polish");
+    EXPECT_EQ(PromptContext::uncarriedLanguage(QLocale("de-AT"), "de-AT", offered), std::nullopt);
+    EXPECT_EQ(PromptContext::uncarriedLanguage(QLocale("en-US"), "en-US", offered), std::nullopt);
+    EXPECT_EQ(PromptContext::uncarriedLanguage(QLocale("de"), "pl-PL", offered), std::nullopt) << "a chosen language answers itself";
+    EXPECT_EQ(PromptContext::uncarriedLanguage(QLocale("en"), "pl-PL", offered), std::nullopt) << "English chosen over Polish";
 }

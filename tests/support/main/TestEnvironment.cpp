@@ -15,5 +15,10 @@ TestEnvironment::TestEnvironment()
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(base + QStringLiteral("/runtime")));
     // No test may talk to the developer's desktop (its file manager, its notifications).
     qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + QFile::encodeName(base + QStringLiteral("/runtime/no-bus")));
+    // Tests read English texts and numbers, whatever the developer's own language: the app and
+    // the report tool follow these variables.
+    for (const char* name : {"LANGUAGE", "LC_ALL", "LC_MESSAGES"})
+        qunsetenv(name);
+    qputenv("LANG", "C.UTF-8");
     QStandardPaths::setTestModeEnabled(false);
 }
