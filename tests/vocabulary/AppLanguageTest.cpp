@@ -49,7 +49,7 @@ TEST(AppLanguage, OffersTheSystemThenEveryTranslation)
 
 TEST(AppLanguage, TheChoiceElseTheFirstPreferredLanguageWithATextDecides)
 {
-    const QStringList catalogued{QStringLiteral("de"), QStringLiteral("en")};
+    const QStringList catalogued{QStringLiteral("de")};
     const auto inForce = [&](const QString& choice, const QStringList& preferred) {
         return AppLanguage::inForce(choice, preferred, catalogued).name();
     };
