@@ -501,6 +501,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <extracomment>Shown when the update is in place but macOS couldn&apos;t start the new copy</extracomment>
         <translation>Das Update ist installiert, konnte aber nicht gestartet werden. Öffne Dustlark erneut.</translation>
     </message>
+    <message>
+        <source>The other copies are gone, so this is the last one. It was kept.</source>
+        <extracomment>Why a duplicate was not removed: the other copies were moved or changed outside Dustlark</extracomment>
+        <translation>Die anderen Kopien sind weg, das hier ist also die letzte. Sie wurde behalten.</translation>
+    </message>
 </context>
 <context>
     <name>AppsScanner</name>
@@ -3314,6 +3319,11 @@ Column heading of the storage drill-down: its size</extracomment>
         <source>Couldn&apos;t install the update (%1). This copy wasn&apos;t changed.</source>
         <extracomment>Install and Relaunch error. The placeholder is the system&apos;s or a tool&apos;s message.</extracomment>
         <translation>Das Update konnte nicht installiert werden (%1). Diese Kopie wurde nicht geändert.</translation>
+    </message>
+    <message>
+        <source>the download is larger than %1, more than any update</source>
+        <extracomment>Install and Relaunch error, inside &quot;Couldn&apos;t install the update (...)&quot;; %1 is a size like &quot;1 GB&quot;</extracomment>
+        <translation>der Download ist größer als %1, mehr als jedes Update</translation>
     </message>
 </context>
 <context>

@@ -501,6 +501,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <extracomment>Shown when the update is in place but macOS couldn&apos;t start the new copy</extracomment>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The other copies are gone, so this is the last one. It was kept.</source>
+        <extracomment>Why a duplicate was not removed: the other copies were moved or changed outside Dustlark</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>AppsScanner</name>
@@ -3313,6 +3318,11 @@ Column heading of the storage drill-down: its size</extracomment>
     <message>
         <source>Couldn&apos;t install the update (%1). This copy wasn&apos;t changed.</source>
         <extracomment>Install and Relaunch error. The placeholder is the system&apos;s or a tool&apos;s message.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the download is larger than %1, more than any update</source>
+        <extracomment>Install and Relaunch error, inside &quot;Couldn&apos;t install the update (...)&quot;; %1 is a size like &quot;1 GB&quot;</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
