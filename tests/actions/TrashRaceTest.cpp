@@ -42,7 +42,7 @@ std::optional<struct stat> statusOf(const QString& path)
 
 // Each entry below `folder` (links not followed) with its size and mode, and the folder's own
 // mode: whatever the person would notice lost or changed.
-QStringList snapshot(const QString& folder)
+std::string snapshot(const QString& folder)
 {
     QStringList lines{QString::number(statusOf(folder)->st_mode, 8)};
     QDirIterator entries(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
@@ -54,7 +54,7 @@ QStringList snapshot(const QString& folder)
                      + QString::number(info->st_mode, 8));
     }
     lines.sort();
-    return lines;
+    return lines.join(QLatin1Char('\n')).toStdString();
 }
 
 // Swaps `path` for a link to `elsewhere` and back, over and over, until destroyed; at the end
@@ -240,7 +240,7 @@ void TrashRace::raceEmptying(const QString& swapped)
     home.file(QStringLiteral("Documents/entry.trashinfo"), 9);
     ::chmod(bytes(home.path(QStringLiteral("Documents/sub/b0"))).constData(), 0444);
     ::chmod(bytes(home.path(QStringLiteral("Documents/sub"))).constData(), 0555);
-    const QStringList before = snapshot(documents);
+    const std::string before = snapshot(documents);
     for (int round = 0; round < rounds(); ++round) {
         fillTrash();
         {
