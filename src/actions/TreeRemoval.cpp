@@ -17,8 +17,6 @@ namespace TreeRemoval {
 
 namespace {
 
-constexpr int folderFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-
 // Files and links as they are met, folders once emptied, each relative to its open folder. The
 // root is left to the caller, which removes it through the folder that holds it.
 class Removing : public TreeVisitor {
@@ -67,8 +65,17 @@ void emptyFolder(int root, const struct stat& status)
     TreeWalker({}).walkBelow(folder, removing);
 }
 
-// A folder whose contents stayed (folders without write or read permission, kept so on
-// purpose) is given the owner's permissions through the tree and emptied once more.
+// Removes the emptied folder `name` only while the name is still that folder: one swapped in
+// since is not ours to remove.
+bool removeEmptied(int parent, const char* name, const struct stat& opened)
+{
+    const auto now = statusAt(parent, name);
+    return now && isSame(*now, opened) && ::unlinkat(parent, name, AT_REMOVEDIR) == 0;
+}
+
+// Empties the folder through its own descriptor and removes it. When something stayed (folders
+// without write or read permission, kept so on purpose) the owner is given permissions through
+// the tree and it is emptied once more.
 bool removeFolder(int parent, const char* name, const struct stat& listed)
 {
     const Descriptor root = OwnerWrite::openFolder(parent, name, listed);
@@ -78,13 +85,11 @@ bool removeFolder(int parent, const char* name, const struct stat& listed)
     if (::fstat(root.get(), &opened) != 0 || !isSame(opened, listed))
         return false;  // swapped between the two looks: leave whatever it is now alone
     emptyFolder(root.get(), opened);
-    if (::unlinkat(parent, name, AT_REMOVEDIR) == 0)
+    if (removeEmptied(parent, name, opened))
         return true;
     OwnerWrite::addThroughTree(root.get());
     emptyFolder(root.get(), opened);
-    // The name must still be this folder: one swapped in since is not ours to remove.
-    const auto now = statusAt(parent, name);
-    return now && isSame(*now, opened) && ::unlinkat(parent, name, AT_REMOVEDIR) == 0;
+    return removeEmptied(parent, name, opened);
 }
 
 }  // namespace
