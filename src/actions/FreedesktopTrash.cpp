@@ -1,13 +1,17 @@
 #include "actions/FreedesktopTrash.h"
 
+#include "actions/TrashFolder.h"
 #include "actions/TreeRemoval.h"
-#include "vocabulary/FileStatus.h"
+#include "platform/Platform.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QStandardPaths>
 
+#include <cerrno>
+#include <fcntl.h>
+#include <string>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -15,45 +19,55 @@ namespace FreedesktopTrash {
 
 namespace {
 
-const QString infoSuffix = QStringLiteral(".trashinfo");
+const QByteArray infoSuffix = ".trashinfo";
 
+// Made owner-only when missing; one that exists keeps its mode (a link there must not lead a
+// permission change elsewhere).
 bool makeOwnerOnlyFolder(const QString& path)
 {
-    if (!QDir().mkpath(path))
-        return false;
-    return QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    const QByteArray name = QFile::encodeName(path);
+    return ::mkdir(name.constData(), 0700) == 0 || errno == EEXIST;
 }
 
-bool lexists(const QString& path)
+QList<QByteArray> entriesOf(int folder)
 {
-    return FileStatus::exists(path);
+    std::string names;
+    if (folder >= 0)
+        Platform::readFolderNames(folder, names);
+    return QByteArray::fromStdString(names).split('\0');
 }
 
-QStringList entriesOf(const QString& folder)
-{
-    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-}
-
-// Removes each trashed object; its info file goes only with it, so whatever stays can still
-// be put back by a file manager.
-bool removeObjects(const QString& trash)
+// Removes each trashed object through the held "files" folder; its info file goes only with
+// it, so whatever stays can still be put back by a file manager.
+bool removeObjects(const TrashFolder& trash)
 {
     bool allRemoved = true;
-    for (const QString& name : entriesOf(trash + QStringLiteral("/files"))) {
-        if (TreeRemoval::removeTree(trash + QStringLiteral("/files/") + name))
-            QFile::remove(trash + QStringLiteral("/info/") + name + infoSuffix);
+    for (const QByteArray& name : entriesOf(trash.files.get())) {
+        if (name.isEmpty())
+            continue;
+        if (TreeRemoval::removeAt(trash.files.get(), name))
+            ::unlinkat(trash.info.get(), (name + infoSuffix).constData(), 0);
         else
             allRemoved = false;
     }
     return allRemoved;
 }
 
-void removeOrphanedInfo(const QString& trash)
+bool isInFiles(const TrashFolder& trash, const QByteArray& name)
 {
-    for (const QString& name : entriesOf(trash + QStringLiteral("/info"))) {
-        const QString object = name.endsWith(infoSuffix) ? name.chopped(infoSuffix.size()) : name;
-        if (!lexists(trash + QStringLiteral("/files/") + object))
-            QFile::remove(trash + QStringLiteral("/info/") + name);
+    struct stat info {};
+    return ::fstatat(trash.files.get(), name.constData(), &info, AT_SYMLINK_NOFOLLOW) == 0;
+}
+
+// Without a "files" folder (moved away for a moment, say) no info file can be told an orphan.
+void removeOrphanedInfo(const TrashFolder& trash)
+{
+    if (!trash.files.isValid())
+        return;
+    for (const QByteArray& name : entriesOf(trash.info.get())) {
+        const QByteArray object = name.endsWith(infoSuffix) ? name.chopped(infoSuffix.size()) : name;
+        if (!name.isEmpty() && !isInFiles(trash, object))
+            ::unlinkat(trash.info.get(), name.constData(), 0);
     }
 }
 
@@ -67,7 +81,7 @@ QString homeTrash()
 bool prepareHomeTrash()
 {
     const QString trash = homeTrash();
-    if (!QDir::isAbsolutePath(trash))
+    if (!QDir::isAbsolutePath(trash) || !QDir().mkpath(QDir::cleanPath(trash + QStringLiteral("/.."))))
         return false;
     return makeOwnerOnlyFolder(trash) && makeOwnerOnlyFolder(trash + QStringLiteral("/files"))
         && makeOwnerOnlyFolder(trash + QStringLiteral("/info"));
@@ -75,11 +89,16 @@ bool prepareHomeTrash()
 
 std::optional<QString> empty()
 {
-    const QString trash = homeTrash();
+    const ExistingTrash existing = TrashFolder::existingHome();
+    if (existing.refusal)
+        return existing.refusal;
+    if (!existing.trash)
+        return std::nullopt;  // no Trash, nothing in it
+    const TrashFolder& trash = *existing.trash;
     const bool allRemoved = removeObjects(trash);
     removeOrphanedInfo(trash);
-    TreeRemoval::removeTree(trash + QStringLiteral("/expunged"));
-    QFile::remove(trash + QStringLiteral("/directorysizes"));
+    (void)TreeRemoval::removeAt(trash.folder.get(), "expunged");
+    ::unlinkat(trash.folder.get(), "directorysizes", 0);
     if (allRemoved)
         return std::nullopt;
     //: Empty Trash error on Linux, when some trashed items could not be deleted

@@ -27,8 +27,11 @@ namespace FreedesktopTrash {
 [[nodiscard]] TrashResult moveAt(const TrashRequest& request);
 
 // Empties the home trash the way a file manager does: every object in "files" with its info
-// file, orphaned info files, and the "expunged" leftovers. Read-only trees are made writable
-// first. Nothing when all went; otherwise one sentence.
+// file, orphaned info files, and the "expunged" leftovers. The trash is opened from the home
+// folder down without following a link and its folders are held for the whole emptying, so
+// everything removed lies in the held "files"; a "files" or "info" that is a link or on another
+// volume is refused and nothing is removed. Read-only folders are made writable; files keep
+// their modes. Nothing when all went; otherwise one sentence.
 [[nodiscard]] std::optional<QString> empty();
 
 }  // namespace FreedesktopTrash

@@ -1,62 +1,46 @@
 #include "actions/OwnerWrite.h"
 
-#include "actions/Descriptor.h"
+#include "platform/Platform.h"
 
-#include <QFile>
+#include <QByteArray>
 
 #include <cerrno>
 #include <dirent.h>
 #include <fcntl.h>
-#include <sys/stat.h>
 
 namespace OwnerWrite {
 
 namespace {
 
 constexpr int depthLimit = 512;
-constexpr int entryFlags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+constexpr int folderFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
 
-// A folder also needs search and read permission to be entered and listed.
-bool grant(int fd, const struct stat& info)
+// A folder also needs read and search permission to be listed and entered.
+bool grant(int folder, const struct stat& info)
 {
-    const mode_t wanted = S_ISDIR(info.st_mode) ? S_IRWXU : S_IWUSR;
-    if ((info.st_mode & wanted) == wanted)
+    if ((info.st_mode & S_IRWXU) == S_IRWXU)
         return true;
-    return ::fchmod(fd, (info.st_mode & 07777) | wanted) == 0;
-}
-
-// Opens a folder entry; one its owner can't read is first given read and search permission
-// through the folder, without following a link (that call fails on one).
-Descriptor openEntry(int folder, const char* name, const struct stat& listed)
-{
-    Descriptor entry(::openat(folder, name, entryFlags | (S_ISDIR(listed.st_mode) ? O_DIRECTORY : 0)));
-    if (entry.isValid() || errno != EACCES)
-        return entry;
-    if (::fchmodat(folder, name, (listed.st_mode & 07777) | S_IRWXU, AT_SYMLINK_NOFOLLOW) != 0)
-        return entry;
-    entry.reset(::openat(folder, name, entryFlags | (S_ISDIR(listed.st_mode) ? O_DIRECTORY : 0)));
-    return entry;
+    return ::fchmod(folder, (info.st_mode & 07777) | S_IRWXU) == 0;
 }
 
 bool addBelow(int folder, int depth);
 
-// Only folders and regular files: links are left alone, and opening a device or a pipe could
-// have effects of its own.
+// Only folders: files and links are left as they are (a file's other hard links share its mode).
 bool addEntry(int folder, const char* name, int depth)
 {
     struct stat listed {};
     if (::fstatat(folder, name, &listed, AT_SYMLINK_NOFOLLOW) != 0)
         return errno == ENOENT;
-    if (!S_ISDIR(listed.st_mode) && !S_ISREG(listed.st_mode))
+    if (!S_ISDIR(listed.st_mode))
         return true;
-    const Descriptor entry = openEntry(folder, name, listed);
+    const Descriptor entry = openFolder(folder, name, listed);
     struct stat opened {};
     if (!entry.isValid() || ::fstat(entry.get(), &opened) != 0)
         return false;
     if (opened.st_dev != listed.st_dev || opened.st_ino != listed.st_ino)
         return false;  // swapped between the two looks: leave whatever it is now alone
     const bool granted = grant(entry.get(), opened);
-    return S_ISDIR(opened.st_mode) ? addBelow(entry.get(), depth + 1) && granted : granted;
+    return addBelow(entry.get(), depth + 1) && granted;
 }
 
 bool addBelow(int folder, int depth)
@@ -87,16 +71,23 @@ bool addThroughTree(int root)
     struct stat info {};
     if (::fstat(root, &info) != 0)
         return false;
-    if (!S_ISDIR(info.st_mode) && !S_ISREG(info.st_mode))
+    if (!S_ISDIR(info.st_mode))
         return true;
     const bool granted = grant(root, info);
-    return S_ISDIR(info.st_mode) ? addBelow(root, 0) && granted : granted;
+    return addBelow(root, 0) && granted;
 }
 
-bool addThroughTree(const QString& path)
+Descriptor openFolder(int folder, const char* name, const struct stat& listed)
 {
-    const Descriptor root(::open(QFile::encodeName(path).constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-    return root.isValid() ? addThroughTree(root.get()) : errno == ELOOP;
+    Descriptor opened(::openat(folder, name, folderFlags));
+    if (opened.isValid() || errno != EACCES || !S_ISDIR(listed.st_mode))
+        return opened;
+    if (const int error = Platform::changeModeAt(folder, name, listed, (listed.st_mode & 07777) | S_IRWXU)) {
+        errno = error;
+        return opened;
+    }
+    opened.reset(::openat(folder, name, folderFlags));
+    return opened;
 }
 
 }  // namespace OwnerWrite

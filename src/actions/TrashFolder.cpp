@@ -2,12 +2,14 @@
 
 #include "actions/FreedesktopTrash.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace {
@@ -39,18 +41,106 @@ Descriptor ownFolder(int parent, const char* name)
     return folder;
 }
 
+bool onVolume(const Descriptor& part, dev_t device)
+{
+    const auto info = part.isValid() ? statusOf(part.get()) : std::nullopt;
+    return info && info->st_dev == device;
+}
+
 std::optional<TrashFolder> withParts(Descriptor trash, const QString& path, const QByteArray& topFolder)
 {
+    const auto folder = statusOf(trash.get());
+    if (!folder)
+        return std::nullopt;
     TrashFolder opened;
     opened.files = ownFolder(trash.get(), "files");
     opened.info = ownFolder(trash.get(), "info");
-    const auto info = opened.files.isValid() ? statusOf(opened.files.get()) : std::nullopt;
-    if (!info || !opened.info.isValid())
+    if (!onVolume(opened.files, folder->st_dev) || !onVolume(opened.info, folder->st_dev))
         return std::nullopt;
+    opened.folder = std::move(trash);
     opened.filesPath = path + QStringLiteral("/files");
     opened.topFolder = topFolder;
-    opened.device = info->st_dev;
+    opened.device = folder->st_dev;
     return opened;
+}
+
+QString describe(int error)
+{
+    return QString::fromStdString(std::generic_category().message(error));
+}
+
+QString linkedFolder(const QString& path)
+{
+    //: Why Empty Trash removed nothing; %1 is a folder of the Trash (or above it) that is a symbolic link
+    return QCoreApplication::translate("SystemAccess", "Nothing was removed: %1 is a symbolic link, not the Trash's own folder.").arg(path);
+}
+
+QString folderOnOtherDisk(const QString& path)
+{
+    //: Why Empty Trash removed nothing; %1 is a folder of the Trash that another disk is mounted on
+    return QCoreApplication::translate("SystemAccess", "Nothing was removed: %1 lies on another disk than the Trash.").arg(path);
+}
+
+QString cannotOpen(const QString& path, int error)
+{
+    //: Why Empty Trash removed nothing; %1 is a folder of the Trash, %2 the system's reason (a sentence)
+    return QCoreApplication::translate("SystemAccess", "Nothing was removed: %1 can't be opened. %2").arg(path, describe(error));
+}
+
+// Why the entry `name` of `parent` could not be opened as a folder without following a link
+// (`error`); nothing when it is simply missing.
+std::optional<QString> openingRefusal(int parent, const QByteArray& name, const QString& path, int error)
+{
+    if (error == ENOENT)
+        return std::nullopt;
+    struct stat info {};
+    const bool isLink = ::fstatat(parent, name.constData(), &info, AT_SYMLINK_NOFOLLOW) == 0 && S_ISLNK(info.st_mode);
+    if (error == ELOOP || (error == ENOTDIR && isLink))
+        return linkedFolder(path);
+    return cannotOpen(path, error);
+}
+
+// The folders from the home folder down to `trash`, each opened relative to the one above
+// without following a link; the home folder itself as the system names it. A trash outside
+// the home is reached from "/". Invalid when one can't be opened, with `refusal` saying why
+// (nothing when one is missing).
+Descriptor openChain(const QString& trash, std::optional<QString>& refusal)
+{
+    const QString home = QDir::cleanPath(QDir::homePath());
+    const bool inHome = home != QStringLiteral("/") && trash.startsWith(home + QLatin1Char('/'));
+    QString reached = inHome ? home : QString();
+    Descriptor current(::open(inHome ? QFile::encodeName(home).constData() : "/", folderFlags & ~O_NOFOLLOW));
+    if (!current.isValid())
+        refusal = errno == ENOENT ? std::nullopt : std::optional(cannotOpen(home, errno));
+    for (const QString& name : trash.mid(reached.size()).split(QLatin1Char('/'), Qt::SkipEmptyParts)) {
+        if (!current.isValid())
+            break;
+        reached += QLatin1Char('/') + name;
+        const QByteArray encoded = QFile::encodeName(name);
+        Descriptor next(::openat(current.get(), encoded.constData(), folderFlags));
+        if (!next.isValid())
+            refusal = openingRefusal(current.get(), encoded, reached, errno);
+        current = std::move(next);
+    }
+    return current;
+}
+
+// "files" or "info" of an existing trash, held invalid when missing.
+std::optional<QString> openExistingPart(const TrashFolder& trash, const char* name, const QString& path, Descriptor& part)
+{
+    part.reset(::openat(trash.folder.get(), name, folderFlags));
+    if (!part.isValid()) {
+        const int error = errno;
+        return openingRefusal(trash.folder.get(), name, path, error);
+    }
+    const auto info = statusOf(part.get());
+    if (!info)
+        return cannotOpen(path, errno);
+    if (info->st_dev != trash.device)
+        return folderOnOtherDisk(path);
+    if (info->st_uid != ::getuid())
+        return cannotOpen(path, EPERM);
+    return std::nullopt;
 }
 
 // $topdir/.Trash/$uid, used only when .Trash is a real folder with the sticky bit: on a shared
@@ -106,6 +196,26 @@ std::optional<TrashFolder> TrashFolder::home()
     if (!trash.isValid())
         return std::nullopt;
     return withParts(std::move(trash), path, QByteArray());
+}
+
+ExistingTrash TrashFolder::existingHome()
+{
+    const QString path = QDir::cleanPath(FreedesktopTrash::homeTrash());
+    std::optional<QString> refusal;
+    TrashFolder trash;
+    trash.folder = openChain(path, refusal);
+    if (!trash.folder.isValid())
+        return {std::nullopt, refusal};
+    const auto info = statusOf(trash.folder.get());
+    if (!info)
+        return {std::nullopt, cannotOpen(path, errno)};
+    trash.device = info->st_dev;
+    trash.filesPath = path + QStringLiteral("/files");
+    if (auto refusal = openExistingPart(trash, "files", trash.filesPath, trash.files))
+        return {std::nullopt, refusal};
+    if (auto refusal = openExistingPart(trash, "info", path + QStringLiteral("/info"), trash.info))
+        return {std::nullopt, refusal};
+    return {std::move(trash), std::nullopt};
 }
 
 std::optional<TrashFolder> TrashFolder::ofVolume(int folder, const QString& originalPath)

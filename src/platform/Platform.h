@@ -125,6 +125,13 @@ int renameNoReplace(const QString& from, const QString& to);
 // `toFolder`, only when `to` is free. 0 on success, otherwise the errno (EXDEV across volumes).
 int renameNoReplaceAt(int fromFolder, const char* from, int toFolder, const char* to);
 
+// Sets the mode of the entry `name` of the open folder `folder`, only while it is the object
+// `listed` describes and never through a symbolic link, for an entry that can't be opened to
+// use fchmod (a folder its owner may not read). Linux pins the object first (O_PATH) and
+// changes it through its descriptor; macOS, which has no such pin, compares the identity and
+// then changes the entry by name without following a link. 0 on success, else the errno.
+int changeModeAt(int folder, const char* name, const struct stat& listed, mode_t mode);
+
 // ---- The desktop ----
 
 // Asks the desktop's file manager to show `path` selected (org.freedesktop.FileManager1's

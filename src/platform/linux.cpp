@@ -182,6 +182,23 @@ int readFolderNames(int folder, std::string& names)
     }
 }
 
+int changeModeAt(int folder, const char* name, const struct stat& listed, mode_t mode)
+{
+    const int pinned = ::openat(folder, name, O_PATH | O_NOFOLLOW | O_CLOEXEC);
+    if (pinned < 0)
+        return errno;
+    struct stat info {};
+    int error = ::fstat(pinned, &info) == 0 ? 0 : errno;
+    if (error == 0 && (info.st_dev != listed.st_dev || info.st_ino != listed.st_ino || S_ISLNK(info.st_mode)))
+        error = ESTALE;
+    // fchmod refuses an O_PATH descriptor; its /proc name is the pinned object itself.
+    const QByteArray pin = "/proc/self/fd/" + QByteArray::number(pinned);
+    if (error == 0 && ::chmod(pin.constData(), mode) != 0)
+        error = errno;
+    ::close(pinned);
+    return error;
+}
+
 std::optional<qint64> birthNanosecondsAt(int folder, const char* name)
 {
     struct statx info {};

@@ -256,6 +256,16 @@ int renameNoReplace(const QString& from, const QString& to)
     return errno;
 }
 
+int changeModeAt(int folder, const char* name, const struct stat& listed, mode_t mode)
+{
+    struct stat info {};
+    if (::fstatat(folder, name, &info, AT_SYMLINK_NOFOLLOW) != 0)
+        return errno;
+    if (info.st_dev != listed.st_dev || info.st_ino != listed.st_ino || S_ISLNK(info.st_mode))
+        return ESTALE;
+    return ::fchmodat(folder, name, mode, AT_SYMLINK_NOFOLLOW) == 0 ? 0 : errno;
+}
+
 int renameNoReplaceAt(int fromFolder, const char* from, int toFolder, const char* to)
 {
     return ::renameatx_np(fromFolder, from, toFolder, to, RENAME_EXCL) == 0 ? 0 : errno;

@@ -8,6 +8,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <sys/stat.h>
 
@@ -113,17 +114,29 @@ TEST_F(RemoverTrash, ARefusedTrashMoveNeverDeletes)
               QStringLiteral("It couldn't be moved to the Trash: Operation not permitted"));
 }
 
-TEST_F(RemoverTrash, MakesAGoModuleCacheWritableSoItCanGo)
+// Go keeps its module cache read-only; its folders are opened up so it can go, and its files
+// keep their modes: one of them shares its data (and so its mode) with a read-only file of the
+// person's outside the cache, which stays read-only through the move and the emptying.
+TEST_F(RemoverTrash, MovesAndEmptiesAGoModuleCacheWithoutChangingAnyFilesMode)
 {
     const QString module = home.dir(QStringLiteral("go/pkg/mod/example.com/lib@v1.2.0"));
     const QString file = home.file(QStringLiteral("go/pkg/mod/example.com/lib@v1.2.0/go.mod"), 20);
+    const QString persons = home.hardlink(QStringLiteral("projects/lib/go.mod"), QStringLiteral("go/pkg/mod/example.com/lib@v1.2.0/go.mod"));
     ASSERT_EQ(::chmod(QFile::encodeName(file).constData(), 0444), 0);
     ASSERT_EQ(::chmod(QFile::encodeName(module).constData(), 0555), 0);
+    const auto modeOf = [](const QString& path) {
+        struct stat info {};
+        return ::lstat(QFile::encodeName(path).constData(), &info) == 0 ? info.st_mode & 07777 : 0;
+    };
 
     EXPECT_EQ(Remover::remove(trashItem({module}), environment), RemovalOutcome::movedToTrash());
-    struct stat info {};
-    ASSERT_EQ(::lstat(QFile::encodeName(trashFolder() + QStringLiteral("/files/lib@v1.2.0/go.mod")).constData(), &info), 0);
-    EXPECT_TRUE(info.st_mode & S_IWUSR);
+    EXPECT_EQ(modeOf(trashFolder() + QStringLiteral("/files/lib@v1.2.0")), 0755u);
+    EXPECT_EQ(modeOf(persons), 0444u);
+
+    EXPECT_EQ(FreedesktopTrash::empty(), std::nullopt);
+    EXPECT_TRUE(trashedNames().isEmpty());
+    EXPECT_EQ(modeOf(persons), 0444u);
+    EXPECT_EQ(QFileInfo(persons).size(), 20);
 }
 
 TEST_F(RemoverTrash, LockedItemsAndTheTrashRowAreNotRemovedHere)

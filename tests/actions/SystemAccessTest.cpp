@@ -8,6 +8,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -93,6 +94,60 @@ TEST(SystemAccess, EmptiesTheFreedesktopTrashIncludingReadOnlyTrees)
     EXPECT_FALSE(QFileInfo::exists(trash + QStringLiteral("/expunged/123")));
     EXPECT_TRUE(QFileInfo::exists(linkTarget)) << "a link in the Trash is removed, never followed";
     EXPECT_EQ(SystemAccess::emptyTrash(), std::nullopt) << "an empty Trash empties without complaint";
+}
+
+// A Trash whose "files" or "info" folder, or a folder above it, is a link already when Empty
+// Trash starts is not emptied: the sentence names the link, and nothing is removed, neither
+// where the link points nor in the Trash.
+TEST(SystemAccess, EmptyTrashRefusesATrashReachedThroughALinkAndRemovesNothing)
+{
+    if (Platform::desktop() != Platform::Desktop::freedesktop)
+        GTEST_SKIP() << "the freedesktop trash is Linux's";
+    const QString trash = FreedesktopTrash::homeTrash();
+    TempTree home;
+    const QString documents = home.dir(QStringLiteral("Documents"));
+    home.file(QStringLiteral("Documents/thesis.odt"), 10);
+    home.file(QStringLiteral("Documents/thesis.odt.trashinfo"), 10);
+    home.file(QStringLiteral("elsewhere/Trash/files/kept"), 10);
+    home.dir(QStringLiteral("elsewhere/Trash/info"));
+    const auto entries = [](const QString& folder) {
+        return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    };
+    const auto sentence = [](const QString& path) {
+        return QStringLiteral("Nothing was removed: %1 is a symbolic link, not the Trash's own folder.").arg(path);
+    };
+    struct Case {
+        QString linked;  // inside the Trash, made a link
+        QString target;
+    };
+    const QList<Case> cases = {
+        {QStringLiteral("files"), documents},
+        {QStringLiteral("info"), documents},
+        {QString(), home.path(QStringLiteral("elsewhere/Trash"))},  // the Trash folder itself
+    };
+    for (const Case& shape : cases) {
+        QDir(trash).removeRecursively();
+        QFile(trash).remove();
+        for (const char* part : {"files/old.txt", "info/old.txt.trashinfo"}) {
+            QDir().mkpath(QFileInfo(trash + QLatin1Char('/') + QLatin1String(part)).path());
+            QFile file(trash + QLatin1Char('/') + QLatin1String(part));
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        }
+        const QString link = shape.linked.isEmpty() ? trash : trash + QLatin1Char('/') + shape.linked;
+        const QString aside = link + QStringLiteral(".real");
+        ASSERT_TRUE(QDir().rename(link, aside));
+        ASSERT_EQ(::symlink(QFile::encodeName(shape.target).constData(), QFile::encodeName(link).constData()), 0);
+
+        EXPECT_EQ(FreedesktopTrash::empty(), sentence(link)) << qPrintable(link);
+        EXPECT_EQ(entries(documents), QStringList({QStringLiteral("thesis.odt"), QStringLiteral("thesis.odt.trashinfo")}));
+        EXPECT_EQ(entries(home.path(QStringLiteral("elsewhere/Trash/files"))), QStringList{QStringLiteral("kept")});
+        ::unlink(QFile::encodeName(link).constData());
+        QDir().rename(aside, link);
+        EXPECT_EQ(entries(trash + QStringLiteral("/files")), QStringList{QStringLiteral("old.txt")}) << "the Trash is left as it was";
+        EXPECT_EQ(entries(trash + QStringLiteral("/info")), QStringList{QStringLiteral("old.txt.trashinfo")});
+    }
+    EXPECT_EQ(FreedesktopTrash::empty(), std::nullopt) << "once the links are gone it empties";
+    EXPECT_TRUE(entries(trash + QStringLiteral("/files")).isEmpty());
 }
 
 TEST(SystemAccess, AnswersForLinux)

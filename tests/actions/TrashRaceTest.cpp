@@ -3,18 +3,20 @@
 #include "actions/TrashFixture.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
+#include <QFileInfo>
 
 #include <atomic>
 #include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
 
-// Races an attacker against real removals: while the remover checks and moves, another thread
-// keeps swapping an object for a symbolic link that leads out of the home folder. Whatever the
-// interleaving, nothing outside the home may move or change, the scanned object must end up
-// either where it was or in the Trash with its original location, and nothing may land in the
-// working folder. The normal suite runs a few hundred rounds per shape; DUSTLARK_STRESS_RACES
+// Races an attacker against real removals: while the remover checks and moves, or Empty Trash
+// deletes, another thread keeps swapping an object for a symbolic link that leads out of the
+// home folder or into the person's own folders. Whatever the interleaving, nothing there may
+// move or change, the scanned object must end up either where it was or in the Trash with its
+// original location, and nothing may land in the working folder. The normal suite runs a few hundred rounds per shape; DUSTLARK_STRESS_RACES
 // sets another count (docs/reliability.md).
 
 namespace {
@@ -36,6 +38,23 @@ std::optional<struct stat> statusOf(const QString& path)
     if (::lstat(bytes(path).constData(), &info) != 0)
         return std::nullopt;
     return info;
+}
+
+// Each entry below `folder` (links not followed) with its size and mode, and the folder's own
+// mode: whatever the person would notice lost or changed.
+std::string snapshot(const QString& folder)
+{
+    QStringList lines{QString::number(statusOf(folder)->st_mode, 8)};
+    QDirIterator entries(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                         QDirIterator::Subdirectories);
+    while (entries.hasNext()) {
+        const QString path = entries.next();
+        const auto info = statusOf(path);
+        lines.append(path.mid(folder.size()) + QLatin1Char(' ') + QString::number(info->st_size) + QLatin1Char(' ')
+                     + QString::number(info->st_mode, 8));
+    }
+    lines.sort();
+    return lines.join(QLatin1Char('\n')).toStdString();
 }
 
 // Swaps `path` for a link to `elsewhere` and back, over and over, until destroyed; at the end
@@ -112,6 +131,8 @@ protected:
 
     void expectWorkingFolderUntouched() const { EXPECT_EQ(trashLikeEntries(), workingFolderBefore); }
     void raceFile(const QString& relative, const QString& swapped, const QString& elsewhere, const QString& victim);
+    void raceEmptying(const QString& swapped);
+    void fillTrash() const;
 
     QStringList workingFolderBefore;
 };
@@ -188,6 +209,65 @@ TEST_F(TrashRace, GoCacheFolderSwappedDuringThePermissionFix)
     }
     ::chmod(bytes(outside.path(QStringLiteral("pkg"))).constData(), 0755);
     expectWorkingFolderUntouched();
+}
+
+// A trashed folder with a folder inside, as file managers leave it, with its info file.
+void TrashRace::fillTrash() const
+{
+    const QString files = trashFolder() + QStringLiteral("/files/");
+    for (int i = 0; i < 8; ++i) {
+        for (const QString& name : {QStringLiteral("entry/a%1"), QStringLiteral("entry/sub/b%1")}) {
+            QDir().mkpath(QFileInfo(files + name.arg(i)).path());
+            QFile file(files + name.arg(i));
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("trashed") == 7);
+        }
+    }
+    QDir().mkpath(trashFolder() + QStringLiteral("/info"));
+    QFile info(trashFolder() + QStringLiteral("/info/entry.trashinfo"));
+    ASSERT_TRUE(info.open(QIODevice::WriteOnly) && info.write("[Trash Info]\nPath=/tmp/entry\n") > 0);
+}
+
+// Rounds of Empty Trash while `swapped` (below the Trash folder) keeps turning into a link to
+// the person's Documents, of which nothing may be lost or changed, not even a mode. After each
+// round the Trash must empty completely.
+void TrashRace::raceEmptying(const QString& swapped)
+{
+    const QString documents = home.dir(QStringLiteral("Documents"));
+    for (int i = 0; i < 20; ++i) {
+        home.file(QStringLiteral("Documents/report-%1.txt").arg(i), 9);
+        home.file(QStringLiteral("Documents/sub/b%1").arg(i), 9);  // names the trashed ones have too
+    }
+    home.file(QStringLiteral("Documents/entry.trashinfo"), 9);
+    ::chmod(bytes(home.path(QStringLiteral("Documents/sub/b0"))).constData(), 0444);
+    ::chmod(bytes(home.path(QStringLiteral("Documents/sub"))).constData(), 0555);
+    const std::string before = snapshot(documents);
+    for (int round = 0; round < rounds(); ++round) {
+        fillTrash();
+        {
+            const Swapper swapper(trashFolder() + QLatin1Char('/') + swapped, documents);
+            (void)FreedesktopTrash::empty();
+        }
+        ASSERT_EQ(snapshot(documents), before) << "round " << round;
+        emptyTrash();
+        ASSERT_TRUE(trashedNames().isEmpty()) << "round " << round;
+    }
+    ::chmod(bytes(home.path(QStringLiteral("Documents/sub"))).constData(), 0755);
+    expectWorkingFolderUntouched();
+}
+
+TEST_F(TrashRace, TrashFilesFolderSwappedForALinkDuringEmptying)
+{
+    raceEmptying(QStringLiteral("files"));
+}
+
+TEST_F(TrashRace, TrashedEntrySwappedForALinkDuringEmptying)
+{
+    raceEmptying(QStringLiteral("files/entry"));
+}
+
+TEST_F(TrashRace, FolderInsideATrashedEntrySwappedForALinkDuringEmptying)
+{
+    raceEmptying(QStringLiteral("files/entry/sub"));
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include "actions/FreedesktopTrash.h"
 #include "actions/Remover.h"
 #include "actions/TrashFixture.h"
 #include "vocabulary/RemovalReasons.h"
@@ -168,6 +169,26 @@ TEST_F(PrivateMount, TheSharedTrashIsUsedOnlyWhenItIsARealStickyFolder)
     EXPECT_EQ(entriesOf(mountPoint + QStringLiteral("/.Trash/") + QString::fromLatin1(ownId) + QStringLiteral("/files")), QStringList{QStringLiteral("cache.bin")});
 }
 
+// A disk mounted on the Trash's "files" folder is not the Trash's own: Empty Trash refuses it
+// and removes nothing on it.
+TEST_F(PrivateMount, EmptyTrashRefusesAFilesFolderOnAnotherDisk)
+{
+    mountTmpfs(QStringLiteral("size=1m"));
+    const QString files = trashFolder() + QStringLiteral("/files");
+    QDir().mkpath(files);
+    QDir().mkpath(trashFolder() + QStringLiteral("/info"));
+    const QString kept = makeTarget();
+    ASSERT_EQ(QProcess::execute(QStringLiteral("mount"), {QStringLiteral("--bind"), mountPoint, files}), 0);
+
+    const std::optional<QString> refusal = FreedesktopTrash::empty();
+    const QStringList onDisk = entriesOf(files);
+    QProcess::execute(QStringLiteral("umount"), {files});
+
+    EXPECT_EQ(refusal, QStringLiteral("Nothing was removed: %1 lies on another disk than the Trash.").arg(files));
+    EXPECT_EQ(onDisk, QStringList{QStringLiteral("scan")});
+    EXPECT_EQ(contentOf(kept), QByteArray("kept"));
+}
+
 TEST_F(TrashVolume, SmallFileSystemsInAPrivateMountNamespace)
 {
     const QString unshare = QStandardPaths::findExecutable(QStringLiteral("unshare"));
@@ -185,7 +206,7 @@ TEST_F(TrashVolume, SmallFileSystemsInAPrivateMountNamespace)
     if (output.contains("unshare failed") || output.contains("Operation not permitted"))
         GTEST_SKIP() << "mount namespaces are not allowed here: " << output.constData();
     EXPECT_EQ(child.exitCode(), 0) << output.constData();
-    EXPECT_TRUE(output.contains("[  PASSED  ] 3 tests.")) << output.constData();
+    EXPECT_TRUE(output.contains("[  PASSED  ] 4 tests.")) << output.constData();
 }
 
 }  // namespace

@@ -10,6 +10,9 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#ifdef __linux__
+#include <sys/prctl.h>
+#endif
 
 TempTree::TempTree() : m_root(QFileInfo(m_dir.path()).canonicalFilePath()) {}
 
@@ -91,6 +94,11 @@ constexpr int childCannotRun = 77;
     const bool dropped = ::setgroups(0, nullptr) == 0 && ::setgid(nobody) == 0 && ::setuid(nobody) == 0;
     if (!dropped || ::access(QFile::encodeName(root).constData(), R_OK | X_OK) != 0)
         ::_exit(childCannotRun);
+#ifdef __linux__
+    // Changing the user made the process undumpable, which hides /proc/self/fd from it; an
+    // ordinary user's process can use it.
+    ::prctl(PR_SET_DUMPABLE, 1);
+#endif
     const QByteArray result = work();
     for (qsizetype written = 0; written < result.size();) {
         const ssize_t count = ::write(output, result.constData() + written, result.size() - written);
