@@ -58,7 +58,8 @@ struct ProcessEntry {
     bool operator==(const ProcessEntry&) const = default;
 };
 
-// Every process the person can see, read in one pass; empty when the table can't be read.
+// Every process of the system's table (on macOS, one whose record the system refuses is left
+// out), zombies included, read in one pass; empty when the table can't be read.
 std::vector<ProcessEntry> processTable();
 
 // Opens a pipe whose two ends no launched program inherits unless they are handed over
@@ -135,9 +136,14 @@ bool showItemInFileManager(const QString& path);
 
 // ---- Volumes ----
 
-// Free bytes of the volume holding `path` that the system would let the person use
-// ("available for important usage" on macOS); absent when it cannot be read.
+// Free bytes of the volume holding `path` (statvfs on Linux, the volume's available capacity on
+// macOS): what a copy onto that volume can fill. Absent when it cannot be read.
 std::optional<qint64> availableCapacity(const QString& path);
+
+// The free bytes the startup disk offers the person: on macOS "available for important usage",
+// which adds what the system purges on demand; where a volume answers nothing or 0 for it (any
+// volume but APFS), and on Linux, the plain available capacity.
+std::optional<qint64> availableCapacityForImportantUsage(const QString& path);
 
 // Total bytes of the volume holding `path`.
 std::optional<qint64> totalCapacity(const QString& path);

@@ -198,6 +198,11 @@ std::optional<qint64> availableCapacity(const QString& path)
     return qint64(info->f_bavail) * qint64(info->f_frsize);
 }
 
+std::optional<qint64> availableCapacityForImportantUsage(const QString& path)
+{
+    return availableCapacity(path);  // Linux purges nothing on demand
+}
+
 std::optional<qint64> totalCapacity(const QString& path)
 {
     const auto info = volumeInfo(path);
