@@ -145,6 +145,11 @@ std::optional<qint64> availableCapacity(const QString& path);
 // volume but APFS), and on Linux, the plain available capacity.
 std::optional<qint64> availableCapacityForImportantUsage(const QString& path);
 
+// Whether the file system holding `path` keeps extended attributes of its own; false where
+// macOS would keep them in "._name" files beside each file (exFAT, FAT) or Linux refuses them.
+// True when it cannot be told.
+bool keepsExtendedAttributes(const QString& path);
+
 // Total bytes of the volume holding `path`.
 std::optional<qint64> totalCapacity(const QString& path);
 

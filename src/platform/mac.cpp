@@ -14,6 +14,8 @@
 #include <fcntl.h>
 #include <libproc.h>
 #include <spawn.h>
+#include <sys/attr.h>
+#include <sys/mount.h>
 #include <sys/proc.h>
 #include <sys/sysctl.h>
 #include <unistd.h>
@@ -238,6 +240,28 @@ std::optional<qint64> availableCapacityForImportantUsage(const QString& path)
     if (important && *important > 0)
         return important;
     return availableCapacity(path);
+}
+
+// getattrlist(2): a volume's capabilities are asked of its root folder; the interface bit
+// VOL_CAP_INT_EXTENDED_ATTR says the format keeps extended attributes natively.
+bool keepsExtendedAttributes(const QString& path)
+{
+    struct statfs volume {};
+    if (::statfs(QFile::encodeName(path).constData(), &volume) != 0)
+        return true;
+    struct attrlist request {};
+    request.bitmapcount = ATTR_BIT_MAP_COUNT;
+    request.volattr = ATTR_VOL_INFO | ATTR_VOL_CAPABILITIES;
+    struct {
+        u_int32_t length;
+        vol_capabilities_attr_t capabilities;
+    } __attribute__((aligned(4), packed)) answer {};
+    if (::getattrlist(volume.f_mntonname, &request, &answer, sizeof answer, 0) != 0)
+        return true;
+    const u_int32_t interfaces = VOL_CAPABILITIES_INTERFACES;
+    if ((answer.capabilities.valid[interfaces] & VOL_CAP_INT_EXTENDED_ATTR) == 0)
+        return true;  // the volume doesn't say
+    return (answer.capabilities.capabilities[interfaces] & VOL_CAP_INT_EXTENDED_ATTR) != 0;
 }
 
 std::optional<qint64> totalCapacity(const QString& path)
