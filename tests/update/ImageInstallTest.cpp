@@ -151,7 +151,7 @@ TEST_F(ImageInstallTest, AnAttachThatRanOutOfTimeIsDetached)
 {
     imageHolds(QStringLiteral("Dustlark.app"));
     failWith(hdiutil, "attach.hang", 1);
-    tools.attachTimeLimit = std::chrono::milliseconds(500);
+    tools.attachTimeLimit = std::chrono::milliseconds(3000);
     const auto result = install();
     EXPECT_EQ(result, Updater::couldNotInstall(QStringLiteral("The tool didn't answer in time.")));
     EXPECT_EQ(verbs(), (QStringList{"imageinfo", "attach", "detach"}));
