@@ -37,8 +37,9 @@ QString bundleValue(const QString& key);
 
 // ---- Processes ----
 
-// When the process started, as seconds x 1,000,000 + microseconds since 1970; absent when
-// its information cannot be read (it has ended, or is not ours to see).
+// When the process started, as seconds x 1,000,000 + microseconds since 1970, also for a
+// zombie; absent when its information cannot be read (it was collected, or on macOS it is
+// another user's).
 std::optional<qint64> processStartTime(pid_t pid);
 
 // The executable path of every process the person can see.
