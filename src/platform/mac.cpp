@@ -125,8 +125,7 @@ std::vector<ProcessEntry> processTable()
 {
     std::vector<ProcessEntry> table;
     for (pid_t id : allProcessIds()) {
-        // The short record is all a table needs (parent, group, state) and, unlike the full
-        // one, is not limited to the person's own processes.
+        // The short record is all a table needs (parent, group, state).
         struct proc_bsdshortinfo info {};
         if (proc_pidinfo(id, PROC_PIDT_SHORTBSDINFO, includingZombies, &info, sizeof info) != int(sizeof info))
             continue;  // collected while the table was read
