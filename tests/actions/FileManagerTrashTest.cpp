@@ -12,6 +12,8 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include <gtest/gtest.h>
+
 // The macOS move to the Trash runs here on Qt's own trash call, with the Trash folder refusing
 // to be opened as ~/.Trash does for an app without Full Disk Access.
 namespace {
