@@ -6,7 +6,7 @@ scripts/setup.sh
 scripts/build.sh
 BUILD_DIR=${BUILD_DIR:-build}
 if [ "$(uname -s)" = "Darwin" ]; then
-    exec open "$BUILD_DIR/bin/dustlark.app"
+    exec open "$BUILD_DIR/bin/Dustlark.app"
 fi
 if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
     exec xvfb-run -a "$BUILD_DIR/bin/dustlark"

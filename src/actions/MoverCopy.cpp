@@ -2,6 +2,7 @@
 
 #include "machinery/FileSizer.h"
 #include "machinery/ProcessRunner.h"
+#include "platform/Platform.h"
 
 #include <algorithm>
 #include <chrono>
@@ -67,7 +68,8 @@ std::optional<QString> run(const QString& source, const QString& target, const Q
     const CopyTool& tool = environment.copyTool;
     const ProcessRunner::Result result = [&] {
         ProgressWatch watch(measured, total, progress, environment.removal.cancellation);
-        return ProcessRunner::run(tool.executable, tool.arguments(source, target), tool.timeLimit, {},
+        const bool keepsAttributes = Platform::keepsExtendedAttributes(measured);
+        return ProcessRunner::run(tool.executable, tool.arguments(source, target, keepsAttributes), tool.timeLimit, {},
                                   environment.removal.cancellation);
     }();
     if (!result.launched())

@@ -14,12 +14,17 @@ struct CopyTool {
     QString executable;
     QStringList leadingArguments;  // put before the source and the target
     std::chrono::milliseconds timeLimit{0};
+    // Added to the leading ones where the target's file system keeps no extended attributes of
+    // its own (exFAT, FAT): macOS would store them as "._name" files there, and the copy would
+    // no longer match the original.
+    QStringList withoutExtendedAttributes;
 
-    // macOS: "/usr/bin/ditto SRC DST"; Linux: coreutils "cp -a" (never into an existing folder).
-    // Both get six hours.
+    // macOS: `ditto()`; Linux: coreutils "cp -a" (never into an existing folder). Six hours.
     [[nodiscard]] static CopyTool standard();
+    // "/usr/bin/ditto SRC DST", with "--noextattr --norsrc" where attributes can't be kept.
+    [[nodiscard]] static CopyTool ditto();
 
-    [[nodiscard]] QStringList arguments(const QString& source, const QString& target) const;
+    [[nodiscard]] QStringList arguments(const QString& source, const QString& target, bool keepsExtendedAttributes = true) const;
 };
 
 }  // namespace Mover

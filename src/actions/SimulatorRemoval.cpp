@@ -2,6 +2,7 @@
 
 #include "actions/ToolAnswer.h"
 #include "vocabulary/RemovalReasons.h"
+#include "vocabulary/SimulatorLastUse.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -68,7 +69,7 @@ std::optional<QJsonObject> findDevice(const QJsonObject& listing, const QString&
 
 std::optional<QDateTime> lastUsed(const QJsonObject& device)
 {
-    const QString text = device.value(QLatin1String("lastUsedAt")).toString();
+    const QString text = SimulatorLastUse::ofDevice(device).value_or(QString());
     const QDateTime date = QDateTime::fromString(text, Qt::ISODateWithMs);
     return date.isValid() ? std::optional(date) : std::nullopt;
 }

@@ -23,7 +23,7 @@ struct TrashRequest {
 struct TrashResult {
     std::optional<QString> pathInTrash;  // where the object now is; absent when it was not moved
     QString error;                       // one sentence when it was not moved
-    bool permissionDenied = false;       // it failed because its folder isn't writable
+    bool permissionDenied = false;       // the system refused it for lack of permission (Finder may ask for more)
     bool wrongObject = false;            // another object had taken its place; that one was put back
 
     [[nodiscard]] bool moved() const { return pathInTrash.has_value(); }

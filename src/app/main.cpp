@@ -18,8 +18,11 @@ int main(int argc, char* argv[])
     QApplication::setApplicationVersion(UpdateChecker::currentVersion());
     QApplication::setWindowIcon(AppIcon::icon());
 
-    // The native store: NSUserDefaults on macOS, an INI file under ~/.config on Linux.
+    // The native store: NSUserDefaults on macOS, an INI file under ~/.config on Linux. Only the
+    // app's own domain is read: with fallbacks, macOS answers a key the app never set from the
+    // global domain (an unset "AppleLanguages" read as the system's list of languages).
     QSettings settings;
+    settings.setFallbacksEnabled(false);
     AppLanguage::loadAtLaunch(settings);
 
     SettingsStore settingsStore(&settings);

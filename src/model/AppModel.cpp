@@ -51,6 +51,8 @@ AppModel::Services AppModel::defaultServices()
         return disk ? std::optional<qint64>(disk->total - disk->available) : std::nullopt;
     };
     services.runningApp = runningAppBundle();
+    // `open -n` answers as soon as LaunchServices took the request, before the new copy runs or
+    // fails to: true means the start was asked for, not that it happened.
     services.relaunch = [](const QString& appPath) {
         if (!QProcess::startDetached(QStringLiteral("/usr/bin/open"), {QStringLiteral("-n"), appPath}))
             return false;

@@ -64,7 +64,8 @@ public:
         // The running ".app" folder an update replaces; empty where the app is no bundle.
         QString runningApp;
         ImageInstall::Tools updateTools;
-        // Starts the app at the path and quits this one; false when the system couldn't start it.
+        // Asks the system to start the app at the path and quits this one; false when it couldn't be
+        // asked. Whether the new copy then runs is not known by the time this answers.
         std::function<bool(const QString& appPath)> relaunch;
     };
     static Services defaultServices();

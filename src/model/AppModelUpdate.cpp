@@ -86,8 +86,8 @@ void AppModel::finishInstall(const std::optional<QString>& error)
 {
     m_isInstallingUpdate = false;
     if (!error && !m_services.relaunch(m_services.runningApp))
-        //: Shown when the update is in place but macOS couldn't start the new copy
-        m_updateInstallError = tr("The update is installed, but it couldn't be started. Open Dustlark again.");
+        //: Shown when the update is in place but Dustlark couldn't ask macOS to open the new copy
+        m_updateInstallError = tr("The update is installed, but Dustlark couldn't ask macOS to open it. Open Dustlark again.");
     else
         m_updateInstallError = error.value_or(QString());
     emit updateStateChanged();

@@ -37,8 +37,9 @@ QString bundleValue(const QString& key);
 
 // ---- Processes ----
 
-// When the process started, as seconds x 1,000,000 + microseconds since 1970; absent when
-// its information cannot be read (it has ended, or is not ours to see).
+// When the process started, as seconds x 1,000,000 + microseconds since 1970, also for a
+// zombie; absent when its information cannot be read (it was collected, or on macOS it is
+// another user's).
 std::optional<qint64> processStartTime(pid_t pid);
 
 // The executable path of every process the person can see.
@@ -58,7 +59,8 @@ struct ProcessEntry {
     bool operator==(const ProcessEntry&) const = default;
 };
 
-// Every process the person can see, read in one pass; empty when the table can't be read.
+// Every process of the system's table (on macOS, one whose record the system refuses is left
+// out), zombies included, read in one pass; empty when the table can't be read.
 std::vector<ProcessEntry> processTable();
 
 // Opens a pipe whose two ends no launched program inherits unless they are handed over
@@ -142,9 +144,19 @@ bool showItemInFileManager(const QString& path);
 
 // ---- Volumes ----
 
-// Free bytes of the volume holding `path` that the system would let the person use
-// ("available for important usage" on macOS); absent when it cannot be read.
+// Free bytes of the volume holding `path` (statvfs on Linux, the volume's available capacity on
+// macOS): what a copy onto that volume can fill. Absent when it cannot be read.
 std::optional<qint64> availableCapacity(const QString& path);
+
+// The free bytes the startup disk offers the person: on macOS "available for important usage",
+// which adds what the system purges on demand; where a volume answers nothing or 0 for it (any
+// volume but APFS), and on Linux, the plain available capacity.
+std::optional<qint64> availableCapacityForImportantUsage(const QString& path);
+
+// Whether the file system holding `path` keeps extended attributes of its own; false where
+// macOS would keep them in "._name" files beside each file (exFAT, FAT) or Linux refuses them.
+// True when it cannot be told.
+bool keepsExtendedAttributes(const QString& path);
 
 // Total bytes of the volume holding `path`.
 std::optional<qint64> totalCapacity(const QString& path);

@@ -19,6 +19,7 @@
 #include <sys/prctl.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace Platform {
@@ -213,6 +214,17 @@ std::optional<qint64> availableCapacity(const QString& path)
     if (!info)
         return std::nullopt;
     return qint64(info->f_bavail) * qint64(info->f_frsize);
+}
+
+std::optional<qint64> availableCapacityForImportantUsage(const QString& path)
+{
+    return availableCapacity(path);  // Linux purges nothing on demand
+}
+
+bool keepsExtendedAttributes(const QString& path)
+{
+    // A file system without attributes refuses even the question.
+    return ::getxattr(QFile::encodeName(path).constData(), "user.dustlark", nullptr, 0) == 0 || errno != ENOTSUP;
 }
 
 std::optional<qint64> totalCapacity(const QString& path)

@@ -14,6 +14,8 @@
 #include <fcntl.h>
 #include <libproc.h>
 #include <spawn.h>
+#include <sys/attr.h>
+#include <sys/mount.h>
 #include <sys/proc.h>
 #include <sys/sysctl.h>
 #include <unistd.h>
@@ -60,6 +62,17 @@ std::optional<qint64> volumeNumber(const QString& path, CFStringRef key)
     return result;
 }
 
+// The string's text through the C API: QString::fromCFString is declared only by Qt built for
+// Darwin, and this keeps the file readable by the stub compile check (scripts/check-mac.sh).
+QString textOf(CFStringRef string)
+{
+    const CFIndex size = CFStringGetMaximumSizeForEncoding(CFStringGetLength(string), kCFStringEncodingUTF8) + 1;
+    QByteArray buffer(qsizetype(size), Qt::Uninitialized);
+    if (!CFStringGetCString(string, buffer.data(), size, kCFStringEncodingUTF8))
+        return {};
+    return QString::fromUtf8(buffer.constData());
+}
+
 }  // namespace
 
 QString bundleValue(const QString& key)
@@ -68,17 +81,23 @@ QString bundleValue(const QString& key)
     if (!bundle)
         return {};
     const CFStringRef name = CFStringCreateWithCString(nullptr, key.toUtf8().constData(), kCFStringEncodingUTF8);
+    if (!name)
+        return {};  // not valid UTF-8, or out of memory
     const CFTypeRef value = CFBundleGetValueForInfoDictionaryKey(bundle, name);
     CFRelease(name);
     if (!value || CFGetTypeID(value) != CFStringGetTypeID())
         return {};
-    return QString::fromCFString(static_cast<CFStringRef>(value));
+    return textOf(static_cast<CFStringRef>(value));
 }
+
+// A non-zero argument makes PROC_PIDTBSDINFO and PROC_PIDT_SHORTBSDINFO answer for zombies too.
+constexpr uint64_t includingZombies = 1;
 
 std::optional<qint64> processStartTime(pid_t pid)
 {
     struct proc_bsdinfo info {};
-    if (proc_pidinfo(pid, PROC_PIDTBSDINFO, 0, &info, sizeof info) != int(sizeof info))
+    // Refused (EPERM) for another user's process: absent, as promised.
+    if (proc_pidinfo(pid, PROC_PIDTBSDINFO, includingZombies, &info, sizeof info) != int(sizeof info))
         return std::nullopt;
     return qint64(info.pbi_start_tvsec) * 1'000'000 + qint64(info.pbi_start_tvusec);
 }
@@ -106,10 +125,11 @@ std::vector<ProcessEntry> processTable()
 {
     std::vector<ProcessEntry> table;
     for (pid_t id : allProcessIds()) {
-        struct proc_bsdinfo info {};
-        if (proc_pidinfo(id, PROC_PIDTBSDINFO, 0, &info, sizeof info) != int(sizeof info))
-            continue;  // ended while the table was read, or not ours to see
-        table.push_back({id, pid_t(info.pbi_ppid), pid_t(info.pbi_pgid), info.pbi_status == SZOMB});
+        // The short record is all a table needs (parent, group, state).
+        struct proc_bsdshortinfo info {};
+        if (proc_pidinfo(id, PROC_PIDT_SHORTBSDINFO, includingZombies, &info, sizeof info) != int(sizeof info))
+            continue;  // collected while the table was read
+        table.push_back({id, pid_t(info.pbsi_ppid), pid_t(info.pbsi_pgid), info.pbsi_status == SZOMB});
     }
     return table;
 }
@@ -208,7 +228,39 @@ std::optional<qint64> birthNanosecondsAt(int folder, const char* name)
 
 std::optional<qint64> availableCapacity(const QString& path)
 {
-    return volumeNumber(path, kCFURLVolumeAvailableCapacityForImportantUsageKey);
+    return volumeNumber(path, kCFURLVolumeAvailableCapacityKey);
+}
+
+// Adds what the system would purge to make room (caches, local snapshots) on APFS; other
+// file systems (exFAT, FAT, HFS+) answer 0 or nothing, so only the startup disk asks for it.
+std::optional<qint64> availableCapacityForImportantUsage(const QString& path)
+{
+    const std::optional<qint64> important = volumeNumber(path, kCFURLVolumeAvailableCapacityForImportantUsageKey);
+    if (important && *important > 0)
+        return important;
+    return availableCapacity(path);
+}
+
+// getattrlist(2): a volume's capabilities are asked of its root folder; the interface bit
+// VOL_CAP_INT_EXTENDED_ATTR says the format keeps extended attributes natively.
+bool keepsExtendedAttributes(const QString& path)
+{
+    struct statfs volume {};
+    if (::statfs(QFile::encodeName(path).constData(), &volume) != 0)
+        return true;
+    struct attrlist request {};
+    request.bitmapcount = ATTR_BIT_MAP_COUNT;
+    request.volattr = ATTR_VOL_INFO | ATTR_VOL_CAPABILITIES;
+    struct {
+        u_int32_t length;
+        vol_capabilities_attr_t capabilities;
+    } __attribute__((aligned(4), packed)) answer {};
+    if (::getattrlist(volume.f_mntonname, &request, &answer, sizeof answer, 0) != 0)
+        return true;
+    const u_int32_t interfaces = VOL_CAPABILITIES_INTERFACES;
+    if ((answer.capabilities.valid[interfaces] & VOL_CAP_INT_EXTENDED_ATTR) == 0)
+        return true;  // the volume doesn't say
+    return (answer.capabilities.capabilities[interfaces] & VOL_CAP_INT_EXTENDED_ATTR) != 0;
 }
 
 std::optional<qint64> totalCapacity(const QString& path)

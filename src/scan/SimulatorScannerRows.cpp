@@ -3,6 +3,7 @@
 
 #include "format/ByteCount.h"
 #include "format/RelativeDate.h"
+#include "vocabulary/SimulatorLastUse.h"
 
 #include <QCoreApplication>
 
@@ -106,7 +107,7 @@ std::optional<SimulatorScanner::Device> SimulatorScanner::Device::decode(const Q
     if (!udid)
         return std::nullopt;
     return Device{*udid, text(json, "name"), text(json, "state"), flag(json, "isAvailable"), text(json, "availabilityError"),
-                  text(json, "dataPath"), bytes(json, "dataPathSize"), text(json, "lastUsedAt")};
+                  text(json, "dataPath"), bytes(json, "dataPathSize"), SimulatorLastUse::ofDevice(json)};
 }
 
 QString SimulatorScanner::displayName(const Runtime& runtime)

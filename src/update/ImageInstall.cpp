@@ -57,6 +57,36 @@ std::optional<QString> copyOut(const QString& mountPoint, const QString& staging
     return std::nullopt;
 }
 
+// Whether `hdiutil imageinfo -plist` says the image shows a licence agreement when attached
+// ("Software License Agreement" among its "Properties"). Attaching such an image waits for the
+// person to agree in a terminal that isn't there.
+bool asksForLicence(const QByteArray& imageInfo)
+{
+    plist_t root = nullptr;
+    plist_from_memory(imageInfo.constData(), uint32_t(imageInfo.size()), &root);
+    if (!root)
+        return false;
+    plist_t properties = plist_get_node_type(root) == PLIST_DICT ? plist_dict_get_item(root, "Properties") : nullptr;
+    plist_t licence = properties && plist_get_node_type(properties) == PLIST_DICT
+        ? plist_dict_get_item(properties, "Software License Agreement") : nullptr;
+    uint8_t value = 0;
+    if (licence && plist_get_node_type(licence) == PLIST_BOOLEAN)
+        plist_get_bool_val(licence, &value);
+    plist_free(root);
+    return value != 0;
+}
+
+std::optional<QString> licenceProblem(const QString& image, const Tools& tools)
+{
+    const auto info = ProcessRunner::run(tools.hdiutil, {QStringLiteral("imageinfo"), QStringLiteral("-plist"), image}, 60s);
+    if (const auto failure = toolFailure(info))
+        return Updater::couldNotInstall(*failure);
+    if (!asksForLicence(info.output->standardOutput.toUtf8()))
+        return std::nullopt;
+    //: Inside "Couldn't install the update (...)" when the downloaded disk image asks to accept a licence first
+    return Updater::couldNotInstall(QCoreApplication::translate("ImageInstall", "its disk image asks to accept a licence agreement; download it from the website instead"));
+}
+
 bool isGenuine(const QString& app, const Identity& own, const Tools& tools)
 {
     if (own.bundleIdentifier.isEmpty() || own.team.isEmpty() || !build(app))
@@ -72,14 +102,22 @@ std::optional<QString> stage(const QString& image, const QString& staging, const
     QTemporaryDir mountPoint;
     if (!mountPoint.isValid())
         return Updater::couldNotInstall(mountPoint.errorString());
+    if (const auto refused = licenceProblem(image, tools))
+        return refused;
+    const auto detach = [&] {
+        return ProcessRunner::run(tools.hdiutil, {QStringLiteral("detach"), mountPoint.path(), QStringLiteral("-force")}, 60s);
+    };
     const auto attached = ProcessRunner::run(tools.hdiutil,
                                              {QStringLiteral("attach"), image, QStringLiteral("-nobrowse"),
                                               QStringLiteral("-readonly"), QStringLiteral("-noautoopen"),
-                                              QStringLiteral("-mountpoint"), mountPoint.path()}, 120s);
-    if (const auto failure = toolFailure(attached))
+                                              QStringLiteral("-mountpoint"), mountPoint.path()}, tools.attachTimeLimit);
+    if (const auto failure = toolFailure(attached)) {
+        if (attached.launched() && attached.output->timedOut)
+            detach();  // it may have mounted the image before it was stopped
         return Updater::couldNotInstall(*failure);
+    }
     const std::optional<QString> copied = copyOut(mountPoint.path(), staging, tools, copy);
-    const auto detached = ProcessRunner::run(tools.hdiutil, {QStringLiteral("detach"), mountPoint.path(), QStringLiteral("-force")}, 60s);
+    const auto detached = detach();
     if (copied)
         return copied;
     if (const auto failure = toolFailure(detached))

@@ -111,5 +111,5 @@ void MoverFixture::expectUntouched(const CleanupItem& item, const QString& reaso
 
 Mover::CopyTool MoverFixture::scriptTool(const QString& script)
 {
-    return {QStringLiteral("/bin/sh"), {QStringLiteral("-c"), script, QStringLiteral("copy")}, std::chrono::minutes(1)};
+    return {QStringLiteral("/bin/sh"), {QStringLiteral("-c"), script, QStringLiteral("copy")}, std::chrono::minutes(1), {}};
 }

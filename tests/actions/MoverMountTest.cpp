@@ -4,6 +4,7 @@
 // test binary re-runs itself there with DUSTLARK_MOVE_DESTINATION naming the mounted folder.
 #include "actions/MoverFixture.h"
 #include "actions/MoverReasons.h"
+#include "actions/ToolStandIn.h"
 #include "support/TempTree.h"
 
 #include <QCoreApplication>
@@ -115,6 +116,32 @@ TEST_F(MoverFixture, DISABLED_OnExFatCopiesWithCoarseTimesAndPlacesWithoutReplac
     EXPECT_EQ(moveItem(trashItem({clip})), Mover::Outcome::failed(Mover::Reasons::nameTaken(QStringLiteral("clip.mov"))));
     EXPECT_EQ(QFileInfo(destination + QStringLiteral("/clip.mov")).size(), 7);
     EXPECT_EQ(QFileInfo(clip).size(), 1000);
+}
+
+// macOS keeps a file's extended attributes on exFAT as a "._name" file beside it, so a copy
+// with them has more files than the original. The stand-in plays ditto doing that.
+TEST_F(MoverFixture, DISABLED_OnExFatDittoCopiesWithoutExtendedAttributes)
+{
+    if (!insideNamespace())
+        GTEST_SKIP() << "runs inside the namespace made by MoverOnMountedDisks";
+    const ToolStandIn ditto(QStringLiteral("ditto-standin"), QStringLiteral("ditto"));
+    moveEnvironment.copyTool = Mover::CopyTool::ditto();
+    moveEnvironment.copyTool.executable = ditto.path();
+    home.file(QStringLiteral("Pictures/album/one.jpg"), 2000);
+    home.file(QStringLiteral("Pictures/album/two.jpg"), 3000);
+    const QString album = home.path(QStringLiteral("Pictures/album"));
+
+    ASSERT_EQ(moveItem(trashItem({album})), Mover::Outcome::moved(destination + QStringLiteral("/album")));
+    EXPECT_TRUE(ditto.calls().value(0).startsWith(QStringLiteral("--noextattr --norsrc "))) << qPrintable(ditto.calls().join('\n'));
+    EXPECT_EQ(QDir(destination + QStringLiteral("/album")).entryList(QDir::Files | QDir::Hidden),
+              (QStringList{QStringLiteral("one.jpg"), QStringLiteral("two.jpg")}));
+
+    // Kept as "._" files, the attributes make the copy differ, and the move is refused.
+    home.file(QStringLiteral("Pictures/trip/three.jpg"), 1000);
+    moveEnvironment.copyTool.withoutExtendedAttributes.clear();
+    const Mover::Outcome refused = moveItem(trashItem({home.path(QStringLiteral("Pictures/trip"))}));
+    EXPECT_TRUE(refused.reason.startsWith(QStringLiteral("The copy didn't match the original"))) << qPrintable(refused.reason);
+    EXPECT_TRUE(QFileInfo::exists(home.path(QStringLiteral("Pictures/trip/three.jpg"))));
 }
 
 TEST_F(MoverFixture, DISABLED_OnExFatALinkThatCantBeCopiedLeavesNothing)

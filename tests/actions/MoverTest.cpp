@@ -1,6 +1,7 @@
 // Moves to a real second file system (/dev/shm) with the real copy tool and the real
 // freedesktop trash; faults of the copy tool are played by small shell scripts.
 #include "actions/MoverFixture.h"
+#include "actions/ToolStandIn.h"
 #include "actions/MoverReasons.h"
 
 #include <QDir>
@@ -143,6 +144,20 @@ INSTANTIATE_TEST_SUITE_P(Mover, MoverToolFault, ::testing::Values(
     ToolFault{"truncatesAFile", "cp -a -T -- \"$1\" \"$2\" && truncate -s 10 \"$2/src/main.cpp\"",
               "The copy didn't match the original (4 of 4 files). The original wasn't changed."}),
     [](const ::testing::TestParamInfo<ToolFault>& info) { return std::string(info.param.name); });
+
+// A destination that keeps extended attributes (a tmpfs here, APFS on a Mac) gets them copied.
+TEST_F(MoverFixture, DittoKeepsExtendedAttributesWhereTheDestinationHoldsThem)
+{
+    const ToolStandIn ditto(QStringLiteral("ditto-standin"), QStringLiteral("ditto"));
+    moveEnvironment.copyTool = Mover::CopyTool::ditto();
+    moveEnvironment.copyTool.executable = ditto.path();
+    const QString clip = home.file(QStringLiteral("Movies/clip.mov"), 4000);
+
+    ASSERT_EQ(moveItem(trashItem({clip})), Mover::Outcome::moved(destination + QStringLiteral("/clip.mov")));
+    ASSERT_EQ(ditto.calls().size(), 1);
+    EXPECT_FALSE(ditto.calls()[0].contains(QStringLiteral("--noextattr"))) << qPrintable(ditto.calls()[0]);
+    EXPECT_EQ(destinationNames(), QStringList{QStringLiteral("clip.mov")});
+}
 
 TEST_F(MoverFixture, AMissingCopyToolChangesNothing)
 {

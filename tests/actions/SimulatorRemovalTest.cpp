@@ -62,6 +62,18 @@ TEST_F(SimulatorRemovalTest, RefusesARunningUsedOrVanishedDevice)
         EXPECT_FALSE(call.startsWith(QStringLiteral("simctl delete"))) << qPrintable(call);
 }
 
+// Xcode 16 prints a device's last use as "lastBootedAt": a boot after the scan refuses.
+TEST_F(SimulatorRemovalTest, ComparesTheLastBootTheRealToolPrints)
+{
+    const QString device = QStringLiteral("C2E4A6C8-0E2A-4C6E-A0C2-4E6A8C0E2A4C");
+    xcrun.answerWithFixture(listDevices, QStringLiteral("simctl/xcode16-devices.json"));
+    xcrun.answer({QStringLiteral("simctl"), QStringLiteral("delete"), device}, {});
+    EXPECT_EQ(removeDevice(device, QStringLiteral("2024-09-01T08:00:00Z")), RemovalOutcome::failed(RemovalReasons::changedSinceScan()));
+    EXPECT_FALSE(deleted(QStringLiteral("delete ") + device));
+    EXPECT_EQ(removeDevice(device, QStringLiteral("2024-09-30T16:05:12Z")), RemovalOutcome::removedByTool());
+    EXPECT_TRUE(deleted(QStringLiteral("delete ") + device));
+}
+
 TEST_F(SimulatorRemovalTest, DeletesARuntimeOnlyWhileNoSimulatorOnItRuns)
 {
     EXPECT_EQ(removeRuntime(runtimeWithBootedDevice),

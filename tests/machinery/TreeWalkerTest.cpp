@@ -27,9 +27,11 @@ qsizetype countOf(const QByteArrayList& lines, const QByteArray& word)
     return std::count_if(lines.begin(), lines.end(), [&](const QByteArray& line) { return line.contains(word); });
 }
 
+// Linux lists a process's descriptors under /proc, macOS (which has no /proc) under /dev/fd.
 int openDescriptors()
 {
-    return static_cast<int>(QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::Files | QDir::System).size());
+    const QString folder = QDir(QStringLiteral("/proc/self/fd")).exists() ? QStringLiteral("/proc/self/fd") : QStringLiteral("/dev/fd");
+    return static_cast<int>(QDir(folder).entryList(QDir::Files | QDir::System).size());
 }
 
 using Recorder = WalkRecorder;

@@ -46,7 +46,9 @@ protected:
             services.updateSite.origin = QUrl(server.origin());
             services.updateSite.extraCertificates = server.certificatePem();
             services.runningApp = appPath();
-            services.updateTools = {hdiutil.path(), ditto.path(), codesign.path()};
+            services.updateTools.hdiutil = hdiutil.path();
+            services.updateTools.ditto = ditto.path();
+            services.updateTools.codesign = codesign.path();
             services.relaunch = [this](const QString& path) { relaunched.append(path); return true; };
         });
     }

@@ -2,8 +2,10 @@
 #include "actions/ToolStandIn.h"
 #include "scan/SimulatorScanner.h"
 #include "support/TempTree.h"
+#include "vocabulary/SimulatorLastUse.h"
 
 #include <QFile>
+#include <QJsonDocument>
 
 #include <gtest/gtest.h>
 
@@ -146,6 +148,47 @@ TEST_F(SimulatorScannerTest, AnUnreadableRuntimeListKeepsTheDevices)
     EXPECT_EQ(output.notes, QStringList{QStringLiteral("Couldn't list simulator runtimes: The tool's answer isn't valid JSON.")});
     EXPECT_EQ(output.items.size(), 4);
     EXPECT_EQ(RelativeDate::expand(row(output, iPhone15).detail, context.now), QStringLiteral("removing it keeps iOS 17.5 · used last month"));
+}
+
+// Devices as Xcode 15 and 16 really print them: the last use is "lastBootedAt", absent for a
+// device never booted.
+TEST_F(SimulatorScannerTest, RealDeviceListsOfXcode15And16DateDevicesByTheirLastBoot)
+{
+    const auto usedDate = [](const CleanupItem& item) { return item.removal.as<Removal::SimulatorDevice>()->lastUsed; };
+    const auto at = [](const char* text) { return QDateTime::fromString(QString::fromLatin1(text), Qt::ISODate); };
+
+    xcrun.answerWithFixture(listDevices, QStringLiteral("simctl/xcode15-devices.json"));
+    context.now = at("2024-03-06T12:00:00Z");
+    ScanOutput output = scan();
+    const CleanupItem& booted = row(output, QStringLiteral("sim:device:2C4E6A8B-1D3F-4A5B-9C7D-0E1F2A3B4C5D"));
+    EXPECT_EQ(booted.date, at("2024-02-06T14:21:07Z"));
+    EXPECT_EQ(usedDate(booted), at("2024-02-06T14:21:07Z"));
+    EXPECT_EQ(RelativeDate::expand(booted.detail, context.now), QStringLiteral("removing it keeps iOS 17.2 · used last month"));
+    const CleanupItem& neverBooted = row(output, QStringLiteral("sim:device:6B8D0F2A-4C6E-4E8A-A1C3-5D7F9B1D3F5A"));
+    EXPECT_EQ(neverBooted.date, std::nullopt);
+    EXPECT_EQ(usedDate(neverBooted), std::nullopt);
+    EXPECT_TRUE(neverBooted.detail.endsWith(QStringLiteral("never used"))) << qPrintable(neverBooted.detail);
+    EXPECT_EQ(row(output, QStringLiteral("sim:device:9E1A3C5E-7A9C-4B1D-8E3F-5A7C9E1B3D5F")).date, at("2023-12-19T08:02:55Z"));
+
+    xcrun.answerWithFixture(listDevices, QStringLiteral("simctl/xcode16-devices.json"));
+    output = scan();
+    EXPECT_EQ(row(output, QStringLiteral("sim:device:4F6A8C0E-2B4D-4F6A-B8C0-E2A4C6E8A0B2")).date, at("2025-03-11T09:47:31Z"));
+    EXPECT_EQ(row(output, QStringLiteral("sim:device:C2E4A6C8-0E2A-4C6E-A0C2-4E6A8C0E2A4C")).date, at("2024-09-30T16:05:12Z"));
+    EXPECT_EQ(row(output, QStringLiteral("sim:device:8A0C2E4A-6C8E-4A0C-92E4-A6C8E0A2C4E6")).date, std::nullopt);
+}
+
+// Where a device carries both names the later date counts, whichever field holds it.
+TEST(SimulatorLastUse, ReadsTheLastBootAndTheDocumentedNameTakingTheLater)
+{
+    const auto device = [](const char* json) { return QJsonDocument::fromJson(json).object(); };
+    EXPECT_EQ(SimulatorLastUse::ofDevice(device(R"({"lastBootedAt": "2024-02-06T14:21:07Z"})")), QStringLiteral("2024-02-06T14:21:07Z"));
+    EXPECT_EQ(SimulatorLastUse::ofDevice(device(R"({"lastUsedAt": "2024-02-06T14:21:07.5Z"})")), QStringLiteral("2024-02-06T14:21:07.5Z"));
+    EXPECT_EQ(SimulatorLastUse::ofDevice(device(R"({"lastBootedAt": "2024-02-06T14:21:07Z", "lastUsedAt": "2024-03-01T00:00:00Z"})")),
+              QStringLiteral("2024-03-01T00:00:00Z"));
+    EXPECT_EQ(SimulatorLastUse::ofDevice(device(R"({"lastBootedAt": "2024-04-06T14:21:07Z", "lastUsedAt": "2024-03-01T00:00:00Z"})")),
+              QStringLiteral("2024-04-06T14:21:07Z"));
+    EXPECT_EQ(SimulatorLastUse::ofDevice(device(R"({"lastBootedAt": "yesterday", "lastUsedAt": 5})")), std::nullopt);
+    EXPECT_EQ(SimulatorLastUse::ofDevice(device(R"({"state": "Shutdown"})")), std::nullopt);
 }
 
 TEST(SimulatorRuntimeName, FromTheIdentifiersLastComponent)

@@ -20,5 +20,5 @@ Mover::CopyTool stallingCopyTool()
 {
     return {QStringLiteral("/bin/sh"),
             {QStringLiteral("-c"), QStringLiteral("cp -a -T -- \"$1\" \"$2\"; sleep 60"), QStringLiteral("copy")},
-            std::chrono::minutes(2)};
+            std::chrono::minutes(2), {}};
 }

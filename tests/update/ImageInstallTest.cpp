@@ -87,10 +87,11 @@ TEST_F(ImageInstallTest, AVerifiedCopyTakesThePlaceOfTheRunningOne)
     EXPECT_EQ(applicationsFolder(), QStringList{QStringLiteral("Dustlark.app")}) << "nothing hidden left behind";
 
     const QStringList calls = hdiutil.calls();
-    ASSERT_EQ(calls.size(), 2);
-    const QString mountPoint = calls[0].section(QLatin1Char(' '), -1);
-    EXPECT_EQ(calls[0], QStringLiteral("attach %1 -nobrowse -readonly -noautoopen -mountpoint %2").arg(image, mountPoint));
-    EXPECT_EQ(calls[1], QStringLiteral("detach %1 -force").arg(mountPoint));
+    ASSERT_EQ(calls.size(), 3);
+    EXPECT_EQ(calls[0], QStringLiteral("imageinfo -plist %1").arg(image));
+    const QString mountPoint = calls[1].section(QLatin1Char(' '), -1);
+    EXPECT_EQ(calls[1], QStringLiteral("attach %1 -nobrowse -readonly -noautoopen -mountpoint %2").arg(image, mountPoint));
+    EXPECT_EQ(calls[2], QStringLiteral("detach %1 -force").arg(mountPoint));
     EXPECT_FALSE(QFileInfo::exists(mountPoint));
     EXPECT_EQ(codesign.calls().value(0), QStringLiteral("--verify -R=%1 ").arg(Updater::requirement(own.bundleIdentifier, own.team))
                                              + ditto.calls().value(0).section(QLatin1Char(' '), 1));
@@ -111,7 +112,7 @@ TEST_F(ImageInstallTest, EveryFailureBeforeTheSwapLeavesTheRunningCopyAlone)
         EXPECT_EQ(applicationsFolder(), QStringList{QStringLiteral("Dustlark.app")}) << what;
     };
     EXPECT_EQ(install(), Updater::couldNotInstall(QStringLiteral("the disk image holds no app")));
-    EXPECT_EQ(verbs(), (QStringList{"attach", "detach"})) << "detached after the attach";
+    EXPECT_EQ(verbs(), (QStringList{"imageinfo", "attach", "detach"})) << "detached after the attach";
     untouched("no app");
 
     imageHolds(QStringLiteral("Dustlark.app"), nullptr);
@@ -131,7 +132,7 @@ TEST_F(ImageInstallTest, EveryFailureBeforeTheSwapLeavesTheRunningCopyAlone)
     failWith(hdiutil, "attach.status", 1);
     const QStringList before = verbs();
     EXPECT_EQ(install(), Updater::couldNotInstall(QStringLiteral("hdiutil: attach failed - image not recognized")));
-    EXPECT_EQ(verbs().mid(before.size()), QStringList{"attach"}) << "nothing to detach";
+    EXPECT_EQ(verbs().mid(before.size()), (QStringList{"imageinfo", "attach"})) << "nothing to detach";
     untouched("attach");
 }
 
@@ -142,6 +143,29 @@ TEST_F(ImageInstallTest, AnImageLeftAttachedIsReportedButTheSwapNeverStarts)
     const auto result = install();
     ASSERT_TRUE(result);
     EXPECT_TRUE(result->contains(QStringLiteral("Resource busy")));
+    EXPECT_EQ(runningBinary(), QByteArray("old"));
+    EXPECT_EQ(applicationsFolder(), QStringList{QStringLiteral("Dustlark.app")});
+}
+
+TEST_F(ImageInstallTest, AnAttachThatRanOutOfTimeIsDetached)
+{
+    imageHolds(QStringLiteral("Dustlark.app"));
+    failWith(hdiutil, "attach.hang", 1);
+    tools.attachTimeLimit = std::chrono::milliseconds(3000);
+    const auto result = install();
+    EXPECT_EQ(result, Updater::couldNotInstall(QStringLiteral("The tool didn't answer in time.")));
+    EXPECT_EQ(verbs(), (QStringList{"imageinfo", "attach", "detach"}));
+    const QString mountPoint = hdiutil.calls().value(1).section(QLatin1Char(' '), -1);
+    EXPECT_EQ(hdiutil.calls().value(2), QStringLiteral("detach %1 -force").arg(mountPoint));
+    EXPECT_EQ(runningBinary(), QByteArray("old"));
+}
+
+TEST_F(ImageInstallTest, AnImageWithALicenceAgreementIsNeverAttached)
+{
+    imageHolds(QStringLiteral("Dustlark.app"));
+    failWith(hdiutil, "licence", 1);
+    EXPECT_EQ(install(), Updater::couldNotInstall(QStringLiteral("its disk image asks to accept a licence agreement; download it from the website instead")));
+    EXPECT_EQ(verbs(), QStringList{"imageinfo"});
     EXPECT_EQ(runningBinary(), QByteArray("old"));
     EXPECT_EQ(applicationsFolder(), QStringList{QStringLiteral("Dustlark.app")});
 }

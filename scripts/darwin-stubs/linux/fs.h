@@ -1,0 +1,2 @@
+// Linux-only: Darwin has no <linux/fs.h>.
+#error "<linux/fs.h> is Linux-only"

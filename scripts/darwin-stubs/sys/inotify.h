@@ -1,0 +1,2 @@
+// Linux-only: Darwin has no <sys/inotify.h>.
+#error "<sys/inotify.h> is Linux-only"
