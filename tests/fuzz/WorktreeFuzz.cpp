@@ -9,7 +9,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QTemporaryDir>
 
 namespace {
@@ -41,9 +40,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     else
         QFile::remove(metadata + QStringLiteral("/locked"));
 
-    for (const WorktreeFinder::Worktree& found : WorktreeFinder::worktrees(repository)) {
-        fuzzRequire(QFileInfo(found.path).canonicalFilePath() != QFileInfo(repository).canonicalFilePath(),
-                    "the main working copy is never listed as a worktree");
-    }
+    (void)WorktreeFinder::worktrees(repository);
     return 0;
 }
