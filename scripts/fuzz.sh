@@ -9,25 +9,10 @@ cd "$(dirname "$0")/.."
 seconds=${1:-60}
 export BUILD_DIR=${BUILD_DIR:-build-fuzz}
 
-as_root() {
-    if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
-}
-
-scripts/setup.sh
+scripts/setup.sh --fuzz
 if [ "$(uname -s)" = "Darwin" ]; then
-    # Apple's clang has no libFuzzer; Homebrew's LLVM has.
-    brew list --versions llvm >/dev/null 2>&1 || brew install llvm
     export CC="$(brew --prefix llvm)/bin/clang" CXX="$(brew --prefix llvm)/bin/clang++"
 else
-    missing=()
-    for p in clang libclang-rt-dev; do  # libclang-rt-dev: libFuzzer and the sanitizer runtimes
-        dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
-    done
-    if [ ${#missing[@]} -gt 0 ]; then
-        echo "Installing: ${missing[*]}"
-        as_root apt-get update -qq
-        as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq "${missing[@]}"
-    fi
     export CC=clang CXX=clang++
 fi
 BUILD_TARGET=fuzzers scripts/build.sh -DDUSTLARK_FUZZ=ON -DDUSTLARK_TESTS=OFF
