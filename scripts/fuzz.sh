@@ -18,7 +18,7 @@ fi
 BUILD_TARGET=fuzzers scripts/build.sh -DDUSTLARK_FUZZ=ON -DDUSTLARK_TESTS=OFF
 
 # An undefined operation stops the program like a crash, so libFuzzer keeps the input.
-export UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1:suppressions=$PWD/tests/fuzz/known-findings.supp
+export UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1
 failed=()
 summary=()
 for seeds in tests/fixtures/fuzz/*/; do
