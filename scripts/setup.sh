@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs what building and testing Dustlark needs, and nothing that is already there.
+# Installs what building and testing Dustlark needs, and nothing that is already there; with --fuzz,
+# also what scripts/fuzz.sh needs.
 set -euo pipefail
 
 DEBIAN_PACKAGES=(qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
@@ -10,6 +11,10 @@ DEBIAN_PACKAGES+=(flatpak)
 # clang: the stub compile check of the macOS code (scripts/check-mac.sh)
 DEBIAN_PACKAGES+=(clang)
 BREW_PACKAGES=(qt openssl@3 libplist googletest cmake pkg-config)
+if [ "${1:-}" = "--fuzz" ]; then  # scripts/fuzz.sh: clang with libFuzzer and the sanitizer runtimes
+    DEBIAN_PACKAGES+=(clang libclang-rt-dev)
+    BREW_PACKAGES+=(llvm)  # Apple's clang has no libFuzzer
+fi
 
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi

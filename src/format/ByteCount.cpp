@@ -39,7 +39,8 @@ QString format(qint64 bytes)
     if (bytes == 0)
         //: A size of nothing, in the system's file-size style
         return QCoreApplication::translate("ByteCount", "Zero KB");
-    const qint64 magnitude = bytes < 0 ? -bytes : bytes;
+    // Unsigned, so the smallest qint64 (a garbled size can end up there) has a magnitude too.
+    const quint64 magnitude = bytes < 0 ? 0 - static_cast<quint64>(bytes) : static_cast<quint64>(bytes);
     if (magnitude < 1000) {
         if (magnitude == 1)
             //: A size of one byte; %1 is "1" or "-1"
