@@ -1,7 +1,10 @@
 #!/usr/bin/env bash
-# Moving a 2 GB folder of mixed files to another file system (a tmpfs under /dev/shm) with
-# Dustlark's mover (copy, both fingerprints, placing, the real freedesktop trash) against
-# `cp -a` of the same folder in the same run, in turns A B A B so a busy machine hits both alike.
+# Moving a 2 GB folder of mixed files to another file system (a tmpfs under /dev/shm, or DISK)
+# with Dustlark's mover (copy, fingerprints, every copied file read back and its digest compared
+# with the original's, placing, the real freedesktop trash) against `cp -a` of the same folder,
+# and against `cp -a` followed by a byte comparison of the whole tree (`diff -r`, which compares
+# equal-sized files byte for byte as cmp does, in one process), in turns so a busy machine hits
+# all alike. Ratios are per round; the medians are printed last.
 # The source lives on the home disk; the page cache cannot be dropped here, so one warm-up copy
 # runs first and every round reads a cached source. Copies are removed between rounds.
 #   BUILD_DIR=build-bench ROUNDS=3 bench/move_bench.sh
@@ -35,6 +38,8 @@ for round in $(seq "$ROUNDS"); do
     echo "== round $round"
     measure "cp$round" cp -a -T -- "$WORK/home/data" "$DISK/data"
     rm -rf "$DISK/data"
+    measure "cpcmp$round" sh -c 'cp -a -T -- "$1" "$2" && diff -r --no-dereference -q "$1" "$2"' sh "$WORK/home/data" "$DISK/data"
+    rm -rf "$DISK/data"
     measure "move$round" "$BENCH" move "$WORK/home/data" "$DISK"
     diff -r "$XDG_DATA_HOME/Trash/files/data" "$DISK/data" >/dev/null && echo "                 copy identical to the original"
     mv "$XDG_DATA_HOME/Trash/files/data" "$WORK/home/data"
@@ -42,9 +47,15 @@ for round in $(seq "$ROUNDS"); do
     rm -rf "$DISK/data"
 done
 
-echo "== move / cp -a per round (wall, cpu)"
-for round in $(seq "$ROUNDS"); do
-    awk -v r="$round" -v mw="$(cat "$LOG/move$round.wall")" -v cw="$(cat "$LOG/cp$round.wall")" \
-        -v mc="$(cat "$LOG/move$round.cpu")" -v cc="$(cat "$LOG/cp$round.cpu")" \
-        'BEGIN {printf "round %d   wall %.2f   cpu %.2f\n", r, mw / cw, mc / cc}'
+median() { sort -g | awk '{v[NR] = $1} END {print (NR % 2 ? v[(NR + 1) / 2] : (v[NR / 2] + v[NR / 2 + 1]) / 2)}'; }
+# ratio A B KIND: per-round A/B of the wall or cpu times, then their median.
+ratio() {
+    for round in $(seq "$ROUNDS"); do
+        awk -v a="$(cat "$LOG/$1$round.$3")" -v b="$(cat "$LOG/$2$round.$3")" 'BEGIN {printf "%.3f\n", a / b}'
+    done | tee "$LOG/ratios" | tr '\n' ' '
+    printf '  median %.2f\n' "$(median <"$LOG/ratios")"
+}
+for kind in wall cpu; do
+    echo "== move / cp -a, $kind:           $(ratio move cp "$kind")"
+    echo "== move / cp -a + diff -r, $kind: $(ratio move cpcmp "$kind")"
 done

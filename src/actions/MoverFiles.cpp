@@ -26,52 +26,63 @@ bool lacksExclusiveRename(int error)
     return error == EINVAL || error == ENOTSUP || error == EOPNOTSUPP || error == ENOSYS;
 }
 
-bool rememberPlaced(const QString& path, std::vector<Placed>& placed)
+std::optional<FileKey> keyAt(int folder, const QByteArray& name)
 {
-    const std::optional<struct stat> info = FileStatus::of(path);
-    if (!info)
-        return false;
-    placed.push_back({path, info->st_dev, info->st_ino});
-    return true;
+    struct stat info {};
+    if (::fstatat(folder, name.constData(), &info, AT_SYMLINK_NOFOLLOW) != 0)
+        return std::nullopt;
+    return FileKey::of(info);
 }
 
 }  // namespace
 
-Placement place(const QString& from, const QString& to, std::vector<Placed>& placed)
+Placement place(int workFolder, int destinationFolder, const QByteArray& name, std::vector<Made>& placed)
 {
-    int error = Platform::renameNoReplace(from, to);
+    const std::optional<FileKey> copy = keyAt(workFolder, name);
+    if (!copy)
+        return Placement::failed;
+    int error = Platform::renameNoReplaceAt(workFolder, name.constData(), destinationFolder, name.constData());
     if (lacksExclusiveRename(error)) {
         // Not atomic: a name made between the check and the rename could be replaced. These
         // file systems offer nothing better.
-        if (FileStatus::exists(to))
+        if (keyAt(destinationFolder, name))
             return Placement::nameTaken;
-        error = ::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0 ? 0 : errno;
+        if (errno != ENOENT)
+            return Placement::failed;
+        error = ::renameat(workFolder, name.constData(), destinationFolder, name.constData()) == 0 ? 0 : errno;
     }
     if (error == EEXIST || error == ENOTEMPTY)
         return Placement::nameTaken;
-    if (error != 0 || !rememberPlaced(to, placed))
+    if (error != 0)
         return Placement::failed;
+    placed.push_back({name, *copy});
     return Placement::placed;
 }
 
-void removePlaced(const std::vector<Placed>& placed)
+bool removeMade(int folder, const Made& made)
 {
-    for (const Placed& copy : placed) {
-        const std::optional<struct stat> info = FileStatus::of(copy.path);
-        if (info && info->st_dev == copy.device && info->st_ino == copy.inode)
-            TreeRemoval::removeTree(copy.path);
+    // A tree that someone changes while it is removed (a folder swapped for a link, say) can keep
+    // a part through one pass; each pass removes what the last one left, and stops once the
+    // name no longer holds what the move made.
+    constexpr int passes = 16;
+    for (int pass = 0; pass < passes; ++pass) {
+        if (TreeRemoval::removeAt(folder, made.name, made.key))
+            return true;
+        if (keyAt(folder, made.name) != made.key)
+            return true;  // another object holds the name now; it is not ours to remove
     }
+    return false;
 }
 
-bool keepsExactTimes(const QString& folder)
+bool keepsExactTimes(int folder)
 {
     constexpr qint64 seconds = 1'000'000'001;
     constexpr long nanoseconds = 123'456'789;
     const struct timespec times[2] = {{0, UTIME_OMIT}, {seconds, nanoseconds}};
-    if (::utimensat(AT_FDCWD, QFile::encodeName(folder).constData(), times, AT_SYMLINK_NOFOLLOW) != 0)
+    struct stat info {};
+    if (::futimens(folder, times) != 0 || ::fstat(folder, &info) != 0)
         return false;
-    const std::optional<struct stat> info = FileStatus::of(folder);
-    return info && Platform::modificationNanoseconds(*info) == seconds * 1'000'000'000 + nanoseconds;
+    return Platform::modificationNanoseconds(info) == seconds * 1'000'000'000 + nanoseconds;
 }
 
 bool timesMatchCoarsely(const QString& original, const QString& copy)

@@ -1,35 +1,38 @@
 #pragma once
 
+#include "machinery/FileKey.h"
+
+#include <QByteArray>
 #include <QString>
 
-#include <sys/types.h>
 #include <vector>
 
-// The file operations of a move on the destination disk: placing a copy without replacing
-// anything, removing what the move made, and comparing times where the disk keeps them coarser.
-// Internal to the mover; thread-safe.
+// The file operations of a move on the destination disk, all relative to folders the move holds
+// open: placing a copy without replacing anything, removing what the move made, and comparing
+// times where the disk keeps them coarser. Internal to the mover; thread-safe.
 namespace Mover::Files {
 
-// A copy put in place by this move, with the identity that proves it is still ours.
-struct Placed {
-    QString path;
-    dev_t device = 0;
-    ino_t inode = 0;
+// An entry this move made in a folder it holds, with the identity that proves it is still ours.
+struct Made {
+    QByteArray name;
+    FileKey key;
 };
 
 enum class Placement { placed, nameTaken, failed };
 
-// Renames `from` to `to` only when nothing is at `to`: an exclusive rename, or, on file systems
-// without one (exFAT and FAT through FUSE, exFAT on macOS), a check that the name is free
-// followed by a plain rename. On success the copy is appended to `placed`.
-[[nodiscard]] Placement place(const QString& from, const QString& to, std::vector<Placed>& placed);
+// Renames `name` from `workFolder` to the same name in `destinationFolder` only when nothing is
+// there: an exclusive rename, or, on file systems without one (exFAT and FAT through FUSE, exFAT
+// on macOS), a check that the name is free followed by a plain rename. On success the copy is
+// appended to `placed`.
+[[nodiscard]] Placement place(int workFolder, int destinationFolder, const QByteArray& name, std::vector<Made>& placed);
 
-// Removes `placed` copies that are still the objects this move put there.
-void removePlaced(const std::vector<Placed>& placed);
+// Removes what this move made in `folder`, only while the name still holds that object. True when
+// nothing of it is left there.
+[[nodiscard]] bool removeMade(int folder, const Made& made);
 
-// Whether the file system holding `folder` keeps modification times to the nanosecond: the
-// folder's time is set to an odd value and read back.
-[[nodiscard]] bool keepsExactTimes(const QString& folder);
+// Whether the file system holding the open folder `folder` keeps modification times to the
+// nanosecond: the folder's time is set to an odd value and read back.
+[[nodiscard]] bool keepsExactTimes(int folder);
 
 // For disks that keep coarser times (FAT: 2 s, exFAT: 10 ms, HFS+: 1 s): every regular file of
 // `original` has a file of the same size at the same place in `copy`, modified within 2 s.

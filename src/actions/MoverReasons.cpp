@@ -86,6 +86,19 @@ QString copyMismatch(qint64 copyFiles, qint64 originalFiles)
         .arg(copyFiles).arg(originalFiles);
 }
 
+QString copyReadBackWrong()
+{
+    //: Move to Another Disk error: a copied file read back from the destination disk held other bytes than the original
+    return QCoreApplication::translate("Mover", "The copy on that disk couldn't be read back correctly, so it was removed. The original wasn't changed.");
+}
+
+QString changedAfterCheck(const QString& copy, const QStringList& placesInTrash)
+{
+    //: Move to Another Disk: the copy is in place and the original went to the Trash, but the original was changed after the copy was checked. %1 is where the copy is, %2 where the changed original is in the Trash (one or more paths)
+    return QCoreApplication::translate("Mover", "The copy is at %1, but the original changed after the copy was checked. Its newer content is in the Trash: %2")
+        .arg(copy, placesInTrash.join(QStringLiteral(", ")));
+}
+
 QString trashFailed(const QString& reason)
 {
     //: Move to Another Disk error: the verified copy is in place but the original stayed; %1 is the reason
@@ -96,6 +109,13 @@ QString stopped()
 {
     //: Move to Another Disk: the person pressed Stop or quit; everything copied was removed
     return QCoreApplication::translate("Mover", "Stopped. The original wasn't changed.");
+}
+
+QString partsLeft(const QString& reason, const QStringList& paths)
+{
+    //: Move to Another Disk error: after a failed move, part of the copy could not be removed from the destination. %1 is the sentence of the failure, %2 the path (or paths) still there
+    return QCoreApplication::translate("Mover", "%1 Part of the copy couldn't be removed and is still at %2.")
+        .arg(reason, paths.join(QStringLiteral(", ")));
 }
 
 }  // namespace Mover::Reasons

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 // The sentences a move ends with, in one place so the checks and every step word them alike.
 // Thread-safe (translation lookups only).
@@ -19,7 +20,10 @@ namespace Mover::Reasons {
 [[nodiscard]] QString copyFailed(const QString& toolMessage);
 [[nodiscard]] QString originalChanged();
 [[nodiscard]] QString copyMismatch(qint64 copyFiles, qint64 originalFiles);
+[[nodiscard]] QString copyReadBackWrong();
 [[nodiscard]] QString trashFailed(const QString& reason);
+[[nodiscard]] QString changedAfterCheck(const QString& copy, const QStringList& placesInTrash);
 [[nodiscard]] QString stopped();
+[[nodiscard]] QString partsLeft(const QString& reason, const QStringList& paths);
 
 }  // namespace Mover::Reasons

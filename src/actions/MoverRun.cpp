@@ -2,16 +2,19 @@
 
 #include "machinery/Fingerprint.h"
 #include "actions/MoverCopy.h"
+#include "actions/MoverReadBack.h"
 #include "actions/MoverReasons.h"
 #include "actions/Remover.h"
-#include "actions/TreeRemoval.h"
 #include "vocabulary/FileStatus.h"
+#include "vocabulary/RemovalReasons.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 
 #include <cerrno>
+#include <fcntl.h>
 #include <sys/stat.h>
 
 namespace Mover {
@@ -39,8 +42,11 @@ Run::Run(const CleanupItem& item, const QString& destination, const Progress& pr
 
 Outcome Run::perform()
 {
+    // The originals are looked at again after their bytes were read, so the bytes compared are
+    // the ones the stamps describe.
     const Step steps[] = {&Run::fingerprintOriginals, &Run::checkSpace, &Run::makeWorkFolder, &Run::copyAll,
-                          &Run::checkOriginalsUnchanged, &Run::verifyCopies, &Run::placeCopies};
+                          &Run::checkOriginalsUnchanged, &Run::verifyCopies, &Run::checkOriginalsUnchanged,
+                          &Run::placeCopies};
     for (const Step step : steps) {
         if (const std::optional<QString> failure = (this->*step)())
             return rollBack(*failure);
@@ -58,6 +64,9 @@ std::optional<QString> Run::fingerprintOriginals()
             return Reasons::stopped();
         if (stamp->unreadable > 0)
             return Reasons::unreadable();
+        // The Trash step goes by these stamps instead of the scan's, so they must agree.
+        if (target.tree && *target.tree != *stamp)
+            return RemovalReasons::changedSinceScan();
         m_stamps.append(*stamp);
         m_total += stamp->bytes;
     }
@@ -76,12 +85,24 @@ std::optional<QString> Run::checkSpace()
 
 std::optional<QString> Run::makeWorkFolder()
 {
-    if (::mkdir(QFile::encodeName(m_work).constData(), 0700) != 0) {
+    // The chosen folder may be reached through a link (a volume's alias), so it is followed, once.
+    m_destinationFolder.reset(::open(QFile::encodeName(m_destination).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!m_destinationFolder.isValid())
+        return Reasons::destinationUnavailable();
+    const QByteArray name = QFile::encodeName(workFolderName);
+    if (::mkdirat(m_destinationFolder.get(), name.constData(), 0700) != 0) {
         // Another move's folder (or an interrupted one's) is never reused or removed.
         return errno == EEXIST ? Reasons::leftoverWorkFolder() : Reasons::destinationNotWritable();
     }
-    m_madeWork = true;
-    m_exactTimes = Files::keepsExactTimes(m_work);
+    struct stat made {};
+    if (::fstatat(m_destinationFolder.get(), name.constData(), &made, AT_SYMLINK_NOFOLLOW) != 0)
+        return Reasons::destinationNotWritable();
+    m_madeWork = Files::Made{name, FileKey::of(made)};
+    m_workFolder.reset(::openat(m_destinationFolder.get(), name.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    struct stat opened {};
+    if (!m_workFolder.isValid() || ::fstat(m_workFolder.get(), &opened) != 0 || FileKey::of(opened) != m_madeWork->key)
+        return Reasons::destinationNotWritable();
+    m_exactTimes = Files::keepsExactTimes(m_workFolder.get());
     return std::nullopt;
 }
 
@@ -121,6 +142,16 @@ std::optional<QString> Run::verifyCopies()
             && (m_exactTimes || Files::timesMatchCoarsely(m_targets[i].path, copy));
         if (!same)
             return Reasons::copyMismatch(stamp->files, m_stamps[i].files);
+        switch (ReadBack::compare(m_targets[i].path, copy, m_environment.removal.cancellation)) {
+        case ReadBack::Verdict::same:
+            break;
+        case ReadBack::Verdict::copyDiffers:
+            return Reasons::copyReadBackWrong();
+        case ReadBack::Verdict::originalUnreadable:
+            return Reasons::unreadable();
+        case ReadBack::Verdict::stopped:
+            return Reasons::stopped();
+        }
     }
     return std::nullopt;
 }
@@ -128,7 +159,7 @@ std::optional<QString> Run::verifyCopies()
 std::optional<QString> Run::placeCopies()
 {
     for (const QString& name : m_names) {
-        switch (Files::place(inWork(name), QDir(m_destination).filePath(name), m_placed)) {
+        switch (Files::place(m_workFolder.get(), m_destinationFolder.get(), QFile::encodeName(name), m_placed)) {
         case Files::Placement::placed:
             break;
         case Files::Placement::nameTaken:
@@ -142,24 +173,78 @@ std::optional<QString> Run::placeCopies()
 
 Outcome Run::finish()
 {
-    TreeRemoval::removeTree(m_work);
-    m_madeWork = false;
+    // Empty by now; should it stay, it is the person's to see, and the copies are in place.
+    (void)Files::removeMade(m_destinationFolder.get(), *m_madeWork);
+    m_madeWork.reset();
     // Once the original's turn has come a stop no longer applies: the copy is complete and in
     // place, and a half-finished Trash move would help no one.
     RemovalEnvironment removal = m_environment.removal;
     removal.cancellation = nullptr;
-    const RemovalOutcome trashed = Remover::remove(m_item, removal);
+    QHash<QString, QString> placesInTrash;  // original path -> where it went
+    removal.trash = [trash = removal.trash, &placesInTrash](const TrashRequest& request) {
+        TrashResult result = trash(request);
+        if (result.pathInTrash)
+            placesInTrash.insert(request.path, *result.pathInTrash);
+        return result;
+    };
+    const RemovalOutcome trashed = Remover::remove(verifiedItem(), removal);
     if (!trashed.succeeded())
         return Outcome::failed(Reasons::trashFailed(trashed.reason));
+    const QStringList changed = changedInTrash(placesInTrash);
+    if (!changed.isEmpty())
+        return Outcome::changedLate(newLocation(), Reasons::changedAfterCheck(newLocation(), changed));
     return Outcome::moved(newLocation());
+}
+
+CleanupItem Run::verifiedItem() const
+{
+    // Every target, with or without a tree stamp of its scanner's, goes only as it was when its
+    // copy was checked.
+    CleanupItem verified = m_item;
+    QList<FileTarget> targets = m_targets;
+    for (qsizetype i = 0; i < targets.size(); ++i)
+        targets[i].tree = m_stamps[i];
+    verified.removal = Removal::trash(targets);
+    return verified;
+}
+
+QStringList Run::changedInTrash(const QHash<QString, QString>& placesInTrash) const
+{
+    // Between the remover's last look and its rename, the original could still change; what went
+    // to the Trash is compared once more. Its status-change times moved with the rename itself.
+    QStringList changed;
+    for (qsizetype i = 0; i < m_targets.size(); ++i) {
+        const auto place = placesInTrash.constFind(m_targets[i].path);
+        if (place == placesInTrash.cend())
+            continue;  // handed to Finder, which names no place
+        const std::optional<TreeStamp> now = Fingerprint::compute(*place);
+        if (!now || !sameTree(*now, m_stamps[i], true))
+            changed.append(*place);
+    }
+    return changed;
 }
 
 Outcome Run::rollBack(const QString& reason)
 {
-    Files::removePlaced(m_placed);
-    if (m_madeWork)
-        TreeRemoval::removeTree(m_work);
-    return Outcome::failed(isStopped() ? Reasons::stopped() : reason);
+    const QString why = isStopped() ? Reasons::stopped() : reason;
+    const QStringList left = removeWhatWasMade();
+    return Outcome::failed(left.isEmpty() ? why : Reasons::partsLeft(why, left));
+}
+
+// The copies placed so far and the work folder, each only while its name still holds what this
+// move made; the paths of those that stayed.
+QStringList Run::removeWhatWasMade()
+{
+    QStringList left;
+    for (const Files::Made& copy : m_placed) {
+        if (!Files::removeMade(m_destinationFolder.get(), copy))
+            left.append(QDir(m_destination).filePath(QFile::decodeName(copy.name)));
+    }
+    m_placed.clear();
+    if (m_madeWork && !Files::removeMade(m_destinationFolder.get(), *m_madeWork))
+        left.append(m_work);
+    m_madeWork.reset();
+    return left;
 }
 
 bool Run::isStopped() const

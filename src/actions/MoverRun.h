@@ -1,8 +1,10 @@
 #pragma once
 
+#include "actions/Descriptor.h"
 #include "actions/Mover.h"
 #include "actions/MoverFiles.h"
 
+#include <QHash>
 #include <QList>
 
 #include <vector>
@@ -29,7 +31,10 @@ private:
     std::optional<QString> verifyCopies();
     std::optional<QString> placeCopies();
     Outcome finish();
+    CleanupItem verifiedItem() const;
+    QStringList changedInTrash(const QHash<QString, QString>& placesInTrash) const;
     Outcome rollBack(const QString& reason);
+    QStringList removeWhatWasMade();
     bool isStopped() const;
     QString inWork(const QString& name) const;
     QString newLocation() const;
@@ -41,11 +46,14 @@ private:
     const Progress& m_progress;
     const Environment& m_environment;
     QString m_work;
-    bool m_madeWork = false;
+    // Held from the moment the move made or chose them; everything made is removed through these.
+    Descriptor m_destinationFolder;
+    Descriptor m_workFolder;
+    std::optional<Files::Made> m_madeWork;
     bool m_exactTimes = true;
     QList<TreeStamp> m_stamps;
     qint64 m_total = 0;
-    std::vector<Files::Placed> m_placed;
+    std::vector<Files::Made> m_placed;
 };
 
 }  // namespace Mover

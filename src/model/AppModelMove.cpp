@@ -35,7 +35,7 @@ void AppModel::finishMove(const Mover::Outcome& outcome)
     if (!m_move)
         return;
     m_move->setOutcome(outcome);
-    if (outcome.succeeded()) {
+    if (outcome.originalTrashed()) {
         removeFromResults(m_move->item());
         refreshSystemState();
         refreshTrash();

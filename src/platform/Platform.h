@@ -134,6 +134,12 @@ int renameNoReplaceAt(int fromFolder, const char* from, int toFolder, const char
 // then changes the entry by name without following a link. 0 on success, else the errno.
 int changeModeAt(int folder, const char* name, const struct stat& listed, mode_t mode);
 
+// Opens `name` inside the open folder `folder` (a final symbolic link is not followed) for
+// reading what the disk itself holds, not what the system still caches: the file's writes are
+// flushed first (fsync), then its cached pages are dropped (Linux: posix_fadvise DONTNEED) or
+// caching is turned off for its reads (macOS: F_NOCACHE). The descriptor, or -1 with errno set.
+int openReadingFromDisk(int folder, const char* name);
+
 // ---- The desktop ----
 
 // Asks the desktop's file manager to show `path` selected (org.freedesktop.FileManager1's

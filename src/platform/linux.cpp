@@ -358,6 +358,21 @@ int renameNoReplaceAt(int fromFolder, const char* from, int toFolder, const char
     return ::renameat2(fromFolder, from, toFolder, to, RENAME_NOREPLACE) == 0 ? 0 : errno;
 }
 
+int openReadingFromDisk(int folder, const char* name)
+{
+    const int fd = ::openat(folder, name, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0)
+        return -1;
+    // Only clean pages can be dropped, so the flush comes first.
+    const int advice = ::fsync(fd) == 0 ? ::posix_fadvise(fd, 0, 0, POSIX_FADV_DONTNEED) : errno;
+    if (advice != 0) {
+        ::close(fd);
+        errno = advice;
+        return -1;
+    }
+    return fd;
+}
+
 qint64 modificationNanoseconds(const struct stat& info)
 {
     return qint64(info.st_mtim.tv_sec) * 1'000'000'000 + info.st_mtim.tv_nsec;

@@ -323,6 +323,22 @@ int renameNoReplaceAt(int fromFolder, const char* from, int toFolder, const char
     return ::renameatx_np(fromFolder, from, toFolder, to, RENAME_EXCL) == 0 ? 0 : errno;
 }
 
+int openReadingFromDisk(int folder, const char* name)
+{
+    const int fd = ::openat(folder, name, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0)
+        return -1;
+    // F_FULLFSYNC asks the drive itself to write its cache out, where plain fsync stops at the
+    // drive; F_NOCACHE then keeps this descriptor's reads out of the unified buffer cache.
+    if ((::fcntl(fd, F_FULLFSYNC) != 0 && ::fsync(fd) != 0) || ::fcntl(fd, F_NOCACHE, 1) != 0) {
+        const int error = errno;
+        ::close(fd);
+        errno = error;
+        return -1;
+    }
+    return fd;
+}
+
 qint64 modificationNanoseconds(const struct stat& info)
 {
     return qint64(info.st_mtimespec.tv_sec) * 1'000'000'000 + info.st_mtimespec.tv_nsec;

@@ -2,6 +2,7 @@
 
 #include "format/RelativeDate.h"
 #include "machinery/Concurrency.h"
+#include "machinery/FileDigest.h"
 #include "machinery/FileSizer.h"
 #include "platform/Platform.h"
 #include "vocabulary/PathRules.h"
@@ -102,27 +103,6 @@ private:
 };
 
 using Buffer = std::vector<unsigned char>;
-
-// Feeds the bytes from `offset` up to `end` (or the end of the file, if sooner) into `hash`,
-// one chunk at a time; returns how many bytes it read, or absent on a read error.
-std::optional<qint64> feed(int fd, qint64 offset, qint64 end, EVP_MD_CTX* hash, Buffer& buffer)
-{
-    const qint64 start = offset;
-    while (offset < end) {
-        const size_t want = size_t(std::min<qint64>(end - offset, qint64(buffer.size())));
-        const ssize_t got = ::pread(fd, buffer.data(), want, off_t(offset));
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got < 0)
-            return std::nullopt;
-        if (got == 0)
-            break;
-        if (EVP_DigestUpdate(hash, buffer.data(), size_t(got)) != 1)
-            return std::nullopt;
-        offset += got;
-    }
-    return offset - start;
-}
 
 // ---- Comparing one size group ----
 
@@ -242,7 +222,7 @@ private:
     // Hashes the bytes from `from` to `to`; false when they cannot all be read.
     bool readExactly(int fd, qint64 from, qint64 to, const HashState& hash)
     {
-        const std::optional<qint64> read = feed(fd, from, to, hash.get(), m_buffer);
+        const std::optional<qint64> read = FileDigest::feed(fd, from, to, hash.get(), m_buffer.data(), m_buffer.size());
         if (!read)
             return false;
         m_stats.bytesRead += *read;
@@ -474,7 +454,7 @@ std::optional<QString> digest(const QString& path, std::optional<qint64> limit)
         return std::nullopt;
     Buffer buffer(size_t(std::clamp(limit.value_or(chunkLength), qint64(1), chunkLength)));
     const qint64 end = limit.value_or(std::numeric_limits<qint64>::max());
-    if (!feed(handle.fd(), 0, end, hash.get(), buffer))
+    if (!FileDigest::feed(handle.fd(), 0, end, hash.get(), buffer.data(), buffer.size()))
         return std::nullopt;
     return finishHash(hash);
 }

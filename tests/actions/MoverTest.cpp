@@ -142,7 +142,12 @@ INSTANTIATE_TEST_SUITE_P(Mover, MoverToolFault, ::testing::Values(
     ToolFault{"dropsAFile", "cp -a -T -- \"$1\" \"$2\" && rm \"$2/readme.md\"",
               "The copy didn't match the original (3 of 4 files). The original wasn't changed."},
     ToolFault{"truncatesAFile", "cp -a -T -- \"$1\" \"$2\" && truncate -s 10 \"$2/src/main.cpp\"",
-              "The copy didn't match the original (4 of 4 files). The original wasn't changed."}),
+              "The copy didn't match the original (4 of 4 files). The original wasn't changed."},
+    // What a failing disk does: other bytes under the same size and times.
+    ToolFault{"corruptsAByteKeepingSizeAndTime",
+              "cp -a -T -- \"$1\" \"$2\" && printf z | dd of=\"$2/src/main.cpp\" bs=1 seek=69999 conv=notrunc 2>/dev/null"
+              " && touch -r \"$1/src/main.cpp\" \"$2/src/main.cpp\"",
+              "The copy on that disk couldn't be read back correctly, so it was removed. The original wasn't changed."}),
     [](const ::testing::TestParamInfo<ToolFault>& info) { return std::string(info.param.name); });
 
 // A destination that keeps extended attributes (a tmpfs here, APFS on a Mac) gets them copied.

@@ -91,6 +91,36 @@ TEST_F(AppModelMove, OneMoveAtATimeHoldsScansAndLeavesTheResultsWhenDone)
     EXPECT_TRUE(waitUntil([&] { return model.hasScanned(); }));
 }
 
+// The original was edited between the remover's last look and its move to the Trash: the row
+// goes, as the original has left its place, but the outcome is the sentence, not a plain move.
+TEST_F(AppModelMove, AnOriginalEditedAtTheLastMomentLeavesTheResultsWithASentence)
+{
+    home.file(QStringLiteral("Videos/film.mov"), 4000);
+    const CleanupItem film = realRow(home, QStringLiteral("Videos/film.mov"));
+    ModelFixture fixture({}, home.root(), [&](AppModel::Services& services) {
+        services.moveItem = [&](const CleanupItem& item, const QString& destination, const Mover::Progress& progress,
+                                const CancellationToken& stop) {
+            Mover::Environment environment = Mover::Environment::current();
+            environment.removal.home = home.root();
+            environment.removal.otherVolumeFolders.clear();
+            environment.removal.cancellation = &stop;
+            environment.removal.trash = [&, trash = environment.removal.trash](const TrashRequest& request) {
+                home.file(QStringLiteral("Videos/film.mov"), 4001);
+                return trash(request);
+            };
+            return Mover::move(item, destination, progress, environment);
+        };
+    });
+    AppModel& model = fixture.model();
+    show(model, {film});
+
+    ASSERT_TRUE(model.startMove(film, disk.path()));
+    ASSERT_TRUE(waitUntil([&] { return ended(model); }));
+    const Mover::Outcome outcome = model.moveSession()->outcome().value_or(Mover::Outcome{});
+    EXPECT_EQ(outcome.kind, Mover::Outcome::Kind::changedLate) << qPrintable(outcome.reason);
+    EXPECT_TRUE(model.result(CategoryID::largeFiles).items.isEmpty());
+}
+
 TEST_F(AppModelMove, QuittingStopsTheMoveAndRemovesTheUnfinishedCopyFirst)
 {
     home.file(QStringLiteral("Backups/phone/Manifest.db"), 200'000);
