@@ -36,9 +36,11 @@ zcat "$root/usr/share/doc/dustlark/changelog.gz" | head -1 | grep -q "^dustlark 
 
 # --- Every library a program links comes from a package the .deb depends on.
 depends=$(dpkg-deb -f "$deb" Depends | tr ',' '\n' | sed 's/^ *//; s/[ (:].*//')
+multiarch=$(dpkg-architecture -qDEB_HOST_MULTIARCH)
 for program in dustlark dustlark-cli; do
     for library in $(objdump -p "$root/usr/bin/$program" | awk '$1 == "NEEDED" { print $2 }'); do
-        owner=$(dpkg -S "/$library" 2>/dev/null | awk -F': ' -v lib="$library" '$2 ~ "/" lib "$" { sub(/:.*/, "", $1); print $1; exit }')
+        owner=$( (dpkg -S "*/$multiarch/$library" 2>/dev/null || true) | awk -F': ' -v tail="/$multiarch/$library" \
+            'substr($2, length($2) - length(tail) + 1) == tail { sub(/:.*/, "", $1); print $1; exit }')
         if [ -z "$owner" ]; then fail "$program needs $library, which no installed package provides"
         elif ! grep -qx "$owner" <<<"$depends"; then fail "$program needs $library from $owner, missing in Depends: $(dpkg-deb -f "$deb" Depends)"; fi
     done
