@@ -84,7 +84,7 @@ HIDDEN
 # A private mount namespace: the hiding ends with it and touches nothing outside.
 unshare --mount --propagation private bash -c '
     mount -t tmpfs -o ro tmpfs "$1" && mount -t tmpfs -o ro tmpfs "$2" || exit 3
-    shift 2; exec bash "$@"' hide "$build_dir" "$source_dir" \
+    cd / && shift 2 && exec bash "$@"' hide "$build_dir" "$source_dir" \
     "$work/hidden.sh" "$root" "$work" "$version" "$home" "$exec_line" || fail "the installed programs failed (above)"
 
 # --- Removal leaves nothing of the package in the root.
