@@ -18,7 +18,7 @@ pids=()
 trap cleanup EXIT
 root=$work/root
 mkdir -p "$root/var/lib/dpkg/info" "$root/var/lib/dpkg/updates" && touch "$root/var/lib/dpkg/status"
-dpkg --root="$root" --force-depends --install "$deb" >/dev/null
+dpkg --root="$root" --force-depends --install "$deb" >"$work/dpkg.log" 2>&1
 
 export DISPLAY=:$((90 + RANDOM % 100))
 Xvfb "$DISPLAY" -screen 0 1400x900x24 -nolisten tcp >/dev/null 2>&1 & pids+=($!)
@@ -32,10 +32,17 @@ PATH="$root/usr/bin:$PATH" HOME=$work/home XDG_DATA_DIRS="$root/usr/share:/usr/s
     sh -c "exec $exec_line" >"$work/app.log" 2>&1 & pids+=($!)
 sleep 5
 # The client window, the one that carries WM_CLASS; Qt also makes a hidden helper window of that name.
-window=$(xwininfo -root -tree | awk '/"Dustlark": \("dustlark" "Dustlark"\)/ { print $1; exit }')
+window=$(xwininfo -root -tree | awk '/"Dustlark": \("dustlark" "Dustlark"\)/ && !found { print $1; found = 1 }')
 [ -n "$window" ] || { echo "No Dustlark window appeared:" >&2; cat "$work/app.log" >&2; exit 1; }
-echo "Window $window: $(xprop -id "$window" WM_CLASS); desktop entry: $(grep ^StartupWMClass "$entry")"
-xprop -id "$window" _NET_WM_ICON | head -c 80; echo
+# The launcher ties the window to its entry (and so to its icon) by the class part of WM_CLASS.
+class=$(xprop -id "$window" WM_CLASS | sed 's/.*, "\(.*\)"$/\1/')
+wanted=$(sed -n 's/^StartupWMClass=//p' "$entry")
+echo "Window $window has the class \"$class\"; the desktop entry says StartupWMClass=$wanted"
+[ "$class" = "$wanted" ] || { echo "The window's class does not match the desktop entry." >&2; exit 1; }
+xprop -id "$window" _NET_WM_ICON | sed -n 1p
 import -window root "$out"
-/usr/bin/convert "$out" -crop 160x24+0+0 +repage -filter point -resize 400% "$corner"
+# The window manager's title bar sits just above the window: its left end holds the icon.
+x=$(xwininfo -id "$window" | awk '/Absolute upper-left X/ { print $NF }')
+y=$(xwininfo -id "$window" | awk '/Absolute upper-left Y/ { print $NF }')
+/usr/bin/convert "$out" -crop "200x24+$((x - 4))+$((y - 24))" +repage -filter point -resize 400% "$corner"
 echo "Saved $out and $corner"

@@ -31,7 +31,7 @@ for png in "$root"/usr/share/icons/hicolor/*x*/apps/$id.png; do
     drawn=$(python3 -c 'import struct,sys; d=open(sys.argv[1],"rb").read(24); print("%dx%d" % struct.unpack(">II", d[16:24]))' "$png")
     [ "$drawn" = "$folder" ] || fail "the icon in $folder is $drawn pixels"
 done
-zcat "$root/usr/share/doc/dustlark/changelog.gz" | head -1 | grep -q "^dustlark ($version)" \
+[[ "$(zcat "$root/usr/share/doc/dustlark/changelog.gz" | sed -n 1p)" == "dustlark ($version) "* ]] \
     || fail "the changelog's latest entry is not version $version"
 
 # --- Every library a program links comes from a package the .deb depends on.
@@ -40,7 +40,7 @@ multiarch=$(dpkg-architecture -qDEB_HOST_MULTIARCH)
 for program in dustlark dustlark-cli; do
     for library in $(objdump -p "$root/usr/bin/$program" | awk '$1 == "NEEDED" { print $2 }'); do
         owner=$( (dpkg -S "*/$multiarch/$library" 2>/dev/null || true) | awk -F': ' -v tail="/$multiarch/$library" \
-            'substr($2, length($2) - length(tail) + 1) == tail { sub(/:.*/, "", $1); print $1; exit }')
+            'substr($2, length($2) - length(tail) + 1) == tail && !found { sub(/:.*/, "", $1); print $1; found = 1 }')
         if [ -z "$owner" ]; then fail "$program needs $library, which no installed package provides"
         elif ! grep -qx "$owner" <<<"$depends"; then fail "$program needs $library from $owner, missing in Depends: $(dpkg-deb -f "$deb" Depends)"; fi
     done
