@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # Installs what building and testing Dustlark needs, and nothing that is already there; with --fuzz,
-# also what scripts/fuzz.sh needs.
+# also what scripts/fuzz.sh needs. Further arguments name more Debian packages to install the same
+# way (scripts/package.sh's tools).
 set -euo pipefail
 
-DEBIAN_PACKAGES=(qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
+DEBIAN_PACKAGES=(qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
     libssl-dev libplist-dev libgtest-dev libgmock-dev cmake g++ git openssl pkg-config ccache xvfb xauth python3
     qt6-base-private-dev trash-cli exfatprogs exfat-fuse)  # trash-cli: the trash round trip; exFAT: a real exFAT disk for the mover tests
 # flatpak: the leftovers tests install and uninstall real Flatpak apps that the scan then reads
@@ -14,6 +15,7 @@ BREW_PACKAGES=(qt openssl@3 libplist googletest cmake pkg-config)
 if [ "${1:-}" = "--fuzz" ]; then  # scripts/fuzz.sh: clang with libFuzzer and the sanitizer runtimes
     DEBIAN_PACKAGES+=(clang libclang-rt-dev)
     BREW_PACKAGES+=(llvm)  # Apple's clang has no libFuzzer
+    shift
 fi
 
 as_root() {
@@ -28,7 +30,7 @@ if [ "$(uname -s)" = "Darwin" ]; then
 fi
 
 missing=()
-for p in "${DEBIAN_PACKAGES[@]}"; do
+for p in "${DEBIAN_PACKAGES[@]}" "$@"; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
 done
 if [ ${#missing[@]} -gt 0 ]; then

@@ -17,6 +17,8 @@ int main(int argc, char* argv[])
     QApplication::setApplicationName(QStringLiteral("Dustlark"));
     QApplication::setApplicationVersion(UpdateChecker::currentVersion());
     QApplication::setWindowIcon(AppIcon::icon());
+    // Wayland compositors match the window to its desktop entry, and so to its icon, by this name.
+    QGuiApplication::setDesktopFileName(QStringLiteral("app.dustlark.Dustlark"));
 
     // The native store: NSUserDefaults on macOS, an INI file under ~/.config on Linux. Only the
     // app's own domain is read: with fallbacks, macOS answers a key the app never set from the
