@@ -497,14 +497,14 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <translation>das Release hat keine Image-Datei auf der Website des Herstellers</translation>
     </message>
     <message>
-        <source>The update is installed, but it couldn&apos;t be started. Open Dustlark again.</source>
-        <extracomment>Shown when the update is in place but macOS couldn&apos;t start the new copy</extracomment>
-        <translation>Das Update ist installiert, konnte aber nicht gestartet werden. Öffne Dustlark erneut.</translation>
-    </message>
-    <message>
         <source>The other copies are gone, so this is the last one. It was kept.</source>
         <extracomment>Why a duplicate was not removed: the other copies were moved or changed outside Dustlark</extracomment>
         <translation>Die anderen Kopien sind weg, das hier ist also die letzte. Sie wurde behalten.</translation>
+    </message>
+    <message>
+        <source>The update is installed, but Dustlark couldn&apos;t ask macOS to open it. Open Dustlark again.</source>
+        <extracomment>Shown when the update is in place but Dustlark couldn&apos;t ask macOS to open the new copy</extracomment>
+        <translation>Das Update ist installiert, aber Dustlark konnte macOS nicht bitten, es zu öffnen. Öffne Dustlark erneut.</translation>
     </message>
 </context>
 <context>
@@ -1329,6 +1329,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <extracomment>Inside &quot;Couldn&apos;t install the update (...)&quot; when the downloaded disk image holds no app</extracomment>
         <translation>das Image enthält keine App</translation>
     </message>
+    <message>
+        <source>its disk image asks to accept a licence agreement; download it from the website instead</source>
+        <extracomment>Inside &quot;Couldn&apos;t install the update (...)&quot; when the downloaded disk image asks to accept a licence first</extracomment>
+        <translation>sein Festplattenimage verlangt, eine Lizenzvereinbarung zu akzeptieren; lade es stattdessen von der Website</translation>
+    </message>
 </context>
 <context>
     <name>InstallersScanner</name>
@@ -2112,6 +2117,21 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <source>Stopped. The original wasn&apos;t changed.</source>
         <extracomment>Move to Another Disk: the person pressed Stop or quit; everything copied was removed</extracomment>
         <translation>Gestoppt. Das Original wurde nicht geändert.</translation>
+    </message>
+    <message>
+        <source>The copy on that disk couldn&apos;t be read back correctly, so it was removed. The original wasn&apos;t changed.</source>
+        <extracomment>Move to Another Disk error: a copied file read back from the destination disk held other bytes than the original</extracomment>
+        <translation>Die Kopie auf diesem Laufwerk ließ sich nicht fehlerfrei zurücklesen und wurde deshalb entfernt. Das Original wurde nicht geändert.</translation>
+    </message>
+    <message>
+        <source>The copy is at %1, but the original changed after the copy was checked. Its newer content is in the Trash: %2</source>
+        <extracomment>Move to Another Disk: the copy is in place and the original went to the Trash, but the original was changed after the copy was checked. %1 is where the copy is, %2 where the changed original is in the Trash (one or more paths)</extracomment>
+        <translation>Die Kopie liegt unter %1, aber das Original wurde geändert, nachdem die Kopie geprüft war. Sein neuerer Inhalt liegt im Papierkorb: %2</translation>
+    </message>
+    <message>
+        <source>%1 Part of the copy couldn&apos;t be removed and is still at %2.</source>
+        <extracomment>Move to Another Disk error: after a failed move, part of the copy could not be removed from the destination. %1 is the sentence of the failure, %2 the path (or paths) still there</extracomment>
+        <translation>%1 Ein Teil der Kopie konnte nicht entfernt werden und liegt noch unter %2.</translation>
     </message>
 </context>
 <context>
@@ -3102,6 +3122,21 @@ Column heading of the storage drill-down: its size</extracomment>
         <source>Finder couldn&apos;t be asked to empty the Trash: %1</source>
         <extracomment>Empty Trash error when osascript can&apos;t be started. The placeholder is the system&apos;s reason.</extracomment>
         <translation>Der Finder konnte nicht gebeten werden, den Papierkorb zu entleeren: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was removed: %1 is a symbolic link, not the Trash&apos;s own folder.</source>
+        <extracomment>Why Empty Trash removed nothing; %1 is a folder of the Trash (or above it) that is a symbolic link</extracomment>
+        <translation>Es wurde nichts entfernt: %1 ist ein symbolischer Link, nicht der eigene Ordner des Papierkorbs.</translation>
+    </message>
+    <message>
+        <source>Nothing was removed: %1 lies on another disk than the Trash.</source>
+        <extracomment>Why Empty Trash removed nothing; %1 is a folder of the Trash that another disk is mounted on</extracomment>
+        <translation>Es wurde nichts entfernt: %1 liegt auf einem anderen Laufwerk als der Papierkorb.</translation>
+    </message>
+    <message>
+        <source>Nothing was removed: %1 can&apos;t be opened. %2</source>
+        <extracomment>Why Empty Trash removed nothing; %1 is a folder of the Trash, %2 the system&apos;s reason (a sentence)</extracomment>
+        <translation>Es wurde nichts entfernt: %1 lässt sich nicht öffnen. %2</translation>
     </message>
 </context>
 <context>

@@ -497,13 +497,13 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The update is installed, but it couldn&apos;t be started. Open Dustlark again.</source>
-        <extracomment>Shown when the update is in place but macOS couldn&apos;t start the new copy</extracomment>
+        <source>The other copies are gone, so this is the last one. It was kept.</source>
+        <extracomment>Why a duplicate was not removed: the other copies were moved or changed outside Dustlark</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The other copies are gone, so this is the last one. It was kept.</source>
-        <extracomment>Why a duplicate was not removed: the other copies were moved or changed outside Dustlark</extracomment>
+        <source>The update is installed, but Dustlark couldn&apos;t ask macOS to open it. Open Dustlark again.</source>
+        <extracomment>Shown when the update is in place but Dustlark couldn&apos;t ask macOS to open the new copy</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1329,6 +1329,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <extracomment>Inside &quot;Couldn&apos;t install the update (...)&quot; when the downloaded disk image holds no app</extracomment>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>its disk image asks to accept a licence agreement; download it from the website instead</source>
+        <extracomment>Inside &quot;Couldn&apos;t install the update (...)&quot; when the downloaded disk image asks to accept a licence first</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>InstallersScanner</name>
@@ -2111,6 +2116,21 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     <message>
         <source>Stopped. The original wasn&apos;t changed.</source>
         <extracomment>Move to Another Disk: the person pressed Stop or quit; everything copied was removed</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The copy on that disk couldn&apos;t be read back correctly, so it was removed. The original wasn&apos;t changed.</source>
+        <extracomment>Move to Another Disk error: a copied file read back from the destination disk held other bytes than the original</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The copy is at %1, but the original changed after the copy was checked. Its newer content is in the Trash: %2</source>
+        <extracomment>Move to Another Disk: the copy is in place and the original went to the Trash, but the original was changed after the copy was checked. %1 is where the copy is, %2 where the changed original is in the Trash (one or more paths)</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Part of the copy couldn&apos;t be removed and is still at %2.</source>
+        <extracomment>Move to Another Disk error: after a failed move, part of the copy could not be removed from the destination. %1 is the sentence of the failure, %2 the path (or paths) still there</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3101,6 +3121,21 @@ Column heading of the storage drill-down: its size</extracomment>
     <message>
         <source>Finder couldn&apos;t be asked to empty the Trash: %1</source>
         <extracomment>Empty Trash error when osascript can&apos;t be started. The placeholder is the system&apos;s reason.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was removed: %1 is a symbolic link, not the Trash&apos;s own folder.</source>
+        <extracomment>Why Empty Trash removed nothing; %1 is a folder of the Trash (or above it) that is a symbolic link</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was removed: %1 lies on another disk than the Trash.</source>
+        <extracomment>Why Empty Trash removed nothing; %1 is a folder of the Trash that another disk is mounted on</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was removed: %1 can&apos;t be opened. %2</source>
+        <extracomment>Why Empty Trash removed nothing; %1 is a folder of the Trash, %2 the system&apos;s reason (a sentence)</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
