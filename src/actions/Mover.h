@@ -31,8 +31,8 @@ inline const QString workFolderName = QStringLiteral("Dustlark unfinished move")
 
 // Moves `item` (only Trash removals) into `destination`. Stopping is
 // `environment.removal.cancellation`; it is honoured until the original goes to the Trash.
-[[nodiscard]] Outcome move(const CleanupItem& item, const QString& destination, const Progress& progress = {},
-                           const Environment& environment = Environment::current());
+[[nodiscard]] Outcome move(const CleanupItem& item, const QString& destination, const Progress& progress,
+                           const Environment& environment);
 
 // The summary of the tree at `path` that the copy is compared by; absent when stopped.
 [[nodiscard]] std::optional<TreeStamp> fingerprint(const QString& path, const CancellationToken* stoppable);

@@ -13,8 +13,10 @@
 #include <optional>
 
 // Everything outside the process that a removal consults or changes, gathered so tests can
-// replace each piece. current() is the real system; a default-constructed one has the real
-// clock, process list and Trash but no home folder, so it allows nothing. A plain value.
+// replace each piece. system() is the real system; a default-constructed one has the real
+// clock, process list and Trash but no home folder, so it allows nothing. A plain value: a
+// cleanup or a move takes it when prepared, so what it allows is what the person's settings
+// said then, whichever thread removes.
 struct RemovalEnvironment {
     QString home;                    // no trailing "/"
     QStringList otherVolumeFolders;  // scan folders on another disk than the home, decided when prepared
@@ -26,9 +28,9 @@ struct RemovalEnvironment {
     std::optional<QString> dockerHostVariable;  // DOCKER_HOST, when set and not empty
     const CancellationToken* cancellation = nullptr;  // may be null; stops long walks and tools
 
-    // The person's home folder, the published scan folders, the system clock, the running
-    // programs, the system Trash and the tools in their standard places.
-    [[nodiscard]] static RemovalEnvironment current();
+    // The real system for `home`: of `scanFolders` those on another disk than the home, the
+    // system clock, the running programs, the system Trash and the tools in their standard places.
+    [[nodiscard]] static RemovalEnvironment system(const QString& home, const QStringList& scanFolders);
 
     static QDateTime systemNow();
     static QStringList systemRunningExecutables();

@@ -20,15 +20,15 @@ using Outcome = RemovalOutcome;
 
 // Moved to the Trash, removed by its tool, or failed with one sentence. Never throws; a
 // locked item is refused with its lock reason.
-[[nodiscard]] Outcome remove(const CleanupItem& item, const RemovalEnvironment& environment = RemovalEnvironment::current());
+[[nodiscard]] Outcome remove(const CleanupItem& item, const RemovalEnvironment& environment);
 
 // Nothing when the target may be moved to the Trash now, otherwise the reason. Also used by
 // the mover before it trashes an original.
 [[nodiscard]] std::optional<QString> problem(const FileTarget& target,
-                                             const RemovalEnvironment& environment = RemovalEnvironment::current());
+                                             const RemovalEnvironment& environment);
 
 // Checks every target, then moves each to the Trash.
 [[nodiscard]] Outcome moveToTrash(const QList<FileTarget>& targets,
-                                  const RemovalEnvironment& environment = RemovalEnvironment::current());
+                                  const RemovalEnvironment& environment);
 
 }  // namespace Remover

@@ -9,8 +9,6 @@
 #include "model/StorageTask.h"
 #include "platform/Platform.h"
 #include "scan/ScannerCatalog.h"
-#include "vocabulary/SharedScanFolders.h"
-#include "vocabulary/SystemPlaces.h"
 
 #include <QCoreApplication>
 #include <QPointer>
@@ -31,12 +29,12 @@ AppModel::Services AppModel::defaultServices()
         return state;
     };
     services.now = [] { return QDateTime::currentDateTimeUtc(); };
-    services.removeItem = [](const CleanupItem& item) { return Remover::remove(item); };
+    services.removeItem = [](const CleanupItem& item, const RemovalEnvironment& environment) {
+        return Remover::remove(item, environment);
+    };
     services.emptyTrash = [] { return SystemAccess::emptyTrash(); };
     services.moveItem = [](const CleanupItem& item, const QString& destination, const Mover::Progress& progress,
-                           const CancellationToken& stop) {
-        Mover::Environment environment = Mover::Environment::current();
-        environment.removal.cancellation = &stop;
+                           const Mover::Environment& environment) {
         return Mover::move(item, destination, progress, environment);
     };
     services.measureTrash = [](const QString& home) -> std::optional<qint64> {

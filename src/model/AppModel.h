@@ -46,8 +46,9 @@ public:
         std::function<std::vector<std::shared_ptr<const Scanner>>()> scanners;
         std::function<SystemState(const QString& home)> readSystemState;  // runs on a worker
         std::function<QDateTime()> now;
-        // Removes one item for good or to the Trash; runs on the cleanup's worker thread.
-        std::function<CleanupSession::Outcome(const CleanupItem&)> removeItem;
+        // Removes one item for good or to the Trash in the environment the cleanup was prepared
+        // with; runs on the cleanup's worker thread.
+        std::function<CleanupSession::Outcome(const CleanupItem&, const RemovalEnvironment&)> removeItem;
         // Empties the Trash; the message to show when it failed. Runs on a worker thread.
         std::function<std::optional<QString>()> emptyTrash;
         // Bytes in the Trash now; absent when it can't be measured. Runs on a worker thread.
@@ -58,7 +59,7 @@ public:
         std::function<std::optional<qint64>(const QString& home)> diskUsed;
         // Moves one item to another disk; runs on the move's worker thread.
         std::function<Mover::Outcome(const CleanupItem&, const QString& destination, const Mover::Progress&,
-                                     const CancellationToken& stop)> moveItem;
+                                     const Mover::Environment&)> moveItem;
         // Where the update check asks; tests point it at a local server.
         UpdateSite updateSite;
         // The running ".app" folder an update replaces; empty where the app is no bundle.
@@ -129,7 +130,9 @@ public:
     void addToSafeList(const CleanupItem& item);
     void removeSafeItemsFromResults();
     void removeFromSafeList(const QString& id);
-    void shareScanFolders() const;
+    // A folder added on the Safe List screen: what it holds leaves the lists at once.
+    void addSafeFolder(const QString& path);
+    void removeSafeFolder(const QString& path);
     const QString& toast() const { return m_toast; }
     void showToast(const QString& text);
 

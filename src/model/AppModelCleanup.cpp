@@ -61,8 +61,7 @@ void AppModel::prepareCleanup()
         if (!index.covering(i))
             items.append(selected[i]);
     }
-    shareScanFolders();
-    m_cleanup = std::make_unique<CleanupSession>(items);
+    m_cleanup = std::make_unique<CleanupSession>(items, RemovalEnvironment::system(m_settings->home(), m_settings->scanRoots()));
     emit cleanupChanged();
 }
 
@@ -103,7 +102,8 @@ bool AppModel::removeOne(CleanupSession* session, const CleanupItem& item, const
 {
     QMetaObject::invokeMethod(this, [session, title = item.title] { session->setCurrent(title); }, Qt::QueuedConnection);
     const std::optional<QString> kept = lastCopyReason(item, copies);
-    const CleanupSession::Outcome outcome = kept ? CleanupSession::Outcome::failed(*kept) : m_services.removeItem(item);
+    const CleanupSession::Outcome outcome = kept ? CleanupSession::Outcome::failed(*kept)
+                                                 : m_services.removeItem(item, session->environment());
     QMetaObject::invokeMethod(this, [this, session, item, outcome] {
         session->record(item, outcome);
         if (outcome.succeeded())

@@ -1,6 +1,7 @@
 // The move to another disk of AppModel: one move at a time on a worker thread of its own, whose
 // progress and outcome come back to the GUI thread through queued calls.
 #include "model/AppModel.h"
+#include "model/SettingsStore.h"
 
 #include <QCoreApplication>
 #include <QPointer>
@@ -11,7 +12,7 @@ bool AppModel::startMove(const CleanupItem& item, const QString& destination)
     if (isBusyScanning() || m_cleanup || m_move || !item.canMoveToAnotherDisk())
         return false;
     joinMoveThread();
-    shareScanFolders();
+    Mover::Environment environment = Mover::Environment::system(m_settings->home(), m_settings->scanRoots());
     m_move = std::make_unique<MoveSession>(item, destination);
     QPointer<MoveSession> session(m_move.get());
     const Mover::Progress progress = [this, session](qint64 copied, qint64 total) {
@@ -21,8 +22,10 @@ bool AppModel::startMove(const CleanupItem& item, const QString& destination)
         }, Qt::QueuedConnection);
     };
     // The worker never waits for the GUI thread, so stopping and joining it can't deadlock.
-    m_moveThread = std::thread([this, item, destination, progress, stop = m_move->stopToken(), move = m_services.moveItem] {
-        const Mover::Outcome outcome = move(item, destination, progress, stop);
+    m_moveThread = std::thread([this, item, destination, progress, environment, stop = m_move->stopToken(),
+                                move = m_services.moveItem]() mutable {
+        environment.removal.cancellation = &stop;
+        const Mover::Outcome outcome = move(item, destination, progress, environment);
         QMetaObject::invokeMethod(this, [this, outcome] { finishMove(outcome); }, Qt::QueuedConnection);
     });
     emit moveChanged();

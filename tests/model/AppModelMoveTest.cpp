@@ -4,7 +4,6 @@
 #include "support/RealMover.h"
 #include "support/TempTree.h"
 #include "support/Wait.h"
-#include "vocabulary/SharedScanFolders.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -55,7 +54,7 @@ TEST_F(AppModelMove, OneMoveAtATimeHoldsScansAndLeavesTheResultsWhenDone)
     home.file(QStringLiteral("Videos/film.mov"), 400'000);
     const CleanupItem film = realRow(home, QStringLiteral("Videos/film.mov"));
     const CleanupItem other = realRow(home, QStringLiteral("Videos"));
-    ModelFixture fixture({}, home.root(), [&](AppModel::Services& services) { useRealMover(services, home.root()); });
+    ModelFixture fixture({}, home.root());
     AppModel& model = fixture.model();
     fixture.settings().addRoot(QStringLiteral("/Volumes/Archive/Projects"));
     show(model, {film, other});
@@ -66,7 +65,6 @@ TEST_F(AppModelMove, OneMoveAtATimeHoldsScansAndLeavesTheResultsWhenDone)
 
     ASSERT_TRUE(model.startMove(film, disk.path()));
     EXPECT_TRUE(model.isChangingFiles());
-    EXPECT_EQ(SharedScanFolders::current(), QStringList{QStringLiteral("/Volumes/Archive/Projects")});
     EXPECT_FALSE(model.startMove(other, disk.path())) << "a second move while one is open";
     model.startScan();
     model.rescan(CategoryID::largeFiles);
@@ -96,7 +94,7 @@ TEST_F(AppModelMove, QuittingStopsTheMoveAndRemovesTheUnfinishedCopyFirst)
     home.file(QStringLiteral("Backups/phone/Manifest.db"), 200'000);
     const CleanupItem backup = realRow(home, QStringLiteral("Backups/phone"));
     ModelFixture fixture({}, home.root(), [&](AppModel::Services& services) {
-        useRealMover(services, home.root(), stallingCopyTool());
+        useCopyTool(services, stallingCopyTool());
     });
     AppModel& model = fixture.model();
     show(model, {backup});

@@ -136,7 +136,7 @@ TEST(CleanupSheet, FailuresAreListedWithTheirReasons)
     const CleanupItem kept = fixture.addFile(CategoryID::logs, "Library/Logs/keep.log");
     const CleanupItem gone = fixture.addFile(CategoryID::logs, "Library/Logs/gone.log");
     fixture.start({scannerOf(CategoryID::logs, {kept, gone})}, [](AppModel::Services& services) {
-        services.removeItem = [](const CleanupItem& item) {
+        services.removeItem = [](const CleanupItem& item, const RemovalEnvironment&) {
             if (item.title == "keep.log")
                 return CleanupSession::Outcome::failed("It changed since the scan. Scan again.");
             return WindowFixture::moveToTrash(item);
@@ -162,7 +162,7 @@ TEST(CleanupSheet, QuittingWhileCleaningAsksThenStopsAfterTheCurrentItem)
     auto entered = std::make_shared<std::atomic<bool>>(false);
     auto release = std::make_shared<std::atomic<bool>>(false);
     fixture.start({scannerOf(CategoryID::temporary, {one, two})}, [=](AppModel::Services& services) {
-        services.removeItem = [=](const CleanupItem& item) {
+        services.removeItem = [=](const CleanupItem& item, const RemovalEnvironment&) {
             *entered = true;
             while (!*release)
                 QThread::msleep(2);

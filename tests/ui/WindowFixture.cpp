@@ -130,7 +130,7 @@ void WindowFixture::emptyTrashFolder()
     QDir().mkpath(trash + QStringLiteral("/info"));
 }
 
-CleanupSession::Outcome WindowFixture::moveToTrash(const CleanupItem& item)
+CleanupSession::Outcome WindowFixture::moveToTrash(const CleanupItem& item, const RemovalEnvironment&)
 {
     for (const QString& path : item.removal.paths()) {
         QString inTrash;
