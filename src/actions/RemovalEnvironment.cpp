@@ -13,7 +13,6 @@ RemovalEnvironment RemovalEnvironment::system(const QString& home, const QString
     environment.home = QDir::cleanPath(home);
     environment.otherVolumeFolders = AllowedPlace::otherVolumeFolders(scanFolders, environment.home);
     environment.tools = ToolLocations::standard(environment.home);
-    environment.dockerScan = DockerScanRecord::last();
     environment.dockerHostVariable = DockerEndpoint::hostVariable();
     return environment;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "machinery/DockerScanRecord.h"
 #include "actions/TrashOperation.h"
 #include "machinery/CancellationToken.h"
 #include "machinery/ToolLocations.h"
@@ -24,7 +23,6 @@ struct RemovalEnvironment {
     std::function<QStringList()> runningExecutables = &systemRunningExecutables;
     TrashOperation trash = &systemTrash;
     ToolLocations tools;
-    std::optional<DockerScanRecord> dockerScan;
     std::optional<QString> dockerHostVariable;  // DOCKER_HOST, when set and not empty
     const CancellationToken* cancellation = nullptr;  // may be null; stops long walks and tools
 
