@@ -1,5 +1,6 @@
 #pragma once
 
+#include "actions/MovedTargets.h"
 #include "actions/TrashOperation.h"
 #include "machinery/CancellationToken.h"
 #include "machinery/ToolLocations.h"
@@ -9,6 +10,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 // Everything outside the process that a removal consults or changes, gathered so tests can
@@ -25,6 +27,8 @@ struct RemovalEnvironment {
     ToolLocations tools;
     std::optional<QString> dockerHostVariable;  // DOCKER_HOST, when set and not empty
     const CancellationToken* cancellation = nullptr;  // may be null; stops long walks and tools
+    // What this cleanup or move has sent to the Trash so far; copies of the environment share it.
+    std::shared_ptr<MovedTargets> movedTargets = std::make_shared<MovedTargets>();
 
     // The real system for `home`: of `scanFolders` those on another disk than the home, the
     // system clock, the running programs, the system Trash and the tools in their standard places.

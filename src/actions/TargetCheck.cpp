@@ -1,6 +1,5 @@
 #include "actions/TargetCheck.h"
 
-#include "actions/MovedTargets.h"
 #include "actions/SecurePath.h"
 #include "machinery/Fingerprint.h"
 #include "platform/Platform.h"
@@ -33,11 +32,11 @@ bool isSameObject(const FileTarget& target, qint32 device, quint64 inode)
     return target.device == device && target.inode == inode;
 }
 
-std::optional<QString> vanishedProblem(const FileTarget& target, int error)
+std::optional<QString> vanishedProblem(const FileTarget& target, int error, const RemovalEnvironment& environment)
 {
     if (error != ENOENT && error != ENOTDIR)
         return RemovalReasons::folderUnreadable();
-    if (MovedTargets::contains(target))
+    if (environment.movedTargets->contains(target))
         return std::nullopt;  // it went to the Trash with an earlier item
     return RemovalReasons::noLongerExists();
 }
@@ -119,7 +118,7 @@ std::optional<QString> problem(const FileTarget& target, const RemovalEnvironmen
         return RemovalReasons::outsideHome();
     struct stat info {};
     if (::lstat(QFile::encodeName(target.path).constData(), &info) != 0)
-        return vanishedProblem(target, errno);
+        return vanishedProblem(target, errno, environment);
     if (auto found = objectProblem(target, info, environment.cancellation))
         return found;
     if (auto found = parentProblem(target))

@@ -2,7 +2,6 @@
 
 #include "actions/Descriptor.h"
 #include "actions/FinderTrash.h"
-#include "actions/MovedTargets.h"
 #include "actions/OwnerWrite.h"
 #include "actions/SecurePath.h"
 #include "actions/TargetCheck.h"
@@ -91,7 +90,7 @@ std::optional<QString> trashRefused(const FileTarget& target, const TrashResult&
         return RemovalReasons::trashFailed(result.error);
     auto finderProblem = FinderTrash::moveToTrash(target.path, environment.tools.osascript, environment.cancellation);
     if (!finderProblem)
-        MovedTargets::record(target);
+        environment.movedTargets->record(target);
     return finderProblem;
 }
 
@@ -104,7 +103,7 @@ TrashRequest requestFor(const FileTarget& target, const SecurePath::OpenedParent
 
 std::optional<QString> moveOne(const FileTarget& target, const RemovalEnvironment& environment)
 {
-    if (!FileStatus::exists(target.path) && MovedTargets::contains(target))
+    if (!FileStatus::exists(target.path) && environment.movedTargets->contains(target))
         return std::nullopt;
     const SecurePath::OpenedParent parent = SecurePath::openParent(target.path);
     if (auto problem = lastLookProblem(target, parent))
@@ -116,7 +115,7 @@ std::optional<QString> moveOne(const FileTarget& target, const RemovalEnvironmen
     const TrashResult result = environment.trash(requestFor(target, parent));
     if (!result.moved())
         return trashRefused(target, result, environment);
-    MovedTargets::record(target);
+    environment.movedTargets->record(target);
     return std::nullopt;
 }
 
