@@ -72,16 +72,6 @@ int writeInfo(int infoFolder, const QByteArray& infoName, const QByteArray& text
     return error;
 }
 
-bool isRequested(int folder, const QByteArray& name, const TrashRequest& request)
-{
-    struct stat info {};
-    if (::fstatat(folder, name.constData(), &info, AT_SYMLINK_NOFOLLOW) != 0)
-        return false;
-    if (qint32(info.st_dev) != request.device || quint64(info.st_ino) != request.inode)
-        return false;
-    return !request.birth || Platform::birthNanosecondsAt(folder, name.constData()) == request.birth;
-}
-
 // The object was replaced between the last check and the rename: return the one that came
 // where it was, never over anything. If that fails it stays in the Trash with its info file,
 // where a file manager can restore it.
@@ -114,7 +104,7 @@ Attempt moveInto(const TrashFolder& trash, const TrashRequest& request)
         if (infoError != 0)
             return {failure(infoError)};
         const int error = Platform::renameNoReplaceAt(request.folder, request.name.constData(), trash.files.get(), name.constData());
-        if (error == 0 && !isRequested(trash.files.get(), name, request))
+        if (error == 0 && !request.object.isObjectAt(trash.files.get(), name.constData()))
             return {putBack(trash, name, infoName, request)};
         if (error == 0)
             return {{trash.filesPath + QLatin1Char('/') + QFile::decodeName(name), QString(), false, false}};

@@ -24,15 +24,6 @@ bool sameObject(int a, int b)
         && first.st_ino == second.st_ino;
 }
 
-bool isRequested(int folder, const QByteArray& name, const TrashRequest& request)
-{
-    struct stat info {};
-    if (::fstatat(folder, name.constData(), &info, AT_SYMLINK_NOFOLLOW) != 0)
-        return false;
-    return qint32(info.st_dev) == request.device && quint64(info.st_ino) == request.inode
-        && (!request.birth || Platform::birthNanosecondsAt(folder, name.constData()) == request.birth);
-}
-
 Descriptor openFolderByPath(const QString& path)
 {
     return Descriptor(::open(QFile::encodeName(QFileInfo(path).path()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -61,7 +52,8 @@ const TrashResult anotherObject{std::nullopt, QString(), false, true};
 TrashResult moveThroughFileManager(const TrashRequest& request)
 {
     const Descriptor resolved = openFolderByPath(request.path);
-    if (!resolved.isValid() || !sameObject(resolved.get(), request.folder) || !isRequested(request.folder, request.name, request))
+    if (!resolved.isValid() || !sameObject(resolved.get(), request.folder)
+        || !request.object.isObjectAt(request.folder, request.name.constData()))
         return anotherObject;
     QFile file(request.path);
     if (!file.moveToTrash())
@@ -69,7 +61,7 @@ TrashResult moveThroughFileManager(const TrashRequest& request)
     const QString landed = file.fileName();  // Qt renames the QFile to its place in the Trash
     const Descriptor trash = openFolderByPath(landed);
     const QByteArray landedName = QFile::encodeName(QFileInfo(landed).fileName());
-    if (trash.isValid() && isRequested(trash.get(), landedName, request))
+    if (trash.isValid() && request.object.isObjectAt(trash.get(), landedName.constData()))
         return {landed, QString(), false, false};
     const Descriptor nowResolved = openFolderByPath(request.path);
     if (trash.isValid() && nowResolved.isValid() && sameObject(nowResolved.get(), resolved.get()))

@@ -47,9 +47,7 @@ std::optional<QString> objectProblem(const FileTarget& target, const struct stat
 {
     if (S_ISLNK(info.st_mode))
         return RemovalReasons::symbolicLink();
-    if (!isSameObject(target, qint32(info.st_dev), quint64(info.st_ino)))
-        return RemovalReasons::changedSinceScan();
-    if (target.birth && Platform::birthNanosecondsAt(AT_FDCWD, QFile::encodeName(target.path).constData()) != target.birth)
+    if (!target.isObject(AT_FDCWD, QFile::encodeName(target.path).constData(), info))
         return RemovalReasons::changedSinceScan();
     if (target.content && !hasSameContent(*target.content, info))
         return RemovalReasons::changedSinceScan();
