@@ -1,6 +1,6 @@
 #include "actions/OwnerWrite.h"
 
-#include "actions/Descriptor.h"
+#include "machinery/Descriptor.h"
 
 #include <QFile>
 

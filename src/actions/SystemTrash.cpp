@@ -1,7 +1,7 @@
 #include "actions/SystemTrash.h"
 
-#include "actions/Descriptor.h"
 #include "actions/FreedesktopTrash.h"
+#include "machinery/Descriptor.h"
 #include "platform/Platform.h"
 
 #include <QFile>

@@ -1,10 +1,10 @@
 #include "actions/TrashMove.h"
 
-#include "actions/Descriptor.h"
 #include "actions/FinderTrash.h"
 #include "actions/OwnerWrite.h"
 #include "actions/SecurePath.h"
 #include "actions/TargetCheck.h"
+#include "machinery/Descriptor.h"
 #include "vocabulary/AllowedPlace.h"
 #include "vocabulary/FileStatus.h"
 #include "vocabulary/RemovalReasons.h"
