@@ -3,6 +3,7 @@
 #include "actions/TrashFolder.h"
 #include "actions/TrashInfo.h"
 #include "platform/Platform.h"
+#include "vocabulary/SystemError.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -11,7 +12,6 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <system_error>
 #include <unistd.h>
 
 namespace FreedesktopTrash {
@@ -21,11 +21,6 @@ namespace {
 // A trash holding this many objects of one name is not worth searching further.
 constexpr int attemptLimit = 1000;
 
-QString describe(int error)
-{
-    return QString::fromStdString(std::generic_category().message(error));
-}
-
 QString trashNotAvailable()
 {
     //: Why a file couldn't be moved to the Trash: the system's Trash folder is missing and can't be made
@@ -34,7 +29,7 @@ QString trashNotAvailable()
 
 TrashResult failure(int error)
 {
-    return {std::nullopt, describe(error), error == EACCES || error == EPERM || error == EROFS, false};
+    return {std::nullopt, SystemError::describe(error), error == EACCES || error == EPERM || error == EROFS, false};
 }
 
 // One try in one trash; `crossesVolumes` says the rename found the trash on another volume.
