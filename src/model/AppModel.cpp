@@ -3,7 +3,7 @@
 #include "actions/DiskSpace.h"
 #include "actions/Remover.h"
 #include "actions/SystemAccess.h"
-#include "machinery/FileSizer.h"
+#include "machinery/Background.h"
 #include "model/SettingsStore.h"
 #include "model/StatsStore.h"
 #include "model/StorageTask.h"
@@ -36,12 +36,6 @@ AppModel::Services AppModel::defaultServices()
     services.moveItem = [](const CleanupItem& item, const QString& destination, const Mover::Progress& progress,
                            const Mover::Environment& environment) {
         return Mover::move(item, destination, progress, environment);
-    };
-    services.measureTrash = [](const QString& home) -> std::optional<qint64> {
-        const FileSizer::Measurement measurement = FileSizer::measure(SystemPlaces::trashFolder(home));
-        if (!measurement.complete)
-            return std::nullopt;
-        return measurement.bytes;
     };
     services.analyzeStorage = [](const StorageAnalyzer::Request& request) { return StorageAnalyzer::analyze(request); };
     services.diskUsed = [](const QString& home) -> std::optional<qint64> {

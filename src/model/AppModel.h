@@ -51,8 +51,6 @@ public:
         std::function<CleanupSession::Outcome(const CleanupItem&, const RemovalEnvironment&)> removeItem;
         // Empties the Trash; the message to show when it failed. Runs on a worker thread.
         std::function<std::optional<QString>()> emptyTrash;
-        // Bytes in the Trash now; absent when it can't be measured. Runs on a worker thread.
-        std::function<std::optional<qint64>(const QString& home)> measureTrash;
         // The storage analysis; absent when cancelled. Runs on the analysis's worker thread.
         std::function<std::optional<StorageReport>(const StorageAnalyzer::Request&)> analyzeStorage;
         // Bytes in use on the home's volume; absent when unknown. Runs on a worker thread.
@@ -153,7 +151,6 @@ public:
     void refreshTrash();
     bool isEmptyingTrash() const { return m_isEmptyingTrash; }
     const QString& trashMessage() const { return m_trashMessage; }
-    std::optional<qint64> trashBytes() const { return m_trashBytes; }
 
     // --- Move to another disk (AppModelMove.cpp)
     MoveSession* moveSession() const { return m_move.get(); }
@@ -245,7 +242,6 @@ private:
     std::function<void()> m_quitCompletion;
     bool m_isEmptyingTrash = false;
     QString m_trashMessage;
-    std::optional<qint64> m_trashBytes;
 
     void finishMove(const Mover::Outcome& outcome);
     void joinMoveThread();

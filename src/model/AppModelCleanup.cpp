@@ -211,19 +211,9 @@ void AppModel::emptyTrash()
     });
 }
 
+// The Trash row is the Trash scanner's own; scanning it again measures it.
 void AppModel::refreshTrash()
 {
-    // The Trash row is the Trash scanner's own; scanning it again keeps row and figure in step.
     if (result(CategoryID::trash).state == CategoryResult::State::done)
         rescan(CategoryID::trash);
-    QPointer<AppModel> self(this);
-    onWorker([self, measure = m_services.measureTrash, home = m_settings->home()] {
-        const std::optional<qint64> bytes = measure ? measure(home) : std::nullopt;
-        QMetaObject::invokeMethod(qApp, [self, bytes] {
-            if (!self)
-                return;
-            self->m_trashBytes = bytes;
-            emit self->trashChanged();
-        }, Qt::QueuedConnection);
-    });
 }

@@ -70,7 +70,6 @@ signals:
 private:
     void load();
     void writeScanRoots();
-    void writeSafeList();
     void safeListDidChange();
     QStringList computeProtectedPaths() const;
     std::optional<QStringList> readStringList(const QString& key) const;
