@@ -96,9 +96,4 @@ std::optional<TreeStamp> fingerprint(const QString& path, const CancellationToke
     return Fingerprint::compute(path, stoppable);
 }
 
-std::optional<qint64> freeBytes(const QString& path)
-{
-    return Platform::availableCapacity(path);
-}
-
 }  // namespace Mover

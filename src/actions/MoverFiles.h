@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <optional>
+
 #include <sys/types.h>
 #include <vector>
 
@@ -9,6 +11,12 @@
 // anything, removing what the move made, and comparing times where the disk keeps them coarser.
 // Internal to the mover; thread-safe.
 namespace Mover::Files {
+
+// The folder a move copies into, inside the destination; it never outlives the move.
+inline const QString workFolderName = QStringLiteral("Dustlark unfinished move");
+
+// Available capacity of the volume holding `path`; absent when it can't be read.
+[[nodiscard]] std::optional<qint64> freeBytes(const QString& path);
 
 // A copy put in place by this move, with the identity that proves it is still ours.
 struct Placed {

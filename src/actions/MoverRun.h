@@ -1,7 +1,11 @@
 #pragma once
 
-#include "actions/Mover.h"
+#include "actions/MoverEnvironment.h"
 #include "actions/MoverFiles.h"
+#include "actions/MoverOutcome.h"
+#include "actions/MoverProgress.h"
+#include "vocabulary/CleanupItem.h"
+#include "vocabulary/TreeStamp.h"
 
 #include <QList>
 
