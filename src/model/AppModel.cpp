@@ -11,9 +11,7 @@
 #include "scan/ScannerCatalog.h"
 
 #include <QCoreApplication>
-#include <QPointer>
 #include <QProcess>
-#include <QThreadPool>
 
 AppModel::Services AppModel::defaultServices()
 {
@@ -244,17 +242,9 @@ void AppModel::apply(const ScanOutputs& outputs, bool stopped)
 
 void AppModel::refreshSystemState()
 {
-    const QString home = m_settings->home();
-    auto read = m_services.readSystemState;
-    QPointer<AppModel> self(this);
-    // The global pool is waited for when the application ends, so the read never outlives it.
-    QThreadPool::globalInstance()->start([self, read, home] {
-        const SystemState state = read(home);
-        QMetaObject::invokeMethod(qApp, [self, state] {
-            if (!self)
-                return;
-            self->m_systemState = state;
-            emit self->systemStateChanged();
-        }, Qt::QueuedConnection);
-    });
+    Background::run(this, [read = m_services.readSystemState, home = m_settings->home()] { return read(home); },
+                    [this](const SystemState& state) {
+                        m_systemState = state;
+                        emit systemStateChanged();
+                    });
 }

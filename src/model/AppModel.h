@@ -4,6 +4,9 @@
 #include "model/CleanupSession.h"
 #include "model/MoveSession.h"
 #include "model/ScanTask.h"
+#include "model/Selection.h"
+#include "model/TrashState.h"
+#include "model/UpdateState.h"
 #include "storage/StorageAnalyzer.h"
 #include "update/ImageInstall.h"
 #include "update/UpdateChecker.h"
@@ -28,8 +31,10 @@ class StatsStore;
 class StorageTask;
 
 // The one owner of what the screens show: per-category results, the selection, the running
-// scan and rescans, and the system figures. Scanners run on worker threads and hand their
-// outputs back with queued calls; everything here is read and written on the GUI thread only.
+// scan and rescans, and the system figures. Screens read its parts (Selection, TrashState,
+// UpdateState, the sessions) and change them only through it. Scanners run on worker threads and
+// hand their outputs back with queued calls; everything here is read and written on the GUI
+// thread only, and nothing on a worker reads the stores: work gets the facts it needs as values.
 class AppModel : public QObject {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(AppModel)
@@ -55,7 +60,8 @@ public:
         std::function<std::optional<StorageReport>(const StorageAnalyzer::Request&)> analyzeStorage;
         // Bytes in use on the home's volume; absent when unknown. Runs on a worker thread.
         std::function<std::optional<qint64>(const QString& home)> diskUsed;
-        // Moves one item to another disk; runs on the move's worker thread.
+        // Moves one item to another disk in the environment the move started with (its
+        // cancellation is the Stop button); runs on the move's worker thread.
         std::function<Mover::Outcome(const CleanupItem&, const QString& destination, const Mover::Progress&,
                                      const Mover::Environment&)> moveItem;
         // Where the update check asks; tests point it at a local server.
@@ -98,35 +104,24 @@ public:
     bool isAnalyzingStorage() const;
     // The last finished analysis; kept until the next one finishes.
     const std::optional<StorageReport>& storageReport() const { return m_storageReport; }
-    // Puts a folder on the Safe List: nothing inside it is shown by scans any more.
+    // Puts a folder on the Safe List: nothing inside it is shown by scans any more; a toast says so.
     void addFolderToSafeList(const QString& path);
 
-    // --- Selection
-    bool isSelected(const QString& id) const { return m_selection.contains(id); }
-    const QSet<QString>& selection() const { return m_selection; }
-    bool canSelect(const CleanupItem& item) const;
+    // --- Selection (AppModelSelection.cpp)
+    const Selection& selection() const { return m_selection; }
     void setSelected(const CleanupItem& item, bool selected);
     void setAll(const QList<CleanupItem>& items, bool selected);
     void clearSelection();
-    bool isLastUnselectedCopy(const CleanupItem& item) const;
-    std::optional<QString> duplicateGroup(const CleanupItem& item) const;
-    void indexDuplicates();
-    void removeLoneCopies();
     QList<CleanupItem> selectedItems() const;
     qint64 selectedSize() const;
     qint64 selectedSize(const QList<CategoryID>& categories) const;
-    // True when removing `item` would leave no copy of its content among `remaining`.
-    bool duplicateWouldBeLost(const CleanupItem& item, const QList<CleanupItem>& remaining) const;
-    // The same rule from the rows' own group keys, for worker threads.
-    static bool wouldLoseLastCopy(const CleanupItem& item, const QList<CleanupItem>& remaining);
     // The rows of a category that pass the size filter and the search text, in list order.
     QList<CleanupItem> visibleItems(CategoryID category, const QString& search = {}) const;
     SizeFilter sizeFilter() const;
     void setSizeFilter(SizeFilter filter);
 
-    // --- Safe List
+    // --- Safe List (AppModelSafeList.cpp)
     void addToSafeList(const CleanupItem& item);
-    void removeSafeItemsFromResults();
     void removeFromSafeList(const QString& id);
     // A folder added on the Safe List screen: what it holds leaves the lists at once.
     void addSafeFolder(const QString& path);
@@ -149,8 +144,7 @@ public:
     void stopForQuit(std::function<void()> then);
     void emptyTrash();
     void refreshTrash();
-    bool isEmptyingTrash() const { return m_isEmptyingTrash; }
-    const QString& trashMessage() const { return m_trashMessage; }
+    const TrashState& trashState() const { return m_trash; }
 
     // --- Move to another disk (AppModelMove.cpp)
     MoveSession* moveSession() const { return m_move.get(); }
@@ -166,20 +160,16 @@ public:
                               std::function<void(std::optional<QString>)> answer);
     // --- Updates
     // Asks the maker's site for a newer build; does nothing while a check runs. The answer
-    // arrives later as updateResult() with updateStateChanged().
+    // arrives later as updateState().result with updateStateChanged().
     void checkForUpdates();
-    bool isCheckingForUpdates() const { return m_isCheckingForUpdates; }
-    // The last check's answer; absent before the first check has finished.
-    const std::optional<UpdateChecker::Result>& updateResult() const { return m_updateResult; }
+    const UpdateState& updateState() const { return m_updates; }
     // The page that describes `release`, safe to open.
     QUrl releasePage(const UpdateChecker::Release& release) const;
     // Whether this copy may replace itself with an available release (never on Linux).
     bool canInstallUpdate() const;
     // Downloads, checks and installs the available release, then relaunches and quits. A
-    // failure's sentence becomes updateInstallError(); the running copy is then unchanged.
+    // failure's sentence becomes updateState().installError; the running copy is then unchanged.
     void installUpdate();
-    bool isInstallingUpdate() const { return m_isInstallingUpdate; }
-    const QString& updateInstallError() const { return m_updateInstallError; }
     // The ".app" folder this program runs from; empty when it isn't in one.
     static QString runningAppBundle();
 
@@ -209,6 +199,9 @@ private:
     void markUnfinishedDone(const QList<CategoryID>& categories, bool stopped);
     void setState(CategoryID category, CategoryResult::State state);
     bool removeItemsWhere(const std::function<bool(const CleanupItem&)>& predicate);
+    void removeSafeItemsFromResults();
+    void indexDuplicates();
+    void removeLoneCopies();
 
     SettingsStore* m_settings;
     StatsStore* m_stats;
@@ -216,18 +209,15 @@ private:
     std::map<CategoryID, CategoryResult> m_results;
     bool m_isScanning = false;
     bool m_hasScanned = false;
-    QSet<QString> m_selection;
-    QHash<QString, QString> m_duplicateGroupOf;          // item id -> group key
-    QHash<QString, QStringList> m_duplicateMembers;      // group key -> member ids in list order
+    Selection m_selection;
     std::shared_ptr<ScanProgress> m_progress = std::make_shared<ScanProgress>();
     QUuid m_fullScanId;                                  // null when no full scan runs
     std::map<QUuid, RunningScan> m_scans;                // the full scan and every rescan
-    void runCleanup(CleanupSession* session, QList<CleanupItem> items, QList<CleanupItem> copies);
+    void runCleanup(CleanupSession* session, QList<CleanupItem> items, QList<CleanupItem> copies, QString home);
     bool removeOne(CleanupSession* session, const CleanupItem& item, const QList<CleanupItem>& copies);
     void finishCleanup(std::optional<qint64> freeAfter);
     void joinCleanupThread();
-    template <typename Work>
-    void onWorker(Work work);
+    void trashEmptied(const std::optional<QString>& failure);
 
     void storageFinished(quint64 generation, const std::optional<StorageReport>& report);
 
@@ -240,8 +230,7 @@ private:
     std::unique_ptr<CleanupSession> m_lastRunCleanup;
     std::thread m_cleanupThread;
     std::function<void()> m_quitCompletion;
-    bool m_isEmptyingTrash = false;
-    QString m_trashMessage;
+    TrashState m_trash;
 
     void finishMove(const Mover::Outcome& outcome);
     void joinMoveThread();
@@ -251,8 +240,5 @@ private:
     std::thread m_moveThread;
     void installDownloaded(const Updater::Download& download, const UpdateChecker::Release& release);
     void finishInstall(const std::optional<QString>& error);
-    bool m_isCheckingForUpdates = false;
-    bool m_isInstallingUpdate = false;
-    QString m_updateInstallError;
-    std::optional<UpdateChecker::Result> m_updateResult;
+    UpdateState m_updates;
 };

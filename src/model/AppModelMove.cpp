@@ -1,11 +1,11 @@
 // The move to another disk of AppModel: one move at a time on a worker thread of its own, whose
 // progress and outcome come back to the GUI thread through queued calls.
 #include "model/AppModel.h"
+
+#include "machinery/Background.h"
 #include "model/SettingsStore.h"
 
-#include <QCoreApplication>
 #include <QPointer>
-#include <QThreadPool>
 
 bool AppModel::startMove(const CleanupItem& item, const QString& destination)
 {
@@ -70,13 +70,5 @@ void AppModel::closeMove()
 void AppModel::checkMoveDestination(const CleanupItem& item, const QString& destination, QObject* context,
                                     std::function<void(std::optional<QString>)> answer)
 {
-    QPointer<QObject> receiver(context);
-    // The global pool is waited for when the application ends.
-    QThreadPool::globalInstance()->start([receiver, item, destination, answer = std::move(answer)] {
-        const std::optional<QString> problem = Mover::problem(destination, item);
-        QMetaObject::invokeMethod(qApp, [receiver, answer, problem] {
-            if (receiver)
-                answer(problem);
-        }, Qt::QueuedConnection);
-    });
+    Background::run(context, [item, destination] { return Mover::problem(destination, item); }, std::move(answer));
 }

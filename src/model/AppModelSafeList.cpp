@@ -36,6 +36,17 @@ void AppModel::removeSafeItemsFromResults()
         emit selectionChanged();
 }
 
+void AppModel::addSafeFolder(const QString& path)
+{
+    m_settings->addSafeFolder(path);
+    removeSafeItemsFromResults();
+}
+
+void AppModel::removeSafeFolder(const QString& path)
+{
+    m_settings->removeSafeFolder(path);
+}
+
 void AppModel::removeFromSafeList(const QString& id)
 {
     const auto info = m_settings->safeItemInfo().value(id);

@@ -73,7 +73,6 @@ private:
     void askAbout(const QModelIndex& index);
     void askAboutShown();
     void reveal(const CleanupItem& item);
-    void addProjectToSafeList(const QString& project);
 
     AppModel* m_model;
     CategoryID m_category = CategoryID::projects;

@@ -76,7 +76,7 @@ TEST(AppModelCleanup, AFolderAndAFileInsideItGoOnceToTheTrash)
     EXPECT_TRUE(QFileInfo(trashFiles() + "/node_modules/left-pad/index.js").isFile());
     EXPECT_TRUE(QFileInfo::exists(trashFiles() + "/../info/node_modules.trashinfo"));
     EXPECT_TRUE(model.result(CategoryID::projects).items.isEmpty());
-    EXPECT_TRUE(model.selection().isEmpty() || model.selection() == QSet<QString>{file.id});
+    EXPECT_TRUE(model.selection().ids().isEmpty() || model.selection().ids() == QSet<QString>{file.id});
     ASSERT_FALSE(fixture.stats().stats().history.isEmpty());
     EXPECT_EQ(fixture.stats().stats().history.first().movedToTrash, 8000);
     model.closeCleanup();
@@ -110,7 +110,7 @@ TEST(AppModelCleanup, StopAfterTheFirstItemKeepsTheRestSelectedAndListed)
     EXPECT_TRUE(model.cleanup()->stopped());
     EXPECT_EQ(model.cleanup()->resultTitle(), "Cleaning stopped");
     EXPECT_EQ(model.result(CategoryID::logs).items.size(), 2);
-    EXPECT_EQ(model.selection().size(), 2);
+    EXPECT_EQ(model.selection().ids().size(), 2);
     EXPECT_TRUE(QFileInfo::exists(tree.path("Library/Logs/b.log")));
 }
 
@@ -183,7 +183,7 @@ TEST(AppModelCleanup, ACopyWhoseOtherCopyIsNoLongerOnDiskAsScannedStays)
     show(model, CategoryID::duplicates, rows);
     for (qsizetype i = 0; i < rows.size(); i += 2)
         model.setSelected(rows[i], true);
-    ASSERT_EQ(model.selection().size(), 4);
+    ASSERT_EQ(model.selection().ids().size(), 4);
     tree.dir("Elsewhere");
     ASSERT_EQ(::rename(QFile::encodeName(tree.path("moved/other.mov")).constData(),
                        QFile::encodeName(tree.path("Elsewhere/other.mov")).constData()), 0);

@@ -75,7 +75,7 @@ TEST(MountedScanFolder, DISABLED_ReportFromInsideTheNamespace)
 
     const auto shop = rowOf(model, CategoryID::projects, work + QStringLiteral("/shop/node_modules"));
     ASSERT_TRUE(shop) << model.result(CategoryID::projects).items.size();
-    const bool offered = !shop->isLocked() && model.canSelect(*shop);
+    const bool offered = !shop->isLocked() && Selection::canSelect(*shop);
     model.setSelected(*shop, true);
     model.prepareCleanup();
     ASSERT_TRUE(model.cleanup());

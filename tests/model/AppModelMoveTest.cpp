@@ -78,7 +78,7 @@ TEST_F(AppModelMove, OneMoveAtATimeHoldsScansAndLeavesTheResultsWhenDone)
     EXPECT_EQ(model.moveSession()->copied(), 400'000);
     EXPECT_EQ(QFileInfo(copy).size(), 400'000);
     EXPECT_EQ(model.result(CategoryID::largeFiles).items, QList<CleanupItem>{other});
-    EXPECT_FALSE(model.isSelected(film.id));
+    EXPECT_FALSE(model.selection().contains(film.id));
     EXPECT_FALSE(model.isChangingFiles());
 
     model.startScan();

@@ -52,5 +52,5 @@ TEST(AppModelTrash, TheTrashRowFollowsCleanupsAndEmptying)
     ASSERT_TRUE(waitUntil([&] { return trashRowSize(model) >= 4000; })) << trashRowSize(model).value_or(-1);
 
     model.emptyTrash();
-    EXPECT_TRUE(waitUntil([&] { return !model.isEmptyingTrash() && trashRowSize(model) == 0; }));
+    EXPECT_TRUE(waitUntil([&] { return !model.trashState().isEmptying && trashRowSize(model) == 0; }));
 }

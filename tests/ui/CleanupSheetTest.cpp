@@ -82,7 +82,7 @@ TEST(CleanupSheet, ConfirmationNamesRiskyAndPermanentItemsAndCancelKeepsTheSelec
 
     confirmation->cancelButton()->click();
     EXPECT_TRUE(waitUntil([&] { return !fixture.window().cleanupSheet(); }));
-    EXPECT_EQ(fixture.model().selection().size(), 2);
+    EXPECT_EQ(fixture.model().selection().ids().size(), 2);
     EXPECT_EQ(fixture.window().destination(), SidebarDestination::of(CategoryID::largeFiles));
 }
 
