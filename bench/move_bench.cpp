@@ -57,8 +57,7 @@ int move(const QString& source, const QString& destination)
     item.category = CategoryID::largeFiles;
     item.title = QFileInfo(source).fileName();
     item.removal = Removal::trash({*target});
-    Mover::Environment environment = Mover::Environment::current();
-    environment.removal.home = QFileInfo(source).path();
+    const Mover::Environment environment = Mover::Environment::system(QFileInfo(source).path(), {});
     const Mover::Outcome outcome = Mover::move(item, destination, {}, environment);
     std::printf("%s\n", qPrintable(outcome.succeeded() ? "moved to " + outcome.destination : outcome.reason));
     return outcome.succeeded() ? 0 : 1;

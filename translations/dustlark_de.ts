@@ -923,11 +923,6 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <extracomment>Row menu: copy this row&apos;s files to another disk, check the copy, then trash the original</extracomment>
         <translation>Auf ein anderes Laufwerk bewegen …</translation>
     </message>
-    <message>
-        <source>“%1” is on the Safe List.</source>
-        <extracomment>Toast after a row was put on the Safe List; %1 is the row&apos;s title</extracomment>
-        <translation>„%1“ ist auf der Schutzliste.</translation>
-    </message>
 </context>
 <context>
     <name>CleanerGroup</name>
@@ -2617,21 +2612,6 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <source>Risky</source>
         <extracomment>Safety label of a row: may hold data that exists nowhere else</extracomment>
         <translation>Riskant</translation>
-    </message>
-    <message>
-        <source>comes back on its own</source>
-        <extracomment>Legend of the Safe label, lower case</extracomment>
-        <translation>kommt von selbst wieder</translation>
-    </message>
-    <message>
-        <source>depends on how you use it</source>
-        <extracomment>Legend of the Ask AI label, lower case</extracomment>
-        <translation>hängt davon ab, wie du es nutzt</translation>
-    </message>
-    <message>
-        <source>may hold data you can&apos;t get back</source>
-        <extracomment>Legend of the Risky label, lower case</extracomment>
-        <translation>kann Daten enthalten, die du nicht zurückbekommst</translation>
     </message>
     <message>
         <source>Safe to remove: it comes back on its own when needed; you only lose the time to rebuild or download it.</source>

@@ -923,11 +923,6 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <extracomment>Row menu: copy this row&apos;s files to another disk, check the copy, then trash the original</extracomment>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>“%1” is on the Safe List.</source>
-        <extracomment>Toast after a row was put on the Safe List; %1 is the row&apos;s title</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
 </context>
 <context>
     <name>CleanerGroup</name>
@@ -2616,21 +2611,6 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     <message>
         <source>Risky</source>
         <extracomment>Safety label of a row: may hold data that exists nowhere else</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>comes back on its own</source>
-        <extracomment>Legend of the Safe label, lower case</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>depends on how you use it</source>
-        <extracomment>Legend of the Ask AI label, lower case</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>may hold data you can&apos;t get back</source>
-        <extracomment>Legend of the Risky label, lower case</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -31,7 +31,8 @@ public:
         CleanupItem footage = fileRow(m_fixture.home(), CategoryID::largeFiles, QStringLiteral("Movies/Wedding Raw"));
         footage.size = 5'000'000;
         CategoryPage* page = m_fixture.open(CategoryID::largeFiles, {footage}, [&](AppModel::Services& services) {
-            useRealMover(services, m_fixture.home().root(), copyTool);
+            if (copyTool)
+                useCopyTool(services, *copyTool);
         });
         if (!page || !m_disk.isValid())
             return;

@@ -89,7 +89,7 @@ QImage about()
     });
     AboutPage page(&fixture.model());
     fixture.model().checkForUpdates();
-    if (!waitUntil([&] { return fixture.model().updateResult().has_value(); }, 15'000))
+    if (!waitUntil([&] { return fixture.model().updateState().result.has_value(); }, 15'000))
         return {};
     return settled(page);
 }

@@ -23,22 +23,19 @@ constexpr seconds removalTimeLimit{600};  // pruning a large build cache takes m
 // The docker tool bound to the endpoint the scan used.
 class Docker {
 public:
-    Docker(QString executable, QString host, const RemovalEnvironment& environment)
-        : m_executable(std::move(executable)), m_host(std::move(host)), m_environment(environment) {}
+    Docker(QString executable, const DockerOperation& operation, const RemovalEnvironment& environment)
+        : m_executable(std::move(executable)), m_operation(operation), m_environment(environment) {}
 
     ToolAnswer ask(const QStringList& arguments, seconds timeLimit) const
     {
-        return ToolAnswer::ask(m_executable, QStringList{QStringLiteral("--host"), m_host} + arguments, timeLimit,
+        return ToolAnswer::ask(m_executable, QStringList{QStringLiteral("--host"), m_operation.host} + arguments, timeLimit,
                                m_environment.cancellation);
     }
-    std::optional<QDateTime> scannedAt() const
-    {
-        return m_environment.dockerScan ? std::optional(m_environment.dockerScan->scannedAt) : std::nullopt;
-    }
+    const QDateTime& scannedAt() const { return m_operation.scannedAt; }
 
 private:
     QString m_executable;
-    QString m_host;
+    const DockerOperation& m_operation;
     const RemovalEnvironment& m_environment;
 };
 
@@ -66,8 +63,8 @@ std::optional<QString> containerProblem(const Docker& docker, const QString& id)
     if (fields.size() != 2 || fields[0] != QLatin1String("false"))
         return RemovalReasons::changedSinceScan();
     const std::optional<QDateTime> finished = DockerEndpoint::parseTime(fields[1]);
-    const std::optional<QDateTime> scanned = docker.scannedAt();
-    if (!finished || !scanned || *finished > *scanned)
+    const QDateTime& scanned = docker.scannedAt();
+    if (!finished || !scanned.isValid() || *finished > scanned)
         return RemovalReasons::changedSinceScan();
     return std::nullopt;
 }
@@ -156,9 +153,9 @@ RemovalOutcome remove(const DockerOperation& operation, const RemovalEnvironment
     if (!executable)
         return RemovalOutcome::failed(notInstalled());
     const std::optional<QString> host = DockerEndpoint::localHost(*executable, environment.dockerHostVariable, environment.cancellation);
-    if (!host || !environment.dockerScan || environment.dockerScan->host != *host)
+    if (!host || operation.host != *host)
         return RemovalOutcome::failed(otherSetup());
-    const Docker docker(*executable, *host, environment);
+    const Docker docker(*executable, operation, environment);
     if (const auto* container = operation.as<DockerOperation::Container>())
         return removeContainer(docker, *container);
     if (const auto* image = operation.as<DockerOperation::Image>())

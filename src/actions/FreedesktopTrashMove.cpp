@@ -3,6 +3,7 @@
 #include "actions/TrashFolder.h"
 #include "actions/TrashInfo.h"
 #include "platform/Platform.h"
+#include "vocabulary/SystemError.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -11,7 +12,6 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <system_error>
 #include <unistd.h>
 
 namespace FreedesktopTrash {
@@ -21,11 +21,6 @@ namespace {
 // A trash holding this many objects of one name is not worth searching further.
 constexpr int attemptLimit = 1000;
 
-QString describe(int error)
-{
-    return QString::fromStdString(std::generic_category().message(error));
-}
-
 QString trashNotAvailable()
 {
     //: Why a file couldn't be moved to the Trash: the system's Trash folder is missing and can't be made
@@ -34,7 +29,7 @@ QString trashNotAvailable()
 
 TrashResult failure(int error)
 {
-    return {std::nullopt, describe(error), error == EACCES || error == EPERM || error == EROFS, false};
+    return {std::nullopt, SystemError::describe(error), error == EACCES || error == EPERM || error == EROFS, false};
 }
 
 // One try in one trash; `crossesVolumes` says the rename found the trash on another volume.
@@ -72,16 +67,6 @@ int writeInfo(int infoFolder, const QByteArray& infoName, const QByteArray& text
     return error;
 }
 
-bool isRequested(int folder, const QByteArray& name, const TrashRequest& request)
-{
-    struct stat info {};
-    if (::fstatat(folder, name.constData(), &info, AT_SYMLINK_NOFOLLOW) != 0)
-        return false;
-    if (qint32(info.st_dev) != request.device || quint64(info.st_ino) != request.inode)
-        return false;
-    return !request.birth || Platform::birthNanosecondsAt(folder, name.constData()) == request.birth;
-}
-
 // The object was replaced between the last check and the rename: return the one that came
 // where it was, never over anything. If that fails it stays in the Trash with its info file,
 // where a file manager can restore it.
@@ -114,7 +99,7 @@ Attempt moveInto(const TrashFolder& trash, const TrashRequest& request)
         if (infoError != 0)
             return {failure(infoError)};
         const int error = Platform::renameNoReplaceAt(request.folder, request.name.constData(), trash.files.get(), name.constData());
-        if (error == 0 && !isRequested(trash.files.get(), name, request))
+        if (error == 0 && !request.object.isObjectAt(trash.files.get(), name.constData()))
             return {putBack(trash, name, infoName, request)};
         if (error == 0)
             return {{trash.filesPath + QLatin1Char('/') + QFile::decodeName(name), QString(), false, false}};

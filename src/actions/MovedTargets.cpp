@@ -1,58 +1,20 @@
 #include "actions/MovedTargets.h"
 
-#include <QSet>
-
-#include <mutex>
-
-namespace MovedTargets {
-
-namespace {
-
-// Path and identity only: the same object listed by two scanners may carry different guards. The
-// birth time belongs to the identity: a file made anew at the path may get the inode back, and
-// must not pass for the one that already went.
-struct Key {
-    QString path;
-    qint32 device = 0;
-    quint64 inode = 0;
-    std::optional<qint64> birth;
-    bool operator==(const Key&) const = default;
-};
-
-size_t qHash(const Key& key, size_t seed = 0)
-{
-    return qHashMulti(seed, key.path, key.device, key.inode, key.birth.value_or(0));
-}
-
-Key keyOf(const FileTarget& target)
+// The birth time belongs to the identity: a file made anew at the path may get the inode back,
+// and must not pass for the one that already went.
+MovedTargets::Key MovedTargets::keyOf(const FileTarget& target)
 {
     return {target.path, target.device, target.inode, target.birth};
 }
 
-std::mutex& setMutex()
+void MovedTargets::record(const FileTarget& target)
 {
-    static std::mutex mutex;
-    return mutex;
+    std::lock_guard lock(m_mutex);
+    m_moved.insert(keyOf(target));
 }
 
-QSet<Key>& moved()  // guarded by setMutex()
+bool MovedTargets::contains(const FileTarget& target) const
 {
-    static QSet<Key> set;
-    return set;
+    std::lock_guard lock(m_mutex);
+    return m_moved.contains(keyOf(target));
 }
-
-}  // namespace
-
-void record(const FileTarget& target)
-{
-    std::lock_guard lock(setMutex());
-    moved().insert(keyOf(target));
-}
-
-bool contains(const FileTarget& target)
-{
-    std::lock_guard lock(setMutex());
-    return moved().contains(keyOf(target));
-}
-
-}  // namespace MovedTargets

@@ -96,10 +96,4 @@ std::optional<TreeStamp> fingerprint(const QString& path, const CancellationToke
     return Fingerprint::compute(path, stoppable);
 }
 
-// The plain available capacity: the "important usage" figure is 0 on exFAT and FAT disks.
-std::optional<qint64> freeBytes(const QString& path)
-{
-    return Platform::availableCapacity(path);
-}
-
 }  // namespace Mover

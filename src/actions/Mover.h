@@ -2,6 +2,7 @@
 
 #include "actions/MoverEnvironment.h"
 #include "actions/MoverOutcome.h"
+#include "actions/MoverProgress.h"
 #include "machinery/CancellationToken.h"
 #include "vocabulary/CleanupItem.h"
 #include "vocabulary/TreeStamp.h"
@@ -18,12 +19,6 @@
 // GUI thread) and is independent of the others.
 namespace Mover {
 
-// Bytes copied so far and the total; called from a measuring thread a few times a second.
-using Progress = std::function<void(qint64 copied, qint64 total)>;
-
-// The folder a move copies into, inside the destination; it never outlives the move.
-inline const QString workFolderName = QStringLiteral("Dustlark unfinished move");
-
 // Nothing when `destination` can take `item`, otherwise the sentence of the first check that
 // fails: a folder, writable, on another disk, no two parts whose names differ only in case, no
 // entry of such a name there yet.
@@ -31,13 +26,10 @@ inline const QString workFolderName = QStringLiteral("Dustlark unfinished move")
 
 // Moves `item` (only Trash removals) into `destination`. Stopping is
 // `environment.removal.cancellation`; it is honoured until the original goes to the Trash.
-[[nodiscard]] Outcome move(const CleanupItem& item, const QString& destination, const Progress& progress = {},
-                           const Environment& environment = Environment::current());
+[[nodiscard]] Outcome move(const CleanupItem& item, const QString& destination, const Progress& progress,
+                           const Environment& environment);
 
 // The summary of the tree at `path` that the copy is compared by; absent when stopped.
 [[nodiscard]] std::optional<TreeStamp> fingerprint(const QString& path, const CancellationToken* stoppable);
-
-// Available capacity of the volume holding `path`; absent when it can't be read.
-[[nodiscard]] std::optional<qint64> freeBytes(const QString& path);
 
 }  // namespace Mover

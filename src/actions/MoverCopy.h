@@ -1,6 +1,7 @@
 #pragma once
 
-#include "actions/Mover.h"
+#include "actions/MoverEnvironment.h"
+#include "actions/MoverProgress.h"
 
 #include <QString>
 

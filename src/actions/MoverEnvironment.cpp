@@ -2,9 +2,9 @@
 
 namespace Mover {
 
-Environment Environment::current()
+Environment Environment::system(const QString& home, const QStringList& scanFolders)
 {
-    return {RemovalEnvironment::current(), CopyTool::standard()};
+    return {RemovalEnvironment::system(home, scanFolders), CopyTool::standard()};
 }
 
 }  // namespace Mover

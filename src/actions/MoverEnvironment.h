@@ -11,8 +11,9 @@ struct Environment {
     RemovalEnvironment removal;
     CopyTool copyTool;
 
-    // The real system: RemovalEnvironment::current() and the system's copy tool.
-    [[nodiscard]] static Environment current();
+    // The real system for `home` and its `scanFolders` (RemovalEnvironment::system) and the
+    // system's copy tool.
+    [[nodiscard]] static Environment system(const QString& home, const QStringList& scanFolders);
 };
 
 }  // namespace Mover

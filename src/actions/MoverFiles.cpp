@@ -110,4 +110,9 @@ bool timesMatchCoarsely(const QString& original, const QString& copy)
     return TreeWalker({}).walk(root, comparison).end != TreeWalker::End::Stopped;
 }
 
+std::optional<qint64> freeBytes(const QString& path)
+{
+    return Platform::availableCapacity(path);
+}
+
 }  // namespace Mover::Files

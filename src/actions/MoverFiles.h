@@ -5,12 +5,19 @@
 #include <QByteArray>
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 // The file operations of a move on the destination disk, all relative to folders the move holds
 // open: placing a copy without replacing anything, removing what the move made, and comparing
 // times where the disk keeps them coarser. Internal to the mover; thread-safe.
 namespace Mover::Files {
+
+// The folder a move copies into, inside the destination; it never outlives the move.
+inline const QString workFolderName = QStringLiteral("Dustlark unfinished move");
+
+// Available capacity of the volume holding `path`; absent when it can't be read.
+[[nodiscard]] std::optional<qint64> freeBytes(const QString& path);
 
 // An entry this move made in a folder it holds, with the identity that proves it is still ours.
 struct Made {

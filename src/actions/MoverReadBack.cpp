@@ -1,6 +1,6 @@
 #include "actions/MoverReadBack.h"
 
-#include "actions/Descriptor.h"
+#include "machinery/Descriptor.h"
 #include "machinery/FileDigest.h"
 #include "machinery/TreeWalker.h"
 #include "platform/Platform.h"

@@ -37,7 +37,7 @@ Run::Run(const CleanupItem& item, const QString& destination, const Progress& pr
     m_targets = item.removal.as<Removal::Trash>()->targets;
     for (const FileTarget& target : m_targets)
         m_names.append(QFileInfo(target.path).fileName());
-    m_work = QDir(m_destination).filePath(workFolderName);
+    m_work = QDir(m_destination).filePath(Files::workFolderName);
 }
 
 Outcome Run::perform()
@@ -77,7 +77,7 @@ std::optional<QString> Run::checkSpace()
 {
     // When the free space can't be read the copy goes ahead: a disk that fills up fails the copy,
     // and the roll-back leaves the destination as it was.
-    const std::optional<qint64> free = freeBytes(m_destination);
+    const std::optional<qint64> free = Files::freeBytes(m_destination);
     if (free && m_total > *free)
         return Reasons::notEnoughSpace(m_total, *free);
     return std::nullopt;
@@ -89,7 +89,7 @@ std::optional<QString> Run::makeWorkFolder()
     m_destinationFolder.reset(::open(QFile::encodeName(m_destination).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!m_destinationFolder.isValid())
         return Reasons::destinationUnavailable();
-    const QByteArray name = QFile::encodeName(workFolderName);
+    const QByteArray name = QFile::encodeName(Files::workFolderName);
     if (::mkdirat(m_destinationFolder.get(), name.constData(), 0700) != 0) {
         // Another move's folder (or an interrupted one's) is never reused or removed.
         return errno == EEXIST ? Reasons::leftoverWorkFolder() : Reasons::destinationNotWritable();

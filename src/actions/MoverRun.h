@@ -1,8 +1,12 @@
 #pragma once
 
-#include "actions/Descriptor.h"
-#include "actions/Mover.h"
+#include "actions/MoverEnvironment.h"
 #include "actions/MoverFiles.h"
+#include "actions/MoverOutcome.h"
+#include "actions/MoverProgress.h"
+#include "machinery/Descriptor.h"
+#include "vocabulary/CleanupItem.h"
+#include "vocabulary/TreeStamp.h"
 
 #include <QHash>
 #include <QList>

@@ -1,11 +1,12 @@
 #include "actions/OwnerWrite.h"
 
+#include "machinery/Descriptor.h"
+#include "machinery/FolderListing.h"
 #include "platform/Platform.h"
 
 #include <QByteArray>
 
 #include <cerrno>
-#include <dirent.h>
 #include <fcntl.h>
 
 namespace OwnerWrite {
@@ -47,20 +48,14 @@ bool addBelow(int folder, int depth)
 {
     if (depth > depthLimit)
         return false;
-    const int listing = ::openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    DIR* entries = listing >= 0 ? ::fdopendir(listing) : nullptr;
-    if (!entries) {
-        if (listing >= 0)
-            ::close(listing);
+    const std::optional<QByteArrayList> names = FolderListing::names(folder);
+    if (!names)
         return false;
-    }
     bool allWritable = true;
-    while (const dirent* entry = ::readdir(entries)) {
-        const QByteArray name(entry->d_name);
-        if (name != "." && name != ".." && !addEntry(::dirfd(entries), entry->d_name, depth))
+    for (const QByteArray& name : *names) {
+        if (!addEntry(folder, name.constData(), depth))
             allWritable = false;
     }
-    ::closedir(entries);
     return allWritable;
 }
 

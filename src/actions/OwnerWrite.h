@@ -1,6 +1,6 @@
 #pragma once
 
-#include "actions/Descriptor.h"
+#include "machinery/Descriptor.h"
 
 #include <sys/stat.h>
 

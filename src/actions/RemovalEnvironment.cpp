@@ -4,17 +4,15 @@
 #include "machinery/DockerEndpoint.h"
 #include "platform/Platform.h"
 #include "vocabulary/AllowedPlace.h"
-#include "vocabulary/SharedScanFolders.h"
 
 #include <QDir>
 
-RemovalEnvironment RemovalEnvironment::current()
+RemovalEnvironment RemovalEnvironment::system(const QString& home, const QStringList& scanFolders)
 {
     RemovalEnvironment environment;
-    environment.home = QDir::cleanPath(QDir::homePath());
-    environment.otherVolumeFolders = AllowedPlace::otherVolumeFolders(SharedScanFolders::current(), environment.home);
+    environment.home = QDir::cleanPath(home);
+    environment.otherVolumeFolders = AllowedPlace::otherVolumeFolders(scanFolders, environment.home);
     environment.tools = ToolLocations::standard(environment.home);
-    environment.dockerScan = DockerScanRecord::last();
     environment.dockerHostVariable = DockerEndpoint::hostVariable();
     return environment;
 }

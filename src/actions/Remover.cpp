@@ -2,7 +2,6 @@
 
 #include "actions/DockerRemoval.h"
 #include "actions/SimulatorRemoval.h"
-#include "actions/TargetCheck.h"
 #include "actions/TrashMove.h"
 #include "vocabulary/RemovalReasons.h"
 
@@ -22,16 +21,6 @@ Outcome remove(const CleanupItem& item, const RemovalEnvironment& environment)
     if (const auto* runtime = removal.as<Removal::SimulatorRuntime>())
         return SimulatorRemoval::removeRuntime(*runtime, environment);
     return Outcome::failed(RemovalReasons::emptyTrashInstead());
-}
-
-std::optional<QString> problem(const FileTarget& target, const RemovalEnvironment& environment)
-{
-    return TargetCheck::problem(target, environment);
-}
-
-Outcome moveToTrash(const QList<FileTarget>& targets, const RemovalEnvironment& environment)
-{
-    return TrashMove::moveAll(targets, environment);
 }
 
 }  // namespace Remover

@@ -3,12 +3,6 @@
 #include "actions/RemovalEnvironment.h"
 #include "actions/RemovalOutcome.h"
 #include "vocabulary/CleanupItem.h"
-#include "vocabulary/FileTarget.h"
-
-#include <QList>
-#include <QString>
-
-#include <optional>
 
 // Removes one cleanup item at the moment the cleanup session reaches it: files go to the Trash
 // after every target is checked again against the scan; Docker objects and simulators are
@@ -20,15 +14,6 @@ using Outcome = RemovalOutcome;
 
 // Moved to the Trash, removed by its tool, or failed with one sentence. Never throws; a
 // locked item is refused with its lock reason.
-[[nodiscard]] Outcome remove(const CleanupItem& item, const RemovalEnvironment& environment = RemovalEnvironment::current());
-
-// Nothing when the target may be moved to the Trash now, otherwise the reason. Also used by
-// the mover before it trashes an original.
-[[nodiscard]] std::optional<QString> problem(const FileTarget& target,
-                                             const RemovalEnvironment& environment = RemovalEnvironment::current());
-
-// Checks every target, then moves each to the Trash.
-[[nodiscard]] Outcome moveToTrash(const QList<FileTarget>& targets,
-                                  const RemovalEnvironment& environment = RemovalEnvironment::current());
+[[nodiscard]] Outcome remove(const CleanupItem& item, const RemovalEnvironment& environment);
 
 }  // namespace Remover

@@ -1,10 +1,12 @@
 #include "actions/SecurePath.h"
 
+#include "machinery/FolderListing.h"
+
 #include <QFile>
 #include <QList>
 
+#include <algorithm>
 #include <cerrno>
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -47,10 +49,9 @@ Verdict descend(Descriptor& folder, const QByteArray& name, const QByteArray& pr
     return sameObject(byPath, byDescriptor) ? Verdict::ok : Verdict::changed;
 }
 
-bool roundTrips(const char* name)
+bool roundTrips(const QByteArray& name)
 {
-    const QByteArray bytes(name);
-    return QFile::encodeName(QFile::decodeName(bytes)) == bytes;
+    return QFile::encodeName(QFile::decodeName(name)) == name;
 }
 
 }  // namespace
@@ -94,22 +95,12 @@ bool isAmbiguousName(int folder, const QByteArray& name)
     static const QByteArray replacement = QString(QChar::ReplacementCharacter).toUtf8();
     if (!name.contains(replacement))
         return false;
-    const int listing = ::openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    DIR* entries = listing >= 0 ? ::fdopendir(listing) : nullptr;
-    if (!entries) {
-        if (listing >= 0)
-            ::close(listing);
+    const std::optional<QByteArrayList> names = FolderListing::names(folder);
+    if (!names)
         return true;  // can't tell, so don't guess which object the name means
-    }
-    bool ambiguous = false;
-    while (const dirent* entry = ::readdir(entries)) {
-        if (!roundTrips(entry->d_name) && QFile::encodeName(QFile::decodeName(entry->d_name)) == name) {
-            ambiguous = true;
-            break;
-        }
-    }
-    ::closedir(entries);
-    return ambiguous;
+    return std::any_of(names->begin(), names->end(), [&](const QByteArray& entry) {
+        return !roundTrips(entry) && QFile::encodeName(QFile::decodeName(entry)) == name;
+    });
 }
 
 }  // namespace SecurePath

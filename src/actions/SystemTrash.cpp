@@ -1,7 +1,7 @@
 #include "actions/SystemTrash.h"
 
-#include "actions/Descriptor.h"
 #include "actions/FreedesktopTrash.h"
+#include "machinery/Descriptor.h"
 #include "platform/Platform.h"
 
 #include <QFile>
@@ -25,17 +25,6 @@ bool sameObject(int a, int b)
     struct stat second {};
     return ::fstat(a, &first) == 0 && ::fstat(b, &second) == 0 && first.st_dev == second.st_dev
         && first.st_ino == second.st_ino;
-}
-
-// The requested object's identity, read with a status call on `name` relative to `folder`
-// (AT_FDCWD for a path). A status call needs no permission to list the folder it looks into.
-bool isRequested(int folder, const QByteArray& name, const TrashRequest& request)
-{
-    struct stat info {};
-    if (::fstatat(folder, name.constData(), &info, AT_SYMLINK_NOFOLLOW) != 0)
-        return false;
-    return qint32(info.st_dev) == request.device && quint64(info.st_ino) == request.inode
-        && (!request.birth || Platform::birthNanosecondsAt(folder, name.constData()) == request.birth);
 }
 
 QByteArray folderOf(const QString& path)
@@ -90,13 +79,13 @@ bool refusedForPermission(const QString& error)
 TrashResult moveThroughFileManager(const TrashRequest& request, const FileManagerCalls& calls)
 {
     const Descriptor resolved(calls.openFolder(folderOf(request.path)));
-    if (!resolved.isValid() || !sameObject(resolved.get(), request.folder) || !isRequested(request.folder, request.name, request))
+    if (!resolved.isValid() || !sameObject(resolved.get(), request.folder) || !request.object.isObjectAt(request.folder, request.name.constData()))
         return anotherObject;
     const FileManagerAnswer answer = calls.trash(request.path);
     if (!answer.landed)
         return {std::nullopt, answer.error, refusedForPermission(answer.error), false};
     const QByteArray landed = QFile::encodeName(*answer.landed);
-    if (isRequested(AT_FDCWD, landed, request))
+    if (request.object.isObjectAt(AT_FDCWD, landed.constData()))
         return {answer.landed, QString(), false, false};
     const Descriptor nowResolved(calls.openFolder(folderOf(request.path)));
     if (nowResolved.isValid() && sameObject(nowResolved.get(), resolved.get()))

@@ -1,6 +1,5 @@
 #include "actions/TargetCheck.h"
 
-#include "actions/MovedTargets.h"
 #include "actions/SecurePath.h"
 #include "machinery/Fingerprint.h"
 #include "platform/Platform.h"
@@ -33,11 +32,11 @@ bool isSameObject(const FileTarget& target, qint32 device, quint64 inode)
     return target.device == device && target.inode == inode;
 }
 
-std::optional<QString> vanishedProblem(const FileTarget& target, int error)
+std::optional<QString> vanishedProblem(const FileTarget& target, int error, const RemovalEnvironment& environment)
 {
     if (error != ENOENT && error != ENOTDIR)
         return RemovalReasons::folderUnreadable();
-    if (MovedTargets::contains(target))
+    if (environment.movedTargets->contains(target))
         return std::nullopt;  // it went to the Trash with an earlier item
     return RemovalReasons::noLongerExists();
 }
@@ -48,9 +47,7 @@ std::optional<QString> objectProblem(const FileTarget& target, const struct stat
 {
     if (S_ISLNK(info.st_mode))
         return RemovalReasons::symbolicLink();
-    if (!isSameObject(target, qint32(info.st_dev), quint64(info.st_ino)))
-        return RemovalReasons::changedSinceScan();
-    if (target.birth && Platform::birthNanosecondsAt(AT_FDCWD, QFile::encodeName(target.path).constData()) != target.birth)
+    if (!target.isObject(AT_FDCWD, QFile::encodeName(target.path).constData(), info))
         return RemovalReasons::changedSinceScan();
     if (target.content && !hasSameContent(*target.content, info))
         return RemovalReasons::changedSinceScan();
@@ -119,7 +116,7 @@ std::optional<QString> problem(const FileTarget& target, const RemovalEnvironmen
         return RemovalReasons::outsideHome();
     struct stat info {};
     if (::lstat(QFile::encodeName(target.path).constData(), &info) != 0)
-        return vanishedProblem(target, errno);
+        return vanishedProblem(target, errno, environment);
     if (auto found = objectProblem(target, info, environment.cancellation))
         return found;
     if (auto found = parentProblem(target))

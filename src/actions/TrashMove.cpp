@@ -1,12 +1,10 @@
 #include "actions/TrashMove.h"
 
-#include "actions/Descriptor.h"
 #include "actions/FinderTrash.h"
-#include "actions/MovedTargets.h"
 #include "actions/OwnerWrite.h"
 #include "actions/SecurePath.h"
 #include "actions/TargetCheck.h"
-#include "platform/Platform.h"
+#include "machinery/Descriptor.h"
 #include "vocabulary/AllowedPlace.h"
 #include "vocabulary/FileStatus.h"
 #include "vocabulary/RemovalReasons.h"
@@ -42,12 +40,10 @@ std::optional<QString> openingProblem(SecurePath::Verdict verdict)
     return RemovalReasons::changedSinceScan();
 }
 
-// The scanned object, unchanged: identity with birth time, and the content stamp for a file.
-bool isScannedObject(const FileTarget& target, const struct stat& info, std::optional<qint64> birth)
+// The scanned object, unchanged: its identity, and the content stamp for a file.
+bool isScannedObject(const FileTarget& target, const SecurePath::OpenedParent& parent, const struct stat& info)
 {
-    if (S_ISLNK(info.st_mode) || qint32(info.st_dev) != target.device || quint64(info.st_ino) != target.inode)
-        return false;
-    if (target.birth && birth != target.birth)
+    if (S_ISLNK(info.st_mode) || !target.isObject(parent.folder.get(), parent.name.constData(), info))
         return false;
     return !target.content || TargetCheck::hasSameContent(*target.content, info);
 }
@@ -62,8 +58,7 @@ std::optional<QString> lastLookProblem(const FileTarget& target, const SecurePat
     struct stat info {};
     if (::fstatat(parent.folder.get(), parent.name.constData(), &info, AT_SYMLINK_NOFOLLOW) != 0)
         return errno == ENOENT ? RemovalReasons::noLongerExists() : RemovalReasons::folderUnreadable();
-    const auto birth = Platform::birthNanosecondsAt(parent.folder.get(), parent.name.constData());
-    if (!isScannedObject(target, info, birth))
+    if (!isScannedObject(target, parent, info))
         return RemovalReasons::changedSinceScan();
     return std::nullopt;
 }
@@ -91,20 +86,20 @@ std::optional<QString> trashRefused(const FileTarget& target, const TrashResult&
         return RemovalReasons::trashFailed(result.error);
     auto finderProblem = FinderTrash::moveToTrash(target.path, environment.tools.osascript, environment.cancellation);
     if (!finderProblem)
-        MovedTargets::record(target);
+        environment.movedTargets->record(target);
     return finderProblem;
 }
 
 TrashRequest requestFor(const FileTarget& target, const SecurePath::OpenedParent& parent)
 {
-    return {target.path, parent.folder.get(), parent.name, target.device, target.inode, target.birth};
+    return {target.path, parent.folder.get(), parent.name, target};
 }
 
 }  // namespace
 
 std::optional<QString> moveOne(const FileTarget& target, const RemovalEnvironment& environment)
 {
-    if (!FileStatus::exists(target.path) && MovedTargets::contains(target))
+    if (!FileStatus::exists(target.path) && environment.movedTargets->contains(target))
         return std::nullopt;
     const SecurePath::OpenedParent parent = SecurePath::openParent(target.path);
     if (auto problem = lastLookProblem(target, parent))
@@ -116,7 +111,7 @@ std::optional<QString> moveOne(const FileTarget& target, const RemovalEnvironmen
     const TrashResult result = environment.trash(requestFor(target, parent));
     if (!result.moved())
         return trashRefused(target, result, environment);
-    MovedTargets::record(target);
+    environment.movedTargets->record(target);
     return std::nullopt;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "vocabulary/FileTarget.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QtGlobal>
@@ -14,9 +16,7 @@ struct TrashRequest {
     QString path;      // the original, absolute; recorded in the Trash and used where only a path will do
     int folder = -1;   // its folder, opened without following links and held by the caller
     QByteArray name;   // its name in `folder`
-    qint32 device = 0;  // the identity that was checked
-    quint64 inode = 0;
-    std::optional<qint64> birth;
+    FileTarget object;  // the object that was checked; only its identity counts here
 };
 
 // What one move to the Trash reports.

@@ -1,6 +1,6 @@
 #include "actions/TreeRemoval.h"
 
-#include "actions/Descriptor.h"
+#include "machinery/Descriptor.h"
 #include "actions/OwnerWrite.h"
 #include "machinery/TreeWalker.h"
 

@@ -3,6 +3,7 @@
 #include "machinery/OrphanReaper.h"
 #include "machinery/ToolStop.h"
 #include "platform/Platform.h"
+#include "vocabulary/SystemError.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -17,7 +18,6 @@
 #include <spawn.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
-#include <system_error>
 #include <thread>
 #include <unistd.h>
 
@@ -33,11 +33,6 @@ constexpr milliseconds pollInterval{20};
 constexpr milliseconds drainLimit = 100 * pollInterval;
 constexpr milliseconds longestTimeout = std::chrono::hours(24 * 365);  // keeps the deadline from overflowing
 constexpr int messageLimit = 300;
-
-QString systemDescription(int error)
-{
-    return QString::fromStdString(std::generic_category().message(error));
-}
 
 // One captured output: the reading end of its pipe and what came through it.
 struct Stream {
@@ -343,7 +338,7 @@ Result run(const QString& executable, const QStringList& arguments, milliseconds
     Capture capture;
     const pid_t tool = launch(QFile::encodeName(executable), argumentStrings, environmentStrings, capture);
     if (tool < 0)
-        return {std::nullopt, systemDescription(-tool)};
+        return {std::nullopt, SystemError::describe(-tool)};
 
     Output output;
     const StopCondition condition{Clock::now() + std::clamp(timeout, milliseconds(0), longestTimeout), cancellation};

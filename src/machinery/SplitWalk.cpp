@@ -1,6 +1,7 @@
 #include "machinery/SplitWalk.h"
 
 #include "machinery/CancellationToken.h"
+#include "machinery/Descriptor.h"
 
 #include <algorithm>
 #include <atomic>
@@ -16,12 +17,7 @@ namespace {
 // A folder kept open while subtrees below it wait for a thread: they are opened relative to it,
 // never by their path from the root.
 struct HeldFolder {
-    HeldFolder(int descriptor, QByteArray path) : descriptor(descriptor), path(std::move(path)) {}
-    HeldFolder(const HeldFolder&) = delete;
-    HeldFolder& operator=(const HeldFolder&) = delete;
-    ~HeldFolder() { ::close(descriptor); }
-
-    int descriptor;
+    Descriptor folder;
     QByteArray path;
 };
 
@@ -60,7 +56,7 @@ public:
         if (verdict != Verdict::Enter || entry.depth() != m_splitDepth || !holdParent(entry))
             return verdict;
         Piece subtree = Piece::of(current.fork());
-        subtree.folder = TreeFolder{m_held->descriptor, m_held->path, std::string(entry.name()),
+        subtree.folder = TreeFolder{m_held->folder.get(), m_held->path, std::string(entry.name()),
                                     entry.status(), entry.depth()};
         subtree.parent = m_held;
         Piece after = Piece::of(current.fork());
@@ -83,10 +79,10 @@ private:
     {
         if (m_held)
             return true;
-        const int descriptor = ::fcntl(entry.folderDescriptor(), F_DUPFD_CLOEXEC, 0);
-        if (descriptor < 0)
+        Descriptor folder(::fcntl(entry.folderDescriptor(), F_DUPFD_CLOEXEC, 0));
+        if (!folder.isValid())
             return false;
-        m_held = std::make_shared<HeldFolder>(descriptor, entry.folderPathBytes());
+        m_held = std::make_shared<HeldFolder>(HeldFolder{std::move(folder), entry.folderPathBytes()});
         return true;
     }
 

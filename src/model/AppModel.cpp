@@ -3,19 +3,15 @@
 #include "actions/DiskSpace.h"
 #include "actions/Remover.h"
 #include "actions/SystemAccess.h"
-#include "machinery/FileSizer.h"
+#include "machinery/Background.h"
 #include "model/SettingsStore.h"
 #include "model/StatsStore.h"
 #include "model/StorageTask.h"
 #include "platform/Platform.h"
 #include "scan/ScannerCatalog.h"
-#include "vocabulary/SharedScanFolders.h"
-#include "vocabulary/SystemPlaces.h"
 
 #include <QCoreApplication>
-#include <QPointer>
 #include <QProcess>
-#include <QThreadPool>
 
 AppModel::Services AppModel::defaultServices()
 {
@@ -31,19 +27,13 @@ AppModel::Services AppModel::defaultServices()
         return state;
     };
     services.now = [] { return QDateTime::currentDateTimeUtc(); };
-    services.removeItem = [](const CleanupItem& item) { return Remover::remove(item); };
+    services.removeItem = [](const CleanupItem& item, const RemovalEnvironment& environment) {
+        return Remover::remove(item, environment);
+    };
     services.emptyTrash = [] { return SystemAccess::emptyTrash(); };
     services.moveItem = [](const CleanupItem& item, const QString& destination, const Mover::Progress& progress,
-                           const CancellationToken& stop) {
-        Mover::Environment environment = Mover::Environment::current();
-        environment.removal.cancellation = &stop;
+                           const Mover::Environment& environment) {
         return Mover::move(item, destination, progress, environment);
-    };
-    services.measureTrash = [](const QString& home) -> std::optional<qint64> {
-        const FileSizer::Measurement measurement = FileSizer::measure(SystemPlaces::trashFolder(home));
-        if (!measurement.complete)
-            return std::nullopt;
-        return measurement.bytes;
     };
     services.analyzeStorage = [](const StorageAnalyzer::Request& request) { return StorageAnalyzer::analyze(request); };
     services.diskUsed = [](const QString& home) -> std::optional<qint64> {
@@ -254,17 +244,9 @@ void AppModel::apply(const ScanOutputs& outputs, bool stopped)
 
 void AppModel::refreshSystemState()
 {
-    const QString home = m_settings->home();
-    auto read = m_services.readSystemState;
-    QPointer<AppModel> self(this);
-    // The global pool is waited for when the application ends, so the read never outlives it.
-    QThreadPool::globalInstance()->start([self, read, home] {
-        const SystemState state = read(home);
-        QMetaObject::invokeMethod(qApp, [self, state] {
-            if (!self)
-                return;
-            self->m_systemState = state;
-            emit self->systemStateChanged();
-        }, Qt::QueuedConnection);
-    });
+    Background::run(this, [read = m_services.readSystemState, home = m_settings->home()] { return read(home); },
+                    [this](const SystemState& state) {
+                        m_systemState = state;
+                        emit systemStateChanged();
+                    });
 }

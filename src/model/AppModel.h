@@ -4,6 +4,9 @@
 #include "model/CleanupSession.h"
 #include "model/MoveSession.h"
 #include "model/ScanTask.h"
+#include "model/Selection.h"
+#include "model/TrashState.h"
+#include "model/UpdateState.h"
 #include "storage/StorageAnalyzer.h"
 #include "update/ImageInstall.h"
 #include "update/UpdateChecker.h"
@@ -28,8 +31,10 @@ class StatsStore;
 class StorageTask;
 
 // The one owner of what the screens show: per-category results, the selection, the running
-// scan and rescans, and the system figures. Scanners run on worker threads and hand their
-// outputs back with queued calls; everything here is read and written on the GUI thread only.
+// scan and rescans, and the system figures. Screens read its parts (Selection, TrashState,
+// UpdateState, the sessions) and change them only through it. Scanners run on worker threads and
+// hand their outputs back with queued calls; everything here is read and written on the GUI
+// thread only, and nothing on a worker reads the stores: work gets the facts it needs as values.
 class AppModel : public QObject {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(AppModel)
@@ -46,19 +51,19 @@ public:
         std::function<std::vector<std::shared_ptr<const Scanner>>()> scanners;
         std::function<SystemState(const QString& home)> readSystemState;  // runs on a worker
         std::function<QDateTime()> now;
-        // Removes one item for good or to the Trash; runs on the cleanup's worker thread.
-        std::function<CleanupSession::Outcome(const CleanupItem&)> removeItem;
+        // Removes one item for good or to the Trash in the environment the cleanup was prepared
+        // with; runs on the cleanup's worker thread.
+        std::function<CleanupSession::Outcome(const CleanupItem&, const RemovalEnvironment&)> removeItem;
         // Empties the Trash; the message to show when it failed. Runs on a worker thread.
         std::function<std::optional<QString>()> emptyTrash;
-        // Bytes in the Trash now; absent when it can't be measured. Runs on a worker thread.
-        std::function<std::optional<qint64>(const QString& home)> measureTrash;
         // The storage analysis; absent when cancelled. Runs on the analysis's worker thread.
         std::function<std::optional<StorageReport>(const StorageAnalyzer::Request&)> analyzeStorage;
         // Bytes in use on the home's volume; absent when unknown. Runs on a worker thread.
         std::function<std::optional<qint64>(const QString& home)> diskUsed;
-        // Moves one item to another disk; runs on the move's worker thread.
+        // Moves one item to another disk in the environment the move started with (its
+        // cancellation is the Stop button); runs on the move's worker thread.
         std::function<Mover::Outcome(const CleanupItem&, const QString& destination, const Mover::Progress&,
-                                     const CancellationToken& stop)> moveItem;
+                                     const Mover::Environment&)> moveItem;
         // Where the update check asks; tests point it at a local server.
         UpdateSite updateSite;
         // The running ".app" folder an update replaces; empty where the app is no bundle.
@@ -100,37 +105,28 @@ public:
     bool isAnalyzingStorage() const;
     // The last finished analysis; kept until the next one finishes.
     const std::optional<StorageReport>& storageReport() const { return m_storageReport; }
-    // Puts a folder on the Safe List: nothing inside it is shown by scans any more.
+    // Puts a folder on the Safe List: nothing inside it is shown by scans any more; a toast says so.
     void addFolderToSafeList(const QString& path);
 
-    // --- Selection
-    bool isSelected(const QString& id) const { return m_selection.contains(id); }
-    const QSet<QString>& selection() const { return m_selection; }
-    bool canSelect(const CleanupItem& item) const;
+    // --- Selection (AppModelSelection.cpp)
+    const Selection& selection() const { return m_selection; }
     void setSelected(const CleanupItem& item, bool selected);
     void setAll(const QList<CleanupItem>& items, bool selected);
     void clearSelection();
-    bool isLastUnselectedCopy(const CleanupItem& item) const;
-    std::optional<QString> duplicateGroup(const CleanupItem& item) const;
-    void indexDuplicates();
-    void removeLoneCopies();
     QList<CleanupItem> selectedItems() const;
     qint64 selectedSize() const;
     qint64 selectedSize(const QList<CategoryID>& categories) const;
-    // True when removing `item` would leave no copy of its content among `remaining`.
-    bool duplicateWouldBeLost(const CleanupItem& item, const QList<CleanupItem>& remaining) const;
-    // The same rule from the rows' own group keys, for worker threads.
-    static bool wouldLoseLastCopy(const CleanupItem& item, const QList<CleanupItem>& remaining);
     // The rows of a category that pass the size filter and the search text, in list order.
     QList<CleanupItem> visibleItems(CategoryID category, const QString& search = {}) const;
     SizeFilter sizeFilter() const;
     void setSizeFilter(SizeFilter filter);
 
-    // --- Safe List
+    // --- Safe List (AppModelSafeList.cpp)
     void addToSafeList(const CleanupItem& item);
-    void removeSafeItemsFromResults();
     void removeFromSafeList(const QString& id);
-    void shareScanFolders() const;
+    // A folder added on the Safe List screen: what it holds leaves the lists at once.
+    void addSafeFolder(const QString& path);
+    void removeSafeFolder(const QString& path);
     const QString& toast() const { return m_toast; }
     void showToast(const QString& text);
 
@@ -149,9 +145,7 @@ public:
     void stopForQuit(std::function<void()> then);
     void emptyTrash();
     void refreshTrash();
-    bool isEmptyingTrash() const { return m_isEmptyingTrash; }
-    const QString& trashMessage() const { return m_trashMessage; }
-    std::optional<qint64> trashBytes() const { return m_trashBytes; }
+    const TrashState& trashState() const { return m_trash; }
 
     // --- Move to another disk (AppModelMove.cpp)
     MoveSession* moveSession() const { return m_move.get(); }
@@ -167,20 +161,16 @@ public:
                               std::function<void(std::optional<QString>)> answer);
     // --- Updates
     // Asks the maker's site for a newer build; does nothing while a check runs. The answer
-    // arrives later as updateResult() with updateStateChanged().
+    // arrives later as updateState().result with updateStateChanged().
     void checkForUpdates();
-    bool isCheckingForUpdates() const { return m_isCheckingForUpdates; }
-    // The last check's answer; absent before the first check has finished.
-    const std::optional<UpdateChecker::Result>& updateResult() const { return m_updateResult; }
+    const UpdateState& updateState() const { return m_updates; }
     // The page that describes `release`, safe to open.
     QUrl releasePage(const UpdateChecker::Release& release) const;
     // Whether this copy may replace itself with an available release (never on Linux).
     bool canInstallUpdate() const;
     // Downloads, checks and installs the available release, then relaunches and quits. A
-    // failure's sentence becomes updateInstallError(); the running copy is then unchanged.
+    // failure's sentence becomes updateState().installError; the running copy is then unchanged.
     void installUpdate();
-    bool isInstallingUpdate() const { return m_isInstallingUpdate; }
-    const QString& updateInstallError() const { return m_updateInstallError; }
     // The ".app" folder this program runs from; empty when it isn't in one.
     static QString runningAppBundle();
 
@@ -210,6 +200,9 @@ private:
     void markUnfinishedDone(const QList<CategoryID>& categories, bool stopped);
     void setState(CategoryID category, CategoryResult::State state);
     bool removeItemsWhere(const std::function<bool(const CleanupItem&)>& predicate);
+    void removeSafeItemsFromResults();
+    void indexDuplicates();
+    void removeLoneCopies();
 
     SettingsStore* m_settings;
     StatsStore* m_stats;
@@ -217,18 +210,15 @@ private:
     std::map<CategoryID, CategoryResult> m_results;
     bool m_isScanning = false;
     bool m_hasScanned = false;
-    QSet<QString> m_selection;
-    QHash<QString, QString> m_duplicateGroupOf;          // item id -> group key
-    QHash<QString, QStringList> m_duplicateMembers;      // group key -> member ids in list order
+    Selection m_selection;
     std::shared_ptr<ScanProgress> m_progress = std::make_shared<ScanProgress>();
     QUuid m_fullScanId;                                  // null when no full scan runs
     std::map<QUuid, RunningScan> m_scans;                // the full scan and every rescan
-    void runCleanup(CleanupSession* session, QList<CleanupItem> items, QList<CleanupItem> copies);
+    void runCleanup(CleanupSession* session, QList<CleanupItem> items, QList<CleanupItem> copies, QString home);
     bool removeOne(CleanupSession* session, const CleanupItem& item, const QList<CleanupItem>& copies);
     void finishCleanup(std::optional<qint64> freeAfter);
     void joinCleanupThread();
-    template <typename Work>
-    void onWorker(Work work);
+    void trashEmptied(const std::optional<QString>& failure);
 
     void storageFinished(quint64 generation, const std::optional<StorageReport>& report);
 
@@ -241,9 +231,7 @@ private:
     std::unique_ptr<CleanupSession> m_lastRunCleanup;
     std::thread m_cleanupThread;
     std::function<void()> m_quitCompletion;
-    bool m_isEmptyingTrash = false;
-    QString m_trashMessage;
-    std::optional<qint64> m_trashBytes;
+    TrashState m_trash;
 
     void finishMove(const Mover::Outcome& outcome);
     void joinMoveThread();
@@ -253,8 +241,5 @@ private:
     std::thread m_moveThread;
     void installDownloaded(const Updater::Download& download, const UpdateChecker::Release& release);
     void finishInstall(const std::optional<QString>& error);
-    bool m_isCheckingForUpdates = false;
-    bool m_isInstallingUpdate = false;
-    QString m_updateInstallError;
-    std::optional<UpdateChecker::Result> m_updateResult;
+    UpdateState m_updates;
 };

@@ -1,14 +1,11 @@
 // The cleanup session of AppModel: one worker thread removes the items one at a time and
 // reports each step back to the GUI thread, where the results and the session change.
 #include "actions/TargetCheck.h"
+#include "machinery/Background.h"
 #include "model/AppModel.h"
 #include "model/SelectionIndex.h"
 #include "model/SettingsStore.h"
 #include "model/StatsStore.h"
-
-#include <QCoreApplication>
-#include <QPointer>
-#include <QThreadPool>
 
 #include <algorithm>
 
@@ -28,7 +25,7 @@ bool isOnDisk(const CleanupItem& copy)
 // disk right before the copy goes.
 std::optional<QString> lastCopyReason(const CleanupItem& item, const QList<CleanupItem>& copies)
 {
-    if (AppModel::wouldLoseLastCopy(item, copies))
+    if (Selection::wouldLoseLastCopy(item, copies))
         //: Why a duplicate was not removed: every other copy is gone or being removed
         return AppModel::tr("It's the last copy of this file, so it was kept.");
     if (!item.duplicateGroup)
@@ -43,13 +40,6 @@ std::optional<QString> lastCopyReason(const CleanupItem& item, const QList<Clean
 
 }  // namespace
 
-template <typename Work>
-void AppModel::onWorker(Work work)
-{
-    // The global pool is waited for when the application ends.
-    QThreadPool::globalInstance()->start(std::move(work));
-}
-
 void AppModel::prepareCleanup()
 {
     if (isBusyScanning() || m_cleanup || m_move)
@@ -61,8 +51,7 @@ void AppModel::prepareCleanup()
         if (!index.covering(i))
             items.append(selected[i]);
     }
-    shareScanFolders();
-    m_cleanup = std::make_unique<CleanupSession>(items);
+    m_cleanup = std::make_unique<CleanupSession>(items, RemovalEnvironment::system(m_settings->home(), m_settings->scanRoots()));
     emit cleanupChanged();
 }
 
@@ -76,15 +65,14 @@ void AppModel::startCleanup()
     // The worker never waits for the GUI thread, so stopping and joining it can't deadlock; it
     // keeps its own account of which duplicates still exist.
     m_cleanupThread = std::thread([this, session, items = session->items(),
-                                   copies = result(CategoryID::duplicates).items] {
-        runCleanup(session, items, copies);
+                                   copies = result(CategoryID::duplicates).items, home = m_settings->home()] {
+        runCleanup(session, items, copies, home);
     });
     emit cleanupChanged();
 }
 
-void AppModel::runCleanup(CleanupSession* session, QList<CleanupItem> items, QList<CleanupItem> copies)
+void AppModel::runCleanup(CleanupSession* session, QList<CleanupItem> items, QList<CleanupItem> copies, QString home)
 {
-    const QString home = m_settings->home();
     const std::optional<qint64> freeBefore = m_services.readSystemState(home).freeBytes;
     QMetaObject::invokeMethod(this, [session, freeBefore] { session->setFreeBefore(freeBefore); }, Qt::QueuedConnection);
     for (const CleanupItem& item : items) {
@@ -103,7 +91,8 @@ bool AppModel::removeOne(CleanupSession* session, const CleanupItem& item, const
 {
     QMetaObject::invokeMethod(this, [session, title = item.title] { session->setCurrent(title); }, Qt::QueuedConnection);
     const std::optional<QString> kept = lastCopyReason(item, copies);
-    const CleanupSession::Outcome outcome = kept ? CleanupSession::Outcome::failed(*kept) : m_services.removeItem(item);
+    const CleanupSession::Outcome outcome = kept ? CleanupSession::Outcome::failed(*kept)
+                                                 : m_services.removeItem(item, session->environment());
     QMetaObject::invokeMethod(this, [this, session, item, outcome] {
         session->record(item, outcome);
         if (outcome.succeeded())
@@ -189,41 +178,28 @@ void AppModel::finishQuitWhenIdle()
 
 void AppModel::emptyTrash()
 {
-    if (m_isEmptyingTrash)
+    if (m_trash.isEmptying)
         return;
-    m_isEmptyingTrash = true;
+    m_trash.isEmptying = true;
     emit trashChanged();
-    QPointer<AppModel> self(this);
-    onWorker([self, empty = m_services.emptyTrash] {
-        const std::optional<QString> failure = empty ? empty() : std::nullopt;
-        QMetaObject::invokeMethod(qApp, [self, failure] {
-            if (!self)
-                return;
-            self->m_isEmptyingTrash = false;
-            self->m_trashMessage = failure.value_or(QString());
-            if (!failure && self->m_cleanup)
-                self->m_cleanup->setTrashEmptied();
-            if (!failure && self->m_lastRunCleanup)
-                self->m_lastRunCleanup->setTrashEmptied();
-            emit self->trashChanged();
-            self->refreshTrash();
-        }, Qt::QueuedConnection);
-    });
+    Background::run(this, [empty = m_services.emptyTrash] { return empty ? empty() : std::nullopt; },
+                    [this](const std::optional<QString>& failure) { trashEmptied(failure); });
 }
 
+void AppModel::trashEmptied(const std::optional<QString>& failure)
+{
+    m_trash = {false, failure.value_or(QString())};
+    if (!failure && m_cleanup)
+        m_cleanup->setTrashEmptied();
+    if (!failure && m_lastRunCleanup)
+        m_lastRunCleanup->setTrashEmptied();
+    emit trashChanged();
+    refreshTrash();
+}
+
+// The Trash row is the Trash scanner's own; scanning it again measures it.
 void AppModel::refreshTrash()
 {
-    // The Trash row is the Trash scanner's own; scanning it again keeps row and figure in step.
     if (result(CategoryID::trash).state == CategoryResult::State::done)
         rescan(CategoryID::trash);
-    QPointer<AppModel> self(this);
-    onWorker([self, measure = m_services.measureTrash, home = m_settings->home()] {
-        const std::optional<qint64> bytes = measure ? measure(home) : std::nullopt;
-        QMetaObject::invokeMethod(qApp, [self, bytes] {
-            if (!self)
-                return;
-            self->m_trashBytes = bytes;
-            emit self->trashChanged();
-        }, Qt::QueuedConnection);
-    });
 }

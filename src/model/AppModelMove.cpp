@@ -2,16 +2,17 @@
 // progress and outcome come back to the GUI thread through queued calls.
 #include "model/AppModel.h"
 
-#include <QCoreApplication>
+#include "machinery/Background.h"
+#include "model/SettingsStore.h"
+
 #include <QPointer>
-#include <QThreadPool>
 
 bool AppModel::startMove(const CleanupItem& item, const QString& destination)
 {
     if (isBusyScanning() || m_cleanup || m_move || !item.canMoveToAnotherDisk())
         return false;
     joinMoveThread();
-    shareScanFolders();
+    Mover::Environment environment = Mover::Environment::system(m_settings->home(), m_settings->scanRoots());
     m_move = std::make_unique<MoveSession>(item, destination);
     QPointer<MoveSession> session(m_move.get());
     const Mover::Progress progress = [this, session](qint64 copied, qint64 total) {
@@ -21,8 +22,10 @@ bool AppModel::startMove(const CleanupItem& item, const QString& destination)
         }, Qt::QueuedConnection);
     };
     // The worker never waits for the GUI thread, so stopping and joining it can't deadlock.
-    m_moveThread = std::thread([this, item, destination, progress, stop = m_move->stopToken(), move = m_services.moveItem] {
-        const Mover::Outcome outcome = move(item, destination, progress, stop);
+    m_moveThread = std::thread([this, item, destination, progress, environment, stop = m_move->stopToken(),
+                                move = m_services.moveItem]() mutable {
+        environment.removal.cancellation = &stop;
+        const Mover::Outcome outcome = move(item, destination, progress, environment);
         QMetaObject::invokeMethod(this, [this, outcome] { finishMove(outcome); }, Qt::QueuedConnection);
     });
     emit moveChanged();
@@ -67,13 +70,5 @@ void AppModel::closeMove()
 void AppModel::checkMoveDestination(const CleanupItem& item, const QString& destination, QObject* context,
                                     std::function<void(std::optional<QString>)> answer)
 {
-    QPointer<QObject> receiver(context);
-    // The global pool is waited for when the application ends.
-    QThreadPool::globalInstance()->start([receiver, item, destination, answer = std::move(answer)] {
-        const std::optional<QString> problem = Mover::problem(destination, item);
-        QMetaObject::invokeMethod(qApp, [receiver, answer, problem] {
-            if (receiver)
-                answer(problem);
-        }, Qt::QueuedConnection);
-    });
+    Background::run(context, [item, destination] { return Mover::problem(destination, item); }, std::move(answer));
 }

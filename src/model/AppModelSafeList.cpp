@@ -1,7 +1,6 @@
 // The Safe List actions of AppModel.
 #include "model/AppModel.h"
 #include "model/SettingsStore.h"
-#include "vocabulary/SharedScanFolders.h"
 
 void AppModel::addToSafeList(const CleanupItem& item)
 {
@@ -37,6 +36,17 @@ void AppModel::removeSafeItemsFromResults()
         emit selectionChanged();
 }
 
+void AppModel::addSafeFolder(const QString& path)
+{
+    m_settings->addSafeFolder(path);
+    removeSafeItemsFromResults();
+}
+
+void AppModel::removeSafeFolder(const QString& path)
+{
+    m_settings->removeSafeFolder(path);
+}
+
 void AppModel::removeFromSafeList(const QString& id)
 {
     const auto info = m_settings->safeItemInfo().value(id);
@@ -45,11 +55,6 @@ void AppModel::removeFromSafeList(const QString& id)
     // Rescanning brings the row back at once, but only where the person has scanned before.
     if (category && result(*category).state == CategoryResult::State::done)
         rescan(*category);
-}
-
-void AppModel::shareScanFolders() const
-{
-    SharedScanFolders::publish(m_settings->scanRoots());
 }
 
 void AppModel::showToast(const QString& text)

@@ -1,98 +1,29 @@
-// Selection and duplicate protection of AppModel: nothing is selected for the person, and a
-// cleanup may never remove every copy of a duplicated file.
+// Selection of AppModel: the rows the person picked, kept in step with the results.
 #include "model/AppModel.h"
 #include "model/SettingsStore.h"
 #include "format/RelativeDate.h"
 
-bool AppModel::canSelect(const CleanupItem& item) const
-{
-    // The Trash row is emptied with its own button, never through a selection.
-    return !item.isLocked() && item.removal.kind() != Removal::Kind::emptyTrash;
-}
-
-std::optional<QString> AppModel::duplicateGroup(const CleanupItem& item) const
-{
-    if (item.duplicateGroup)
-        return item.duplicateGroup;
-    const auto found = m_duplicateGroupOf.constFind(item.id);
-    if (found == m_duplicateGroupOf.constEnd())
-        return std::nullopt;
-    return *found;
-}
-
-bool AppModel::isLastUnselectedCopy(const CleanupItem& item) const
-{
-    const auto group = duplicateGroup(item);
-    if (!group || m_selection.contains(item.id))
-        return false;
-    for (const QString& member : m_duplicateMembers.value(*group)) {
-        if (member != item.id && !m_selection.contains(member))
-            return false;
-    }
-    return true;
-}
-
 void AppModel::setSelected(const CleanupItem& item, bool selected)
 {
-    if (!canSelect(item))
-        return;
-    if (!selected) {
-        if (m_selection.remove(item.id))
-            emit selectionChanged();
-        return;
-    }
-    if (isLastUnselectedCopy(item) || m_selection.contains(item.id))
-        return;
-    m_selection.insert(item.id);
-    emit selectionChanged();
+    if (m_selection.set(item, selected))
+        emit selectionChanged();
 }
 
 void AppModel::setAll(const QList<CleanupItem>& items, bool selected)
 {
-    if (!selected) {
-        for (const CleanupItem& item : items) {
-            if (!item.isLocked())
-                m_selection.remove(item.id);
-        }
+    if (m_selection.setAll(items, selected))
         emit selectionChanged();
-        return;
-    }
-    // Rows not yet selected go first, so an already selected copy is what gets skipped when a
-    // group would otherwise lose its last unselected member.
-    QList<CleanupItem> ordered;
-    for (const CleanupItem& item : items) {
-        if (!m_selection.contains(item.id))
-            ordered.append(item);
-    }
-    for (const CleanupItem& item : items) {
-        if (m_selection.contains(item.id))
-            ordered.append(item);
-    }
-    for (const CleanupItem& item : ordered) {
-        if (canSelect(item) && !isLastUnselectedCopy(item))
-            m_selection.insert(item.id);
-    }
-    emit selectionChanged();
 }
 
 void AppModel::clearSelection()
 {
-    if (m_selection.isEmpty())
-        return;
-    m_selection.clear();
-    emit selectionChanged();
+    if (m_selection.clear())
+        emit selectionChanged();
 }
 
 void AppModel::indexDuplicates()
 {
-    m_duplicateGroupOf.clear();
-    m_duplicateMembers.clear();
-    for (const CleanupItem& item : result(CategoryID::duplicates).items) {
-        if (!item.duplicateGroup)
-            continue;
-        m_duplicateGroupOf.insert(item.id, *item.duplicateGroup);
-        m_duplicateMembers[*item.duplicateGroup].append(item.id);
-    }
+    m_selection.indexDuplicates(result(CategoryID::duplicates).items);
 }
 
 void AppModel::removeLoneCopies()
@@ -148,29 +79,6 @@ qint64 AppModel::selectedSize(const QList<CategoryID>& categories) const
         }
     }
     return total;
-}
-
-bool AppModel::duplicateWouldBeLost(const CleanupItem& item, const QList<CleanupItem>& remaining) const
-{
-    const auto group = duplicateGroup(item);
-    if (!group)
-        return false;
-    for (const CleanupItem& other : remaining) {
-        if (other.id != item.id && duplicateGroup(other) == group)
-            return false;
-    }
-    return true;
-}
-
-bool AppModel::wouldLoseLastCopy(const CleanupItem& item, const QList<CleanupItem>& remaining)
-{
-    if (!item.duplicateGroup)
-        return false;
-    for (const CleanupItem& other : remaining) {
-        if (other.id != item.id && other.duplicateGroup == item.duplicateGroup)
-            return false;
-    }
-    return true;
 }
 
 SizeFilter AppModel::sizeFilter() const

@@ -56,8 +56,7 @@ void AppModel::storageFinished(quint64 generation, const std::optional<StorageRe
 
 void AppModel::addFolderToSafeList(const QString& path)
 {
-    m_settings->addSafeFolder(path);
-    removeSafeItemsFromResults();
+    addSafeFolder(path);
     //: Toast after a folder was put on the Safe List; %1 is the folder's name
     showToast(tr("“%1” is on the Safe List.").arg(QFileInfo(path).fileName()));
 }

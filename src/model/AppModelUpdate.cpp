@@ -1,21 +1,21 @@
 #include "model/AppModel.h"
 
+#include "machinery/Background.h"
+
 #include <QCoreApplication>
 #include <QDir>
-#include <QPointer>
-#include <QThreadPool>
 
 void AppModel::checkForUpdates()
 {
-    if (m_isCheckingForUpdates)
+    if (m_updates.isChecking)
         return;
-    m_isCheckingForUpdates = true;
+    m_updates.isChecking = true;
     emit updateStateChanged();
     // The model is the context: a check still under way when it is destroyed reports nothing.
     UpdateChecker::check(m_services.updateSite, UpdateChecker::currentBuild(), this,
                          [this](UpdateChecker::Result result) {
-                             m_isCheckingForUpdates = false;
-                             m_updateResult = std::move(result);
+                             m_updates.isChecking = false;
+                             m_updates.result = std::move(result);
                              emit updateStateChanged();
                          });
 }
@@ -41,13 +41,13 @@ bool AppModel::canInstallUpdate() const
 
 void AppModel::installUpdate()
 {
-    const auto* available = m_updateResult ? m_updateResult->as<UpdateChecker::Result::Available>() : nullptr;
-    if (m_isInstallingUpdate || !available || !canInstallUpdate())
+    const auto* available = m_updates.result ? m_updates.result->as<UpdateChecker::Result::Available>() : nullptr;
+    if (m_updates.isInstalling || !available || !canInstallUpdate())
         return;
     const UpdateChecker::Release release = available->release;
     const std::optional<QUrl> image = release.dmgURL(m_services.updateSite);
-    m_isInstallingUpdate = true;
-    m_updateInstallError.clear();
+    m_updates.isInstalling = true;
+    m_updates.installError.clear();
     emit updateStateChanged();
     if (!image) {
         //: Inside "Couldn't install the update (...)" when the release names no disk image on the maker's site
@@ -67,28 +67,24 @@ void AppModel::installDownloaded(const Updater::Download& download, const Update
     }
     const QString appPath = m_services.runningApp;
     const ImageInstall::Tools tools = m_services.updateTools;
-    QPointer<AppModel> guard(this);
     // The image file lives until the worker is done with it; the model may be gone by then.
-    QThreadPool::globalInstance()->start([guard, download, release, appPath, tools] {
+    Background::run(this, [download, release, appPath, tools] {
         std::optional<QString> error = Updater::checkImage(download.image->fileName(), release.sha256);
         if (!error) {
             const ImageInstall::Identity own{UpdateChecker::bundleIdentifier(), ImageInstall::ownTeam(appPath, tools).value_or(QString())};
             error = ImageInstall::install(download.image->fileName(), appPath, own, tools);
         }
-        QMetaObject::invokeMethod(qApp, [guard, error] {
-            if (guard)
-                guard->finishInstall(error);
-        }, Qt::QueuedConnection);
-    });
+        return error;
+    }, [this](const std::optional<QString>& error) { finishInstall(error); });
 }
 
 void AppModel::finishInstall(const std::optional<QString>& error)
 {
-    m_isInstallingUpdate = false;
+    m_updates.isInstalling = false;
     if (!error && !m_services.relaunch(m_services.runningApp))
         //: Shown when the update is in place but Dustlark couldn't ask macOS to open the new copy
-        m_updateInstallError = tr("The update is installed, but Dustlark couldn't ask macOS to open it. Open Dustlark again.");
+        m_updates.installError = tr("The update is installed, but Dustlark couldn't ask macOS to open it. Open Dustlark again.");
     else
-        m_updateInstallError = error.value_or(QString());
+        m_updates.installError = error.value_or(QString());
     emit updateStateChanged();
 }

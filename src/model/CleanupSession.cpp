@@ -1,7 +1,7 @@
 #include "model/CleanupSession.h"
 
-CleanupSession::CleanupSession(QList<CleanupItem> items, QObject* parent)
-    : QObject(parent), m_items(std::move(items))
+CleanupSession::CleanupSession(QList<CleanupItem> items, RemovalEnvironment environment, QObject* parent)
+    : QObject(parent), m_items(std::move(items)), m_environment(std::move(environment))
 {
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "actions/RemovalEnvironment.h"
 #include "actions/RemovalOutcome.h"
 #include "vocabulary/CleanupItem.h"
 
@@ -12,7 +13,8 @@
 
 // One cleanup: the items fixed when it was prepared, the running figures and the outcome.
 // Lives on the GUI thread; the removal task on a worker thread reports every change back
-// through queued calls, and reads only `stopRequested` (atomic) directly.
+// through queued calls, and reads only `stopRequested` (atomic) and the environment (never
+// changed after construction) directly.
 class CleanupSession : public QObject {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(CleanupSession)
@@ -28,9 +30,11 @@ public:
 
     using Outcome = RemovalOutcome;
 
-    explicit CleanupSession(QList<CleanupItem> items, QObject* parent = nullptr);
+    explicit CleanupSession(QList<CleanupItem> items, RemovalEnvironment environment = {}, QObject* parent = nullptr);
 
     const QList<CleanupItem>& items() const { return m_items; }
+    // What removal may touch and through what, fixed when prepared; read by the worker.
+    const RemovalEnvironment& environment() const { return m_environment; }
     Phase phase() const { return m_phase; }
     const QString& current() const { return m_current; }
     int processed() const { return m_processed; }
@@ -75,6 +79,7 @@ signals:
 
 private:
     QList<CleanupItem> m_items;
+    const RemovalEnvironment m_environment;
     Phase m_phase = Phase::confirming;
     QString m_current;
     int m_processed = 0;

@@ -18,8 +18,8 @@
 // (the app's native store; a QSettings on a temporary file in tests). Every change writes its
 // key back at once. Absent or wrong-typed keys read as their defaults.
 //
-// Thread-safety: GUI thread only. Scanners get copies of what they need through ScanContext;
-// worker threads read other-volume scan folders through SharedScanFolders.
+// Thread-safety: GUI thread only. Scanners get copies of what they need through ScanContext,
+// cleanups and moves through the RemovalEnvironment they are prepared with.
 class SettingsStore : public QObject {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(SettingsStore)
@@ -70,7 +70,6 @@ signals:
 private:
     void load();
     void writeScanRoots();
-    void writeSafeList();
     void safeListDidChange();
     QStringList computeProtectedPaths() const;
     std::optional<QStringList> readStringList(const QString& key) const;

@@ -2,7 +2,6 @@
 
 #include "format/ByteCount.h"
 #include "machinery/DockerEndpoint.h"
-#include "machinery/DockerScanRecord.h"
 #include "machinery/FileSizer.h"
 #include "machinery/ToolLocations.h"
 #include "vocabulary/FileStatus.h"
@@ -118,6 +117,17 @@ void addListings(const Docker& docker, const ScanContext& context, ScanOutput& o
     }
 }
 
+// Every row's operation carries where and when it was read, for the remover's checks.
+void stampOperations(QList<CleanupItem>& items, const QString& host, const QDateTime& scannedAt)
+{
+    for (CleanupItem& item : items) {
+        if (auto* docker = std::get_if<Removal::Docker>(&item.removal.value)) {
+            docker->operation.host = host;
+            docker->operation.scannedAt = scannedAt;
+        }
+    }
+}
+
 }  // namespace
 
 ScanOutputs DockerScanner::scan(const ScanContext& context) const
@@ -136,8 +146,6 @@ ScanOutput DockerScanner::scanDocker(const ScanContext& context) const
     const std::optional<QString> host = DockerEndpoint::localHost(*tool, variable, &context.cancellation);
     if (!host)
         return {{}, {remoteNote()}, {}};
-    // Recorded before the listings, so a container that stops after them counts as changed.
-    DockerScanRecord::remember({*host, QDateTime::currentDateTimeUtc()});
     const Docker docker(*this, *tool, *host, context);
     if (!docker.output(command("info", "{{.ServerVersion}}")))
         return {{}, {notRunningNote()}, {}};
@@ -155,6 +163,8 @@ ScanOutput DockerScanner::scanDocker(const ScanContext& context) const
         //: Summary above the Docker list; %1 is a comma-separated list like 'images 3 GB, build cache 5 GB'
         output.summary = QCoreApplication::translate("DockerScanner", "Docker uses: %1").arg(summary.join(QStringLiteral(", ")));
     }
+    // The scan's start is before the listings, so a container that stops after them counts as changed.
+    stampOperations(output.items, *host, context.now);
     std::stable_sort(output.items.begin(), output.items.end(),
                      [](const CleanupItem& a, const CleanupItem& b) { return a.size > b.size; });
     return output;

@@ -20,7 +20,7 @@
 // images no running container uses, the build cache and unused volumes, with a summary of
 // what Docker occupies. Never reads Docker's files; everything it offers is removed by Docker.
 // A value type; scan() runs the tool's commands one after another on the calling worker
-// thread and remembers the endpoint it used in DockerScanRecord.
+// thread; every row's operation carries the endpoint it used and the scan's start time.
 class DockerScanner : public Scanner {
 public:
     // What the scan reaches outside the process through; the defaults are the real system.

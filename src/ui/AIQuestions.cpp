@@ -1,12 +1,12 @@
 #include "ui/AIQuestions.h"
 
+#include "machinery/Background.h"
 #include "model/AppModel.h"
 #include "prompt/AIPrompt.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QPointer>
-#include <QThreadPool>
 
 AIQuestions AIQuestions::standard()
 {
@@ -22,17 +22,11 @@ void AIQuestions::copy(QObject* context, AppModel* model, std::function<QString(
 {
     if (!write)
         return;
-    QPointer<QObject> guard(context);
-    QPointer<AppModel> target(model);
-    // The global pool is waited for when the application ends.
-    QThreadPool::globalInstance()->start([guard, target, write] {
-        const QString text = write();
-        QMetaObject::invokeMethod(qApp, [guard, target, text] {
-            if (!guard || !target)
-                return;
-            QGuiApplication::clipboard()->setText(text);
-            //: Toast after the question for an AI assistant was copied to the clipboard
-            target->showToast(QCoreApplication::translate("AIQuestions", "Question copied. Paste it into your AI assistant."));
-        }, Qt::QueuedConnection);
+    Background::run(context, write, [target = QPointer<AppModel>(model)](const QString& text) {
+        if (!target)
+            return;
+        QGuiApplication::clipboard()->setText(text);
+        //: Toast after the question for an AI assistant was copied to the clipboard
+        target->showToast(QCoreApplication::translate("AIQuestions", "Question copied. Paste it into your AI assistant."));
     });
 }

@@ -40,7 +40,7 @@ std::optional<QString> CategoryListModel::sectionKey(const CleanupItem& item) co
     if (m_category == CategoryID::worktrees)
         return item.projectPath.value_or(QString());
     if (m_category == CategoryID::duplicates)
-        return m_model->duplicateGroup(item).value_or(QString());
+        return m_model->selection().duplicateGroup(item).value_or(QString());
     return std::nullopt;
 }
 
@@ -116,7 +116,7 @@ CategoryListModel::Checkbox CategoryListModel::checkbox(const CleanupItem& item)
         return Checkbox::none;
     if (item.isLocked())
         return Checkbox::locked;
-    if (m_model->isLastUnselectedCopy(item))
+    if (m_model->selection().isLastUnselectedCopy(item))
         return Checkbox::lastCopy;
     return Checkbox::usable;
 }
@@ -148,7 +148,7 @@ QVariant CategoryListModel::itemData(const CleanupItem& item, int role) const
     case IsSectionRole: return false;
     case Qt::DisplayRole: return item.title;
     case Qt::ToolTipRole: return item.removal.paths().join(QLatin1Char('\n'));
-    case Qt::CheckStateRole: return m_model->isSelected(item.id) ? Qt::Checked : Qt::Unchecked;
+    case Qt::CheckStateRole: return m_model->selection().contains(item.id) ? Qt::Checked : Qt::Unchecked;
     case CheckboxRole: return static_cast<int>(checkbox(item));
     case CheckboxReasonRole:
         if (item.lockedReason)
@@ -167,7 +167,7 @@ bool CategoryListModel::setData(const QModelIndex& index, const QVariant& value,
     const bool wanted = value.value<Qt::CheckState>() == Qt::Checked;
     // The model refuses what its rules forbid; the selection signal repaints the rows.
     m_model->setSelected(*item, wanted);
-    return m_model->isSelected(item->id) == wanted;
+    return m_model->selection().contains(item->id) == wanted;
 }
 
 Qt::ItemFlags CategoryListModel::flags(const QModelIndex& index) const
@@ -176,7 +176,7 @@ Qt::ItemFlags CategoryListModel::flags(const QModelIndex& index) const
     if (!item)
         return Qt::ItemIsEnabled;
     Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
-    if (checkbox(*item) == Checkbox::usable || m_model->isSelected(item->id))
+    if (checkbox(*item) == Checkbox::usable || m_model->selection().contains(item->id))
         flags |= Qt::ItemIsUserCheckable;
     return flags;
 }

@@ -270,7 +270,7 @@ void CategoryPage::refreshControls()
     const bool hasRows = !m_listModel->shownItems().isEmpty();
     m_askAboutShown->setEnabled(hasRows && bool(m_questions.many));
     const CategoryResult result = m_model->result(m_category);
-    m_emptyTrash->setEnabled(!result.items.isEmpty() && !m_model->isEmptyingTrash());
+    m_emptyTrash->setEnabled(!result.items.isEmpty() && !m_model->trashState().isEmptying);
     m_selectAll->setEnabled(hasRows && m_category != CategoryID::trash);
     m_emptyState->setText(emptyStateText());
     m_content->setCurrentWidget(hasRows ? static_cast<QWidget*>(m_list) : m_emptyState);
@@ -306,7 +306,7 @@ void CategoryPage::refreshSelectAll()
     bool anySelected = false;
     bool anyOpen = false;
     for (const CleanupItem& item : m_listModel->shownItems()) {
-        if (m_model->isSelected(item.id))
+        if (m_model->selection().contains(item.id))
             anySelected = true;
         else if (m_listModel->checkbox(item) == CategoryListModel::Checkbox::usable)
             anyOpen = true;

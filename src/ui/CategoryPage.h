@@ -31,7 +31,6 @@ public:
     explicit CategoryPage(AppModel* model, QWidget* parent = nullptr);
 
     void showCategory(CategoryID category);
-    CategoryID category() const { return m_category; }
     void setQuestions(AIQuestions questions);
 
     // The row menu of `index` (an item row), deleted when closed; null for other rows.
@@ -47,7 +46,6 @@ public:
     QCheckBox* selectAll() const { return m_selectAll; }
     QComboBox* sizeFilter() const { return m_sizeFilter; }
     QLineEdit* search() const { return m_search; }
-    QToolButton* rescanButton() const { return m_rescan; }
     QPushButton* askAboutShownButton() const { return m_askAboutShown; }
     QPushButton* emptyTrashButton() const { return m_emptyTrash; }
     SelectionBar* selectionBar() const { return m_selectionBar; }
@@ -75,7 +73,6 @@ private:
     void askAbout(const QModelIndex& index);
     void askAboutShown();
     void reveal(const CleanupItem& item);
-    void addProjectToSafeList(const QString& project);
 
     AppModel* m_model;
     CategoryID m_category = CategoryID::projects;

@@ -9,7 +9,6 @@
 #include "ui/Reveal.h"
 
 #include <QDesktopServices>
-#include <QFileInfo>
 #include <QKeyEvent>
 #include <QListView>
 #include <QMenu>
@@ -61,7 +60,7 @@ void CategoryPage::addRowActions(QMenu* menu, const CleanupItem& item)
     if (item.projectPath && !item.projectPath->isEmpty()) {
         const QString project = *item.projectPath;
         //: Row menu: never show anything inside this row's project or repository folder again
-        menu->addAction(tr("Add Project to Safe List"), this, [this, project] { addProjectToSafeList(project); });
+        menu->addAction(tr("Add Project to Safe List"), this, [this, project] { m_model->addFolderToSafeList(project); });
     }
     menu->addSeparator();
     QAction* reveal = menu->addAction(Reveal::title(), this, [this, item] { this->reveal(item); });
@@ -100,12 +99,4 @@ void CategoryPage::reveal(const CleanupItem& item)
     if (paths.isEmpty())
         return;
     Reveal::show(m_model, paths.first());
-}
-
-void CategoryPage::addProjectToSafeList(const QString& project)
-{
-    m_model->settings()->addSafeFolder(project);
-    m_model->removeSafeItemsFromResults();
-    //: Toast after a row was put on the Safe List; %1 is the row's title
-    m_model->showToast(tr("“%1” is on the Safe List.").arg(QFileInfo(project).fileName()));
 }

@@ -128,7 +128,7 @@ void CleanupResults::refreshTrash()
     const bool wentToTrash = m_session->movedToTrash() > 0;
     m_trashNote->setVisible(wentToTrash);
     m_emptyTrash->setVisible(wentToTrash && !m_session->trashEmptied());
-    m_emptyTrash->setEnabled(!m_model->isEmptyingTrash());
+    m_emptyTrash->setEnabled(!m_model->trashState().isEmptying);
     if (m_session->trashEmptied())
         //: Results of a cleanup, after the Trash was emptied
         m_trashNote->setText(tr("The Trash is empty."));

@@ -16,7 +16,7 @@ enum Answer { clean, clearSelection, cancel };
 
 void MainWindow::choose(const SidebarDestination& wanted)
 {
-    switch (m_navigation.choose(wanted, !m_model->selection().isEmpty())) {
+    switch (m_navigation.choose(wanted, !m_model->selection().ids().isEmpty())) {
     case Navigation::Step::stay:
         m_sidebar->select(destination());
         return;
@@ -38,7 +38,7 @@ void MainWindow::askBeforeSwitching()
     //: Question when another screen is chosen while items are selected
     const QString title = tr("Clean the selected items?");
     auto* box = new QMessageBox(QMessageBox::Question, title, title, QMessageBox::NoButton, this);
-    const QString selection = SelectionBar::describe(m_model->selectedSize(), m_model->selection().size());
+    const QString selection = SelectionBar::describe(m_model->selectedSize(), m_model->selection().ids().size());
     //: Under "Clean the selected items?"; %1 names the selection, e.g. "1.2 GB in 3 items"
     box->setInformativeText(tr("%1 is selected here. Clean it now, or clear the selection and go on.").arg(selection));
     //: Answer to "Clean the selected items?": open the cleanup of the selection

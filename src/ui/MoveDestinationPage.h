@@ -29,8 +29,6 @@ public:
     void showProblem(const QString& sentence);
 
     QLabel* problem() const { return m_problem; }
-    QLabel* destinationLabel() const { return m_destinationLabel; }
-    QPushButton* chooseButton() const { return m_choose; }
     QPushButton* moveButton() const { return m_move; }
 
 signals:

@@ -1,13 +1,12 @@
 #include "ui/Reveal.h"
 
 #include "actions/SystemAccess.h"
+#include "machinery/Background.h"
 #include "model/AppModel.h"
 #include "platform/Platform.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QPointer>
-#include <QThreadPool>
 
 namespace Reveal {
 
@@ -22,17 +21,12 @@ QString title()
 
 void show(AppModel* model, const QString& path, const QString& opener)
 {
-    QPointer<AppModel> receiver(model);
-    QThreadPool::globalInstance()->start([receiver, path, opener] {
-        if (SystemAccess::reveal(path, opener))
+    Background::run(model, [path, opener] { return SystemAccess::reveal(path, opener); }, [model, path](bool shown) {
+        if (shown)
             return;
-        QMetaObject::invokeMethod(qApp, [receiver, path] {
-            if (!receiver)
-                return;
-            //: Toast when no file manager could show an item; %1 is its name
-            receiver->showToast(QCoreApplication::translate("Reveal", "No file manager could show “%1”.")
-                                    .arg(QFileInfo(path).fileName()));
-        }, Qt::QueuedConnection);
+        //: Toast when no file manager could show an item; %1 is its name
+        model->showToast(QCoreApplication::translate("Reveal", "No file manager could show “%1”.")
+                             .arg(QFileInfo(path).fileName()));
     });
 }
 

@@ -79,8 +79,8 @@ SafeListPage::SafeListPage(AppModel* model, QWidget* parent)
     SettingsStore* settings = m_model->settings();
     connect(settings, &SettingsStore::safeListChanged, this, &SafeListPage::refreshItems);
     connect(settings, &SettingsStore::safeListChanged, this, &SafeListPage::refreshFolders);
-    connect(m_folders, &FolderListEditor::addRequested, this, &SafeListPage::addFolder);
-    connect(m_folders, &FolderListEditor::removeRequested, settings, &SettingsStore::removeSafeFolder);
+    connect(m_folders, &FolderListEditor::addRequested, m_model, &AppModel::addSafeFolder);
+    connect(m_folders, &FolderListEditor::removeRequested, m_model, &AppModel::removeSafeFolder);
     refreshItems();
     refreshFolders();
 }
@@ -192,11 +192,4 @@ void SafeListPage::clearItemRows()
 void SafeListPage::refreshFolders()
 {
     m_folders->setFolders(m_model->settings()->safeFolders());
-}
-
-// Whatever the new folder holds leaves the lists at once, as an item added from a row does.
-void SafeListPage::addFolder(const QString& path)
-{
-    m_model->settings()->addSafeFolder(path);
-    m_model->removeSafeItemsFromResults();
 }

@@ -32,7 +32,6 @@ private:
     void refreshItems();
     void refreshFolders();
     void clearItemRows();
-    void addFolder(const QString& path);
 
     AppModel* m_model;
     QVBoxLayout* m_itemRows;

@@ -33,7 +33,7 @@ QString SelectionBar::describe(qint64 bytes, qsizetype count)
 
 void SelectionBar::refresh()
 {
-    const qsizetype count = m_model->selection().size();
+    const qsizetype count = m_model->selection().ids().size();
     if (count == 0) {
         //: Line under a list while nothing is selected
         m_summary->setText(tr("Labels show how safe it is to delete each item. Nothing is selected for you."));

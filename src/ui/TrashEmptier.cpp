@@ -38,17 +38,17 @@ void TrashEmptier::confirmed()
 
 void TrashEmptier::trashDidChange()
 {
-    if (!m_waiting || m_model->isEmptyingTrash())
+    if (!m_waiting || m_model->trashState().isEmptying)
         return;
     m_waiting = false;
-    if (m_model->trashMessage().isEmpty())
+    if (m_model->trashState().message.isEmpty())
         return;
     //: Title of the message when the Trash could not be emptied; the system's reason follows
     const QString title = tr("Couldn't empty the Trash");
     auto* box = new QMessageBox(QMessageBox::Warning, title, title, QMessageBox::NoButton, m_window);
     //: Button that closes the message that the Trash could not be emptied
     box->addButton(tr("OK"), QMessageBox::AcceptRole);
-    box->setInformativeText(m_model->trashMessage());
+    box->setInformativeText(m_model->trashState().message);
     box->setWindowModality(Qt::WindowModal);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->open();

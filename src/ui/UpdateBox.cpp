@@ -39,19 +39,19 @@ UpdateBox::UpdateBox(AppModel* model, QWidget* parent)
 
 void UpdateBox::refresh()
 {
-    const auto& result = m_model->updateResult();
+    const auto& result = m_model->updateState().result;
     const Result::Available* available = result ? result->as<Result::Available>() : nullptr;
-    const bool busy = m_model->isCheckingForUpdates() || m_model->isInstallingUpdate();
+    const bool busy = m_model->updateState().isChecking || m_model->updateState().isInstalling;
     m_check->setEnabled(!busy);
     m_releasePage->setVisible(available != nullptr);
     m_install->setVisible(available && m_model->canInstallUpdate());
     m_install->setEnabled(!busy);
-    if (m_model->isInstallingUpdate())
+    if (m_model->updateState().isInstalling)
         //: Shown while an update downloads, is checked and installed
         m_status->setText(tr("Installing the update…"));
-    else if (!m_model->updateInstallError().isEmpty())
-        m_status->setText(m_model->updateInstallError());
-    else if (m_model->isCheckingForUpdates())
+    else if (!m_model->updateState().installError.isEmpty())
+        m_status->setText(m_model->updateState().installError);
+    else if (m_model->updateState().isChecking)
         //: Shown while the update check runs
         m_status->setText(tr("Checking for updates…"));
     else if (!result)
@@ -68,7 +68,7 @@ void UpdateBox::refresh()
 
 void UpdateBox::openReleasePage()
 {
-    const auto& result = m_model->updateResult();
+    const auto& result = m_model->updateState().result;
     if (const auto* available = result ? result->as<Result::Available>() : nullptr)
         m_open(m_model->releasePage(available->release));
 }

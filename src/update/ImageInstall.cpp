@@ -3,6 +3,7 @@
 #include "machinery/ProcessRunner.h"
 #include "update/UpdateChecker.h"
 #include "update/Updater.h"
+#include "vocabulary/SystemError.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -16,7 +17,6 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 
 namespace ImageInstall {
 
@@ -136,9 +136,9 @@ std::optional<QString> swap(const QString& copy, const QString& appPath)
 {
     const QString previous = hiddenBeside(appPath, QStringLiteral(".Dustlark-previous-"));
     if (std::rename(QFile::encodeName(appPath).constData(), QFile::encodeName(previous).constData()) != 0)
-        return Updater::couldNotInstall(QString::fromLocal8Bit(std::strerror(errno)));
+        return Updater::couldNotInstall(SystemError::describe(errno));
     if (std::rename(QFile::encodeName(copy).constData(), QFile::encodeName(appPath).constData()) != 0) {
-        const QString reason = QString::fromLocal8Bit(std::strerror(errno));
+        const QString reason = SystemError::describe(errno);
         std::rename(QFile::encodeName(previous).constData(), QFile::encodeName(appPath).constData());
         return Updater::couldNotInstall(reason);
     }

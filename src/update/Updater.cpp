@@ -1,6 +1,7 @@
 #include "update/Updater.h"
 
 #include "format/ByteCount.h"
+#include "vocabulary/SystemError.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -14,7 +15,6 @@
 
 #include <cerrno>
 #include <memory>
-#include <system_error>
 #include <unistd.h>
 
 namespace Updater {
@@ -63,7 +63,7 @@ struct Transfer {
             return false;
         }
         if (const int error = writeAll(image->handle(), bytes)) {
-            failure = QString::fromStdString(std::generic_category().message(error));
+            failure = SystemError::describe(error);
             return false;
         }
         written += bytes.size();

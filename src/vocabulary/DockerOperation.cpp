@@ -3,7 +3,7 @@
 size_t qHash(const DockerOperation& operation, size_t seed)
 {
     HashCombine hash(seed);
-    hash.add(operation.value.index());
+    hash.add(operation.value.index()).add(operation.host).add(operation.scannedAt);
     if (auto c = operation.as<DockerOperation::Container>())
         hash.add(c->id);
     else if (auto i = operation.as<DockerOperation::Image>())

@@ -2,12 +2,13 @@
 
 #include "vocabulary/HashCombine.h"
 
+#include <QDateTime>
 #include <QString>
 #include <QStringList>
 
 #include <variant>
 
-// What Docker is asked to remove for good.
+// What Docker is asked to remove for good, and where and when the scan saw it.
 struct DockerOperation {
     struct Container {
         QString id;
@@ -29,6 +30,10 @@ struct DockerOperation {
     };
 
     std::variant<Container, Image, Volume, BuildCache> value;
+    // The endpoint the scan talked to (a "unix://" address): removal asks no other Docker.
+    QString host = {};
+    // When the scan started: a container that stopped after it is not the one offered.
+    QDateTime scannedAt = {};
 
     template <typename T>
     const T* as() const { return std::get_if<T>(&value); }

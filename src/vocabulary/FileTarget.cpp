@@ -21,6 +21,19 @@ std::optional<FileTarget> FileTarget::make(const QString& path)
     return target;
 }
 
+bool FileTarget::isObject(int folder, const char* name, const struct stat& info) const
+{
+    if (qint32(info.st_dev) != device || quint64(info.st_ino) != inode)
+        return false;
+    return !birth || Platform::birthNanosecondsAt(folder, name) == birth;
+}
+
+bool FileTarget::isObjectAt(int folder, const char* name) const
+{
+    struct stat info {};
+    return ::fstatat(folder, name, &info, AT_SYMLINK_NOFOLLOW) == 0 && isObject(folder, name, info);
+}
+
 FileTarget::ContentStamp FileTarget::ContentStamp::of(const struct stat& info)
 {
     return {qint64(info.st_size), Platform::modificationNanoseconds(info), Platform::statusChangeNanoseconds(info)};

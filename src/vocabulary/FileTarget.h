@@ -42,6 +42,13 @@ struct FileTarget {
     // The same, refusing removal while any of the named programs runs.
     static std::optional<FileTarget> watching(const QString& path, const QStringList& programs);
 
+    // The one identity rule: whether `info`, the status of `name` in the open folder `folder`
+    // (AT_FDCWD and a path will do) read without following a final link, shows this target's
+    // object: same device, same inode and, where one was recorded, the same birth time.
+    [[nodiscard]] bool isObject(int folder, const char* name, const struct stat& info) const;
+    // The same for whatever `name` in `folder` is now; false when it can't be examined.
+    [[nodiscard]] bool isObjectAt(int folder, const char* name) const;
+
     bool operator==(const FileTarget&) const = default;
 };
 

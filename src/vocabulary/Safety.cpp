@@ -17,19 +17,6 @@ QString title(Safety safety)
     return {};
 }
 
-QString meaning(Safety safety)
-{
-    switch (safety) {
-    //: Legend of the Safe label, lower case
-    case Safety::safe: return QCoreApplication::translate("Safety", "comes back on its own");
-    //: Legend of the Ask AI label, lower case
-    case Safety::askAI: return QCoreApplication::translate("Safety", "depends on how you use it");
-    //: Legend of the Risky label, lower case
-    case Safety::risky: return QCoreApplication::translate("Safety", "may hold data you can't get back");
-    }
-    return {};
-}
-
 QString help(Safety safety)
 {
     switch (safety) {

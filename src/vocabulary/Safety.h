@@ -9,7 +9,6 @@ enum class Safety : int { safe, askAI, risky };
 namespace Safeties {
 
 QString title(Safety safety);    // "Ask AI"
-QString meaning(Safety safety);  // legend, lower case
 QString help(Safety safety);     // tooltip
 QString rawValue(Safety safety); // "askAI", as the report tool writes it
 

@@ -16,7 +16,6 @@ protected:
     void SetUp() override
     {
         environment.tools.dockerCandidates = {QStringLiteral("/nonexistent/docker"), docker.path()};
-        environment.dockerScan = DockerScanRecord{socket, QDateTime::fromString(QStringLiteral("2024-06-01T12:00:00Z"), Qt::ISODate)};
         docker.answer({QStringLiteral("context"), QStringLiteral("inspect"), QStringLiteral("--format"),
                        QStringLiteral("{{.Endpoints.docker.Host}}")},
                       socket + QLatin1Char('\n'));
@@ -24,9 +23,12 @@ protected:
 
     RemovalOutcome remove(const DockerOperation& operation) const
     {
+        DockerOperation scanned = operation;
+        scanned.host = scannedHost;
+        scanned.scannedAt = QDateTime::fromString(QStringLiteral("2024-06-01T12:00:00Z"), Qt::ISODate);
         CleanupItem item;
         item.category = CategoryID::docker;
-        item.removal = Removal::docker(operation);
+        item.removal = Removal::docker(scanned);
         return Remover::remove(item, environment);
     }
     void containerState(const QString& id, const QString& state) const
@@ -40,6 +42,7 @@ protected:
 
     ToolStandIn docker{QStringLiteral("docker-standin"), QStringLiteral("docker")};
     RemovalEnvironment environment;
+    QString scannedHost = socket;  // where the scan read the rows
 };
 
 DockerOperation container(const QString& id)
@@ -57,10 +60,10 @@ TEST_F(DockerRemovalTest, RefusesWithoutDockerOrOnAnotherSetup)
     EXPECT_EQ(remove(container(QStringLiteral("c1"))), RemovalOutcome::failed(differentSetup));
 
     environment.dockerHostVariable.reset();
-    environment.dockerScan->host = QStringLiteral("unix:///Users/me/.orbstack/run/docker.sock");
+    scannedHost = QStringLiteral("unix:///Users/me/.orbstack/run/docker.sock");
     EXPECT_EQ(remove(container(QStringLiteral("c1"))), RemovalOutcome::failed(differentSetup));
 
-    environment.dockerScan.reset();
+    scannedHost.clear();
     EXPECT_EQ(remove(container(QStringLiteral("c1"))), RemovalOutcome::failed(differentSetup));
     EXPECT_FALSE(wasCalled(QStringLiteral("rm c1")));
 }

@@ -1,4 +1,4 @@
-#include "actions/Descriptor.h"
+#include "machinery/Descriptor.h"
 #include "actions/FreedesktopTrash.h"
 #include "actions/SystemTrash.h"
 #include "platform/Platform.h"
@@ -39,11 +39,9 @@ protected:
     TrashRequest request(const QString& path)
     {
         folder.reset(::open(QFile::encodeName(QFileInfo(path).path()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-        struct stat info {};
-        EXPECT_EQ(::lstat(QFile::encodeName(path).constData(), &info), 0);
-        const QByteArray name = QFile::encodeName(QFileInfo(path).fileName());
-        return {path, folder.get(), name, qint32(info.st_dev), quint64(info.st_ino),
-                Platform::birthNanosecondsAt(folder.get(), name.constData())};
+        const std::optional<FileTarget> object = FileTarget::make(path);
+        EXPECT_TRUE(object.has_value());
+        return {path, folder.get(), QFile::encodeName(QFileInfo(path).fileName()), object.value_or(FileTarget {})};
     }
 
     TempTree home;

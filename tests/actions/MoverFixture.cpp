@@ -36,7 +36,7 @@ void MoverFixture::SetUp()
         GTEST_SKIP() << qPrintable(disk) << ", the second file system these tests move to, is missing";
     if (deviceOf(destination) == deviceOf(home.root()))
         GTEST_SKIP() << "/dev/shm is on the same file system as the temporary folder here";
-    moveEnvironment = Mover::Environment::current();
+    moveEnvironment = Mover::Environment::system(home.root(), {});
     moveEnvironment.removal = environment;
 }
 

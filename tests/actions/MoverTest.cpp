@@ -1,5 +1,6 @@
 // Moves to a real second file system (/dev/shm) with the real copy tool and the real
 // freedesktop trash; faults of the copy tool are played by small shell scripts.
+#include "actions/MoverFiles.h"
 #include "actions/MoverFixture.h"
 #include "actions/ToolStandIn.h"
 #include "actions/MoverReasons.h"
@@ -84,7 +85,7 @@ TEST_F(MoverFixture, RefusesWhatIsNotFilesOrDoesNotFit)
     // Sizes are the files' lengths, so a sparse file needs its full length on a disk without holes.
     const qint64 length = 10'000'000'000'000;
     const QString huge = home.sparseFile(QStringLiteral("disk.img"), length);
-    const qint64 free = Mover::freeBytes(destination).value_or(0);
+    const qint64 free = Mover::Files::freeBytes(destination).value_or(0);
     EXPECT_EQ(moveItem(trashItem({huge})), Mover::Outcome::failed(Mover::Reasons::notEnoughSpace(length, free)));
     EXPECT_EQ(QFileInfo(huge).size(), length);
     EXPECT_TRUE(destinationNames().isEmpty());

@@ -168,7 +168,7 @@ TEST_F(RemoverChecks, RefusesAWorktreeWhoseLockFileAppeared)
     CleanupItem item = trashItem({worktree});
     const QString lock = home.path(QStringLiteral("repo/.git/worktrees/feature/locked"));
     std::get<Removal::Trash>(item.removal.value).targets[0].gitLockFile = lock;
-    ASSERT_EQ(Remover::problem(item.removal.as<Removal::Trash>()->targets[0], environment), std::nullopt);
+    ASSERT_EQ(TargetCheck::problem(item.removal.as<Removal::Trash>()->targets[0], environment), std::nullopt);
 
     home.file(QStringLiteral("repo/.git/worktrees/feature/locked"), QByteArray("agent at work\n"));
     expectRefused(item, RemovalReasons::gitLocked());
@@ -181,7 +181,7 @@ TEST_F(RemoverChecks, RefusesWhileAWatchedProgramRuns)
     ASSERT_TRUE(QFile::copy(QStringLiteral("/bin/sleep"), program));
     const QString data = home.file(QStringLiteral("Library/AgentHost/state.json"), 10);
     const FileTarget watched = *FileTarget::watching(data, {QStringLiteral("AgentHost")});
-    ASSERT_EQ(Remover::problem(watched, environment), std::nullopt);
+    ASSERT_EQ(TargetCheck::problem(watched, environment), std::nullopt);
 
     QProcess running;
     running.start(program, {QStringLiteral("30")});

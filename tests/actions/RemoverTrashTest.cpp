@@ -79,6 +79,9 @@ TEST_F(RemoverTrash, ATargetThatWentWithAnEarlierItemCountsAsDone)
     const CleanupItem later = trashItem({shared, own});
 
     ASSERT_EQ(Remover::remove(earlier, environment), RemovalOutcome::movedToTrash());
+    // Another cleanup knows nothing of this one's: the target is simply gone.
+    EXPECT_EQ(Remover::remove(later, RemovalEnvironment::system(home.root(), {})),
+              RemovalOutcome::failed(RemovalReasons::noLongerExists()));
     EXPECT_EQ(Remover::remove(later, environment), RemovalOutcome::movedToTrash());
     EXPECT_FALSE(lexists(own));
     EXPECT_EQ(trashedNames().size(), 2);

@@ -14,9 +14,7 @@ void TrashFixture::SetUp()
     if (Platform::desktop() != Platform::Desktop::freedesktop)
         GTEST_SKIP() << "these tests watch the freedesktop trash; elsewhere they would fill the person's own";
     QDir(FreedesktopTrash::homeTrash()).removeRecursively();
-    environment = RemovalEnvironment::current();
-    environment.home = home.root();
-    environment.otherVolumeFolders.clear();
+    environment = RemovalEnvironment::system(home.root(), {});
 }
 
 FileTarget TrashFixture::target(const QString& path) const

@@ -28,16 +28,6 @@ CleanupItem realRow(CategoryID category, const TempTree& tree, const QString& re
     return item;
 }
 
-// Removal through the real remover, scoped to the test's home folder.
-void useRealRemover(AppModel::Services& services, const QString& home)
-{
-    services.removeItem = [home](const CleanupItem& item) {
-        RemovalEnvironment environment = RemovalEnvironment::current();
-        environment.home = home;
-        return Remover::remove(item, environment);
-    };
-}
-
 void show(AppModel& model, CategoryID category, QList<CleanupItem> items)
 {
     ScanOutputs outputs;
@@ -64,7 +54,7 @@ TEST(AppModelCleanup, AFolderAndAFileInsideItGoOnceToTheTrash)
 {
     TempTree tree;
     tree.file("Projects/app/node_modules/left-pad/index.js", 3000);
-    ModelFixture fixture({}, tree.root(), [&](AppModel::Services& s) { useRealRemover(s, tree.root()); });
+    ModelFixture fixture({}, tree.root());
     AppModel& model = fixture.model();
     const CleanupItem folder = realRow(CategoryID::projects, tree, "Projects/app/node_modules", 8000);
     const CleanupItem file = realRow(CategoryID::largeFiles, tree, "Projects/app/node_modules/left-pad/index.js", 3000);
@@ -86,7 +76,7 @@ TEST(AppModelCleanup, AFolderAndAFileInsideItGoOnceToTheTrash)
     EXPECT_TRUE(QFileInfo(trashFiles() + "/node_modules/left-pad/index.js").isFile());
     EXPECT_TRUE(QFileInfo::exists(trashFiles() + "/../info/node_modules.trashinfo"));
     EXPECT_TRUE(model.result(CategoryID::projects).items.isEmpty());
-    EXPECT_TRUE(model.selection().isEmpty() || model.selection() == QSet<QString>{file.id});
+    EXPECT_TRUE(model.selection().ids().isEmpty() || model.selection().ids() == QSet<QString>{file.id});
     ASSERT_FALSE(fixture.stats().stats().history.isEmpty());
     EXPECT_EQ(fixture.stats().stats().history.first().movedToTrash, 8000);
     model.closeCleanup();
@@ -101,11 +91,10 @@ TEST(AppModelCleanup, StopAfterTheFirstItemKeepsTheRestSelectedAndListed)
         tree.file(QString("Library/Logs/") + name, 100);
     AppModel* modelPointer = nullptr;
     ModelFixture fixture({}, tree.root(), [&](AppModel::Services& s) {
-        useRealRemover(s, tree.root());
         auto remove = s.removeItem;
-        s.removeItem = [remove, &modelPointer](const CleanupItem& item) {
+        s.removeItem = [remove, &modelPointer](const CleanupItem& item, const RemovalEnvironment& environment) {
             modelPointer->cleanup()->requestStop();  // the person presses Stop during the first item
-            return remove(item);
+            return remove(item, environment);
         };
     });
     AppModel& model = fixture.model();
@@ -121,7 +110,7 @@ TEST(AppModelCleanup, StopAfterTheFirstItemKeepsTheRestSelectedAndListed)
     EXPECT_TRUE(model.cleanup()->stopped());
     EXPECT_EQ(model.cleanup()->resultTitle(), "Cleaning stopped");
     EXPECT_EQ(model.result(CategoryID::logs).items.size(), 2);
-    EXPECT_EQ(model.selection().size(), 2);
+    EXPECT_EQ(model.selection().ids().size(), 2);
     EXPECT_TRUE(QFileInfo::exists(tree.path("Library/Logs/b.log")));
 }
 
@@ -130,7 +119,7 @@ TEST(AppModelCleanup, TheSecondOfTheLastTwoCopiesIsRefused)
     TempTree tree;
     for (const char* name : {"a.mov", "b.mov", "c.mov"})
         tree.file(name, 2000);
-    ModelFixture fixture({}, tree.root(), [&](AppModel::Services& s) { useRealRemover(s, tree.root()); });
+    ModelFixture fixture({}, tree.root());
     AppModel& model = fixture.model();
     QList<CleanupItem> copies;
     for (const char* name : {"a.mov", "b.mov", "c.mov"}) {
@@ -184,7 +173,7 @@ TEST(AppModelCleanup, ACopyWhoseOtherCopyIsNoLongerOnDiskAsScannedStays)
         tree.file(pair + "/ticked.mov", 2000);
         tree.file(pair + "/other.mov", 2000);
     }
-    ModelFixture fixture({}, tree.root(), [&](AppModel::Services& s) { useRealRemover(s, tree.root()); });
+    ModelFixture fixture({}, tree.root());
     AppModel& model = fixture.model();
     QList<CleanupItem> rows;
     for (const QString& pair : pairs) {
@@ -194,7 +183,7 @@ TEST(AppModelCleanup, ACopyWhoseOtherCopyIsNoLongerOnDiskAsScannedStays)
     show(model, CategoryID::duplicates, rows);
     for (qsizetype i = 0; i < rows.size(); i += 2)
         model.setSelected(rows[i], true);
-    ASSERT_EQ(model.selection().size(), 4);
+    ASSERT_EQ(model.selection().ids().size(), 4);
     tree.dir("Elsewhere");
     ASSERT_EQ(::rename(QFile::encodeName(tree.path("moved/other.mov")).constData(),
                        QFile::encodeName(tree.path("Elsewhere/other.mov")).constData()), 0);
@@ -226,7 +215,7 @@ TEST(AppModelCleanup, ARefusedTargetIsAFailureWithItsReasonAndStaysListed)
 {
     TempTree tree;
     tree.file("Downloads/setup.dmg", 500);
-    ModelFixture fixture({}, tree.root(), [&](AppModel::Services& s) { useRealRemover(s, tree.root()); });
+    ModelFixture fixture({}, tree.root());
     AppModel& model = fixture.model();
     const CleanupItem row = realRow(CategoryID::installers, tree, "Downloads/setup.dmg", 500);
     show(model, CategoryID::installers, {row});
@@ -251,7 +240,7 @@ TEST(AppModelCleanup, QuitWaitsForTheRunningCleanupToStop)
     tree.file("Library/Logs/b.log", 100);
     std::atomic<bool> release{false};
     ModelFixture fixture({}, tree.root(), [&](AppModel::Services& s) {
-        s.removeItem = [&release](const CleanupItem&) {
+        s.removeItem = [&release](const CleanupItem&, const RemovalEnvironment&) {
             while (!release)
                 QThread::msleep(2);
             return RemovalOutcome::movedToTrash();

@@ -59,13 +59,13 @@ protected:
                                  .arg(server.origin(), sha256);
         server.serve(QStringLiteral("/dustlark-mac/version.json"), HttpsTestServer::Response(200, file.toUtf8()));
         model().checkForUpdates();
-        ASSERT_TRUE(waitUntil([this] { return !model().isCheckingForUpdates(); }, 15'000));
+        ASSERT_TRUE(waitUntil([this] { return !model().updateState().isChecking; }, 15'000));
     }
     QString install()
     {
         model().installUpdate();
-        EXPECT_TRUE(waitUntil([this] { return !model().isInstallingUpdate(); }, 30'000));
-        return model().updateInstallError();
+        EXPECT_TRUE(waitUntil([this] { return !model().updateState().isInstalling; }, 30'000));
+        return model().updateState().installError;
     }
     AppModel& model() { return fixture->model(); }
     QString appPath() const { return tree.path(QStringLiteral("Applications/Dustlark.app")); }
@@ -128,5 +128,5 @@ TEST(AppModelInstall, ACopyOutsideABundleOffersNoInstall)
     EXPECT_EQ(AppModel::runningAppBundle(), QString());
     EXPECT_FALSE(fixture.model().canInstallUpdate());
     fixture.model().installUpdate();
-    EXPECT_FALSE(fixture.model().isInstallingUpdate());
+    EXPECT_FALSE(fixture.model().updateState().isInstalling);
 }

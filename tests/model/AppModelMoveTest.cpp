@@ -4,7 +4,6 @@
 #include "support/RealMover.h"
 #include "support/TempTree.h"
 #include "support/Wait.h"
-#include "vocabulary/SharedScanFolders.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -55,7 +54,7 @@ TEST_F(AppModelMove, OneMoveAtATimeHoldsScansAndLeavesTheResultsWhenDone)
     home.file(QStringLiteral("Videos/film.mov"), 400'000);
     const CleanupItem film = realRow(home, QStringLiteral("Videos/film.mov"));
     const CleanupItem other = realRow(home, QStringLiteral("Videos"));
-    ModelFixture fixture({}, home.root(), [&](AppModel::Services& services) { useRealMover(services, home.root()); });
+    ModelFixture fixture({}, home.root());
     AppModel& model = fixture.model();
     fixture.settings().addRoot(QStringLiteral("/Volumes/Archive/Projects"));
     show(model, {film, other});
@@ -66,7 +65,6 @@ TEST_F(AppModelMove, OneMoveAtATimeHoldsScansAndLeavesTheResultsWhenDone)
 
     ASSERT_TRUE(model.startMove(film, disk.path()));
     EXPECT_TRUE(model.isChangingFiles());
-    EXPECT_EQ(SharedScanFolders::current(), QStringList{QStringLiteral("/Volumes/Archive/Projects")});
     EXPECT_FALSE(model.startMove(other, disk.path())) << "a second move while one is open";
     model.startScan();
     model.rescan(CategoryID::largeFiles);
@@ -80,7 +78,7 @@ TEST_F(AppModelMove, OneMoveAtATimeHoldsScansAndLeavesTheResultsWhenDone)
     EXPECT_EQ(model.moveSession()->copied(), 400'000);
     EXPECT_EQ(QFileInfo(copy).size(), 400'000);
     EXPECT_EQ(model.result(CategoryID::largeFiles).items, QList<CleanupItem>{other});
-    EXPECT_FALSE(model.isSelected(film.id));
+    EXPECT_FALSE(model.selection().contains(film.id));
     EXPECT_FALSE(model.isChangingFiles());
 
     model.startScan();
@@ -99,11 +97,8 @@ TEST_F(AppModelMove, AnOriginalEditedAtTheLastMomentLeavesTheResultsWithASentenc
     const CleanupItem film = realRow(home, QStringLiteral("Videos/film.mov"));
     ModelFixture fixture({}, home.root(), [&](AppModel::Services& services) {
         services.moveItem = [&](const CleanupItem& item, const QString& destination, const Mover::Progress& progress,
-                                const CancellationToken& stop) {
-            Mover::Environment environment = Mover::Environment::current();
-            environment.removal.home = home.root();
-            environment.removal.otherVolumeFolders.clear();
-            environment.removal.cancellation = &stop;
+                                const Mover::Environment& prepared) {
+            Mover::Environment environment = prepared;
             environment.removal.trash = [&, trash = environment.removal.trash](const TrashRequest& request) {
                 home.file(QStringLiteral("Videos/film.mov"), 4001);
                 return trash(request);
@@ -126,7 +121,7 @@ TEST_F(AppModelMove, QuittingStopsTheMoveAndRemovesTheUnfinishedCopyFirst)
     home.file(QStringLiteral("Backups/phone/Manifest.db"), 200'000);
     const CleanupItem backup = realRow(home, QStringLiteral("Backups/phone"));
     ModelFixture fixture({}, home.root(), [&](AppModel::Services& services) {
-        useRealMover(services, home.root(), stallingCopyTool());
+        useCopyTool(services, stallingCopyTool());
     });
     AppModel& model = fixture.model();
     show(model, {backup});

@@ -22,14 +22,14 @@ TEST(AppModelSelection, TheLastCopyOfAGroupCanNeverBeTicked)
     showDuplicates(model, {a, b});
 
     model.setSelected(a, true);
-    EXPECT_TRUE(model.isLastUnselectedCopy(b));
+    EXPECT_TRUE(model.selection().isLastUnselectedCopy(b));
     model.setSelected(b, true);
-    EXPECT_FALSE(model.isSelected(b.id));
+    EXPECT_FALSE(model.selection().contains(b.id));
     model.setSelected(a, false);
     model.setSelected(b, true);
-    EXPECT_TRUE(model.isSelected(b.id));
-    EXPECT_TRUE(model.duplicateWouldBeLost(b, {b}));
-    EXPECT_FALSE(model.duplicateWouldBeLost(b, {a, b}));
+    EXPECT_TRUE(model.selection().contains(b.id));
+    EXPECT_TRUE(model.selection().duplicateWouldBeLost(b, {b}));
+    EXPECT_FALSE(model.selection().duplicateWouldBeLost(b, {a, b}));
 }
 
 TEST(AppModelSelection, SelectAllKeepsOneCopyPerGroup)
@@ -45,15 +45,15 @@ TEST(AppModelSelection, SelectAllKeepsOneCopyPerGroup)
 
     model.setAll(model.visibleItems(CategoryID::duplicates), true);
 
-    EXPECT_EQ(model.selection().size(), 3);
+    EXPECT_EQ(model.selection().ids().size(), 3);
     for (const QString& group : {QString("g1"), QString("g2")}) {
         int unselected = 0;
         for (const CleanupItem& item : items)
-            unselected += item.duplicateGroup == group && !model.isSelected(item.id);
+            unselected += item.duplicateGroup == group && !model.selection().contains(item.id);
         EXPECT_EQ(unselected, 1) << group.toStdString();
     }
     model.setAll(items, false);
-    EXPECT_TRUE(model.selection().isEmpty());
+    EXPECT_TRUE(model.selection().ids().isEmpty());
 }
 
 TEST(AppModelSelection, LockedAndEmptyTrashRowsStayUnselected)
@@ -67,7 +67,7 @@ TEST(AppModelSelection, LockedAndEmptyTrashRowsStayUnselected)
     model.setSelected(locked, true);
     model.setSelected(trash, true);
     model.setAll({locked, trash}, true);
-    EXPECT_TRUE(model.selection().isEmpty());
+    EXPECT_TRUE(model.selection().ids().isEmpty());
 }
 
 TEST(AppModelSelection, SafeListingACopyDropsItsLoneTwinFromListAndSelection)
@@ -82,7 +82,7 @@ TEST(AppModelSelection, SafeListingACopyDropsItsLoneTwinFromListAndSelection)
     model.addToSafeList(a);
 
     EXPECT_TRUE(model.result(CategoryID::duplicates).items.isEmpty());
-    EXPECT_TRUE(model.selection().isEmpty());
+    EXPECT_TRUE(model.selection().ids().isEmpty());
     EXPECT_EQ(model.toast(), "“a.mov” is on the Safe List.");
 }
 

@@ -31,11 +31,6 @@ TEST(AppModelTrash, TheTrashRowFollowsCleanupsAndEmptying)
     QDir(trash).removeRecursively();
     const QString file = tree.file(QStringLiteral("Downloads/old.zip"), 4000);
     ModelFixture fixture({std::make_shared<TrashScanner>()}, tree.root(), [&](AppModel::Services& services) {
-        services.removeItem = [&](const CleanupItem& item) {
-            RemovalEnvironment environment = RemovalEnvironment::current();
-            environment.home = tree.root();
-            return Remover::remove(item, environment);
-        };
         services.emptyTrash = [&]() -> std::optional<QString> {
             QDir(trash).removeRecursively();
             return std::nullopt;
@@ -57,5 +52,5 @@ TEST(AppModelTrash, TheTrashRowFollowsCleanupsAndEmptying)
     ASSERT_TRUE(waitUntil([&] { return trashRowSize(model) >= 4000; })) << trashRowSize(model).value_or(-1);
 
     model.emptyTrash();
-    EXPECT_TRUE(waitUntil([&] { return !model.isEmptyingTrash() && trashRowSize(model) == 0; }));
+    EXPECT_TRUE(waitUntil([&] { return !model.trashState().isEmptying && trashRowSize(model) == 0; }));
 }

@@ -24,18 +24,18 @@ TEST(AppModelUpdate, OneCheckAtATimeAndItsAnswerStays)
 
     model.checkForUpdates();
     model.checkForUpdates();
-    EXPECT_TRUE(model.isCheckingForUpdates());
-    EXPECT_FALSE(model.updateResult());
-    ASSERT_TRUE(waitUntil([&] { return !model.isCheckingForUpdates(); }, 15'000));
+    EXPECT_TRUE(model.updateState().isChecking);
+    EXPECT_FALSE(model.updateState().result);
+    ASSERT_TRUE(waitUntil([&] { return !model.updateState().isChecking; }, 15'000));
     EXPECT_EQ(server.requests().size(), 1);
     EXPECT_EQ(changes, 2);
-    ASSERT_TRUE(model.updateResult() && model.updateResult()->as<Result::Available>());
-    const auto& release = model.updateResult()->as<Result::Available>()->release;
+    ASSERT_TRUE(model.updateState().result && model.updateState().result->as<Result::Available>());
+    const auto& release = model.updateState().result->as<Result::Available>()->release;
     EXPECT_EQ(release.version, QStringLiteral("9.0"));
     EXPECT_EQ(model.releasePage(release), QUrl(server.origin() + QStringLiteral("/dustlark-mac/")));
 
     server.serve(QStringLiteral("/dustlark-mac/version.json"), HttpsTestServer::Response(500, "{}"));
     model.checkForUpdates();
-    ASSERT_TRUE(waitUntil([&] { return !model.isCheckingForUpdates(); }, 15'000));
-    EXPECT_EQ(model.updateResult()->kind(), Result::Kind::failed);
+    ASSERT_TRUE(waitUntil([&] { return !model.updateState().isChecking; }, 15'000));
+    EXPECT_EQ(model.updateState().result->kind(), Result::Kind::failed);
 }

@@ -59,13 +59,7 @@ TEST(AppRemoval, RemovingAnAppRowMovesTheBundleAndEveryListedPathAndNothingElse)
     ASSERT_EQ(listed.size(), 5);
     const QStringList before = everythingBelow(f.home());
 
-    ModelFixture fixture({}, f.home(), [&](AppModel::Services& s) {
-        s.removeItem = [home = f.home()](const CleanupItem& item) {
-            RemovalEnvironment environment = RemovalEnvironment::current();
-            environment.home = home;
-            return Remover::remove(item, environment);
-        };
-    });
+    ModelFixture fixture({}, f.home());
     AppModel& model = fixture.model();
     model.apply(outputs, false);
     model.setSelected(*foo, true);

@@ -1,6 +1,5 @@
 #include "format/RelativeDate.h"
 #include "actions/ToolStandIn.h"
-#include "machinery/DockerScanRecord.h"
 #include "machinery/ToolLocations.h"
 #include "scan/DockerScanner.h"
 #include "support/TempTree.h"
@@ -68,6 +67,14 @@ protected:
 
     ScanOutput scan() const { return DockerScanner(environment).scanDocker(context); }
 
+    // The removal of a row this scan read: with the endpoint and the scan's start time.
+    Removal scanned(DockerOperation operation) const
+    {
+        operation.host = socket;
+        operation.scannedAt = context.now;
+        return Removal::docker(operation);
+    }
+
     static const CleanupItem* row(const ScanOutput& output, const QString& id)
     {
         for (const CleanupItem& item : output.items) {
@@ -93,7 +100,7 @@ TEST_F(DockerScannerTest, ImagesFollowWhatTheContainersRun)
     ASSERT_NE(web, nullptr);
     EXPECT_EQ(web->title, QStringLiteral("web:dev"));
     EXPECT_EQ(RelativeDate::expand(web->detail, context.now), QStringLiteral("Created last week · also removes stopped containers web-test, scratchpad"));
-    EXPECT_EQ(web->removal, Removal::docker({DockerOperation::Image{webImage, {QStringLiteral("web-test"), QStringLiteral("scratchpad")},
+    EXPECT_EQ(web->removal, scanned({DockerOperation::Image{webImage, {QStringLiteral("web-test"), QStringLiteral("scratchpad")},
                                                                     {QStringLiteral("web:dev")}}}));
     EXPECT_EQ(web->size, 1'200'000'000);
     const auto imageRows = std::count_if(output.items.begin(), output.items.end(),
@@ -107,7 +114,7 @@ TEST_F(DockerScannerTest, ImagesFollowWhatTheContainersRun)
     ASSERT_NE(untagged, nullptr);
     EXPECT_EQ(untagged->title, QStringLiteral("Untagged image"));
     EXPECT_EQ(untagged->size, 1'610'612'736);
-    EXPECT_EQ(untagged->removal, Removal::docker({DockerOperation::Image{untaggedImage, {}, {}}}));
+    EXPECT_EQ(untagged->removal, scanned({DockerOperation::Image{untaggedImage, {}, {}}}));
     EXPECT_EQ(untagged->safety(home.root()), Safety::askAI);
 }
 
@@ -134,7 +141,7 @@ TEST_F(DockerScannerTest, UnusedVolumesWithTheirOriginAndCreationTime)
     ASSERT_NE(shop, nullptr);
     EXPECT_EQ(shop->title, QStringLiteral("shop_pgdata"));
     EXPECT_EQ(shop->detail, QStringLiteral("no container uses it · may hold a database or uploads · Compose project shop"));
-    EXPECT_EQ(shop->removal, Removal::docker({DockerOperation::Volume{QStringLiteral("shop_pgdata"), QStringLiteral("2024-04-02T08:11:12Z")}}));
+    EXPECT_EQ(shop->removal, scanned({DockerOperation::Volume{QStringLiteral("shop_pgdata"), QStringLiteral("2024-04-02T08:11:12Z")}}));
     EXPECT_EQ(shop->safety(home.root()), Safety::risky);
     const CleanupItem* anonymous = row(output, QStringLiteral("docker:volume:") + anonymousVolume);
     ASSERT_NE(anonymous, nullptr);
@@ -160,9 +167,11 @@ TEST_F(DockerScannerTest, SummaryBuildCacheAndOrder)
     for (qsizetype i = 1; i < output.items.size(); ++i)
         EXPECT_GE(output.items[i - 1].size, output.items[i].size) << i;
     EXPECT_TRUE(output.notes.isEmpty()) << qPrintable(output.notes.join(QLatin1Char('\n')));
-    const auto record = DockerScanRecord::last();
-    ASSERT_TRUE(record.has_value());
-    EXPECT_EQ(record->host, socket);
+    for (const CleanupItem& item : output.items) {
+        const DockerOperation& operation = item.removal.as<Removal::Docker>()->operation;
+        EXPECT_EQ(operation.host, socket) << qPrintable(item.id);
+        EXPECT_EQ(operation.scannedAt, context.now) << qPrintable(item.id);
+    }
 }
 
 TEST_F(DockerScannerTest, BuildCacheOfZeroIsOnlyInTheSummary)

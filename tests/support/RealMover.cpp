@@ -2,16 +2,12 @@
 
 #include "actions/Mover.h"
 
-void useRealMover(AppModel::Services& services, const QString& home, std::optional<Mover::CopyTool> copyTool)
+void useCopyTool(AppModel::Services& services, const Mover::CopyTool& copyTool)
 {
-    services.moveItem = [home, copyTool](const CleanupItem& item, const QString& destination,
-                                         const Mover::Progress& progress, const CancellationToken& stop) {
-        Mover::Environment environment = Mover::Environment::current();
-        environment.removal.home = home;
-        environment.removal.otherVolumeFolders.clear();
-        environment.removal.cancellation = &stop;
-        if (copyTool)
-            environment.copyTool = *copyTool;
+    services.moveItem = [copyTool](const CleanupItem& item, const QString& destination, const Mover::Progress& progress,
+                                   const Mover::Environment& prepared) {
+        Mover::Environment environment = prepared;
+        environment.copyTool = copyTool;
         return Mover::move(item, destination, progress, environment);
     };
 }

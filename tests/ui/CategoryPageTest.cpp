@@ -65,14 +65,14 @@ TEST(CategoryPage, LockedRowsCantBeTickedOthersToggle)
     ASSERT_TRUE(page);
 
     fixture.clickCheckbox(locked.id);
-    EXPECT_FALSE(fixture.model().isSelected(locked.id));
+    EXPECT_FALSE(fixture.model().selection().contains(locked.id));
     EXPECT_EQ(tooltipOverCheckbox(fixture, fixture.rowOf(locked.id)), *locked.lockedReason);
 
     fixture.clickCheckbox(open.id);
-    EXPECT_TRUE(fixture.model().isSelected(open.id));
+    EXPECT_TRUE(fixture.model().selection().contains(open.id));
     EXPECT_TRUE(page->selectAll()->isChecked()) << "the locked row doesn't hold select-all back";
     fixture.clickCheckbox(open.id);
-    EXPECT_FALSE(fixture.model().isSelected(open.id));
+    EXPECT_FALSE(fixture.model().selection().contains(open.id));
 }
 
 TEST(CategoryPage, DuplicateCheckboxesAlwaysKeepOneCopy)
@@ -97,15 +97,15 @@ TEST(CategoryPage, DuplicateCheckboxesAlwaysKeepOneCopy)
 
     fixture.clickCheckbox(copies[0].id);
     fixture.clickCheckbox(copies[2].id);
-    EXPECT_TRUE(fixture.model().isSelected(copies[0].id));
-    EXPECT_FALSE(fixture.model().isSelected(copies[2].id));
+    EXPECT_TRUE(fixture.model().selection().contains(copies[0].id));
+    EXPECT_FALSE(fixture.model().selection().contains(copies[2].id));
     EXPECT_EQ(tooltipOverCheckbox(fixture, fixture.rowOf(copies[2].id)), "One copy always stays.");
 
     page->selectAll()->click();
-    EXPECT_EQ(fixture.model().selection().size(), 3) << "one copy per group stays";
+    EXPECT_EQ(fixture.model().selection().ids().size(), 3) << "one copy per group stays";
     EXPECT_TRUE(page->selectAll()->isChecked());
     page->selectAll()->click();
-    EXPECT_TRUE(fixture.model().selection().isEmpty());
+    EXPECT_TRUE(fixture.model().selection().ids().isEmpty());
 }
 
 TEST(CategoryPage, EmptyStatesFollowTheScanTheFilterAndTheSearch)
@@ -134,8 +134,8 @@ TEST(CategoryPage, EmptyStatesFollowTheScanTheFilterAndTheSearch)
     // Select-all works on the shown rows only.
     page->search()->clear();
     page->selectAll()->click();
-    EXPECT_TRUE(fixture.model().isSelected(big.id));
-    EXPECT_FALSE(fixture.model().isSelected(small.id));
+    EXPECT_TRUE(fixture.model().selection().contains(big.id));
+    EXPECT_FALSE(fixture.model().selection().contains(small.id));
 }
 
 TEST(CategoryPage, RowMenuPutsTheRowOnTheSafeList)
@@ -171,7 +171,7 @@ TEST(CategoryPage, AskAIQuestionsGoToTheClipboard)
         const QString question = QGuiApplication::clipboard()->text();
         return question.startsWith("I'm cleaning up my Mac with Dustlark and want to know") && question.contains("sha256-1");
     }));
-    EXPECT_FALSE(fixture.model().isSelected(model.id)) << "clicking the label doesn't tick the row";
+    EXPECT_FALSE(fixture.model().selection().contains(model.id)) << "clicking the label doesn't tick the row";
 
     QGuiApplication::clipboard()->clear();
     page->askAboutShownButton()->click();
@@ -256,7 +256,7 @@ TEST(CategoryPage, EmptyTrashAsksThenEmptiesOrReportsWhy)
 
     page->emptyTrashButton()->click();
     WindowFixture::answer(fixture.question(), "Empty Trash");
-    ASSERT_TRUE(waitUntil([&] { return emptied == 1 && !fixture.model().isEmptyingTrash(); }));
+    ASSERT_TRUE(waitUntil([&] { return emptied == 1 && !fixture.model().trashState().isEmptying; }));
     EXPECT_EQ(fixture.question(), nullptr);
 
     page->emptyTrashButton()->click();
@@ -303,7 +303,7 @@ TEST(CategoryPage, EachRowsMoreButtonOpensItsMenu)
     for (QAction* action : menu->actions())
         titles.append(action->text());
     EXPECT_TRUE(titles.contains("Add to Safe List"));
-    EXPECT_FALSE(fixture.model().isSelected(row.id)) << "the button is not the checkbox";
+    EXPECT_FALSE(fixture.model().selection().contains(row.id)) << "the button is not the checkbox";
     menu->close();
 
     page->list()->setCurrentIndex(index);

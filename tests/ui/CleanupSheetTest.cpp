@@ -82,7 +82,7 @@ TEST(CleanupSheet, ConfirmationNamesRiskyAndPermanentItemsAndCancelKeepsTheSelec
 
     confirmation->cancelButton()->click();
     EXPECT_TRUE(waitUntil([&] { return !fixture.window().cleanupSheet(); }));
-    EXPECT_EQ(fixture.model().selection().size(), 2);
+    EXPECT_EQ(fixture.model().selection().ids().size(), 2);
     EXPECT_EQ(fixture.window().destination(), SidebarDestination::of(CategoryID::largeFiles));
 }
 
@@ -136,7 +136,7 @@ TEST(CleanupSheet, FailuresAreListedWithTheirReasons)
     const CleanupItem kept = fixture.addFile(CategoryID::logs, "Library/Logs/keep.log");
     const CleanupItem gone = fixture.addFile(CategoryID::logs, "Library/Logs/gone.log");
     fixture.start({scannerOf(CategoryID::logs, {kept, gone})}, [](AppModel::Services& services) {
-        services.removeItem = [](const CleanupItem& item) {
+        services.removeItem = [](const CleanupItem& item, const RemovalEnvironment&) {
             if (item.title == "keep.log")
                 return CleanupSession::Outcome::failed("It changed since the scan. Scan again.");
             return WindowFixture::moveToTrash(item);
@@ -162,7 +162,7 @@ TEST(CleanupSheet, QuittingWhileCleaningAsksThenStopsAfterTheCurrentItem)
     auto entered = std::make_shared<std::atomic<bool>>(false);
     auto release = std::make_shared<std::atomic<bool>>(false);
     fixture.start({scannerOf(CategoryID::temporary, {one, two})}, [=](AppModel::Services& services) {
-        services.removeItem = [=](const CleanupItem& item) {
+        services.removeItem = [=](const CleanupItem& item, const RemovalEnvironment&) {
             *entered = true;
             while (!*release)
                 QThread::msleep(2);

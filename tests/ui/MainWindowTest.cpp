@@ -94,7 +94,7 @@ TEST(MainWindow, ChoosingAnotherScreenWithASelectionAsksFirst)
     const CleanupItem row = fixture.addFile(CategoryID::logs, "Library/Logs/a.log");
     ASSERT_TRUE(fixture.open(CategoryID::logs, {row}));
     fixture.clickCheckbox(row.id);
-    ASSERT_TRUE(fixture.model().isSelected(row.id));
+    ASSERT_TRUE(fixture.model().selection().contains(row.id));
 
     fixture.show(CategoryID::logs);
     EXPECT_EQ(fixture.question(), nullptr) << "choosing the shown screen asks nothing";
@@ -110,12 +110,12 @@ TEST(MainWindow, ChoosingAnotherScreenWithASelectionAsksFirst)
 
     WindowFixture::answer(box, "Cancel");
     EXPECT_EQ(fixture.window().destination(), SidebarDestination::of(CategoryID::logs));
-    EXPECT_TRUE(fixture.model().isSelected(row.id));
+    EXPECT_TRUE(fixture.model().selection().contains(row.id));
 
     fixture.show(CategoryID::trash);
     ASSERT_TRUE(fixture.question());
     WindowFixture::answer(fixture.question(), "Clear Selection");
     EXPECT_EQ(fixture.window().destination(), SidebarDestination::of(CategoryID::trash));
-    EXPECT_TRUE(fixture.model().selection().isEmpty());
+    EXPECT_TRUE(fixture.model().selection().ids().isEmpty());
 }
 

@@ -88,7 +88,7 @@ TEST_F(MoveSheetTest, ChecksTheFolderThenShowsProgressAndWhereTheItemWent)
                                    QStringLiteral("copy")},
                                   std::chrono::minutes(1)};
     CategoryPage* page = fixture.open(CategoryID::largeFiles, {footage}, [&](AppModel::Services& services) {
-        useRealMover(services, fixture.home().root(), halfway);
+        useCopyTool(services, halfway);
     });
     ASSERT_TRUE(page);
     fixture.window().resize(1100, 700);
@@ -126,9 +126,7 @@ TEST_F(MoveSheetTest, AMovedRowLeavesTheListAndTheSheetSaysWhere)
     fixture.home().file(QStringLiteral("Models/llama-3-8b.gguf"), 4'000'000, 'q');
     CleanupItem model = fileRow(fixture.home(), CategoryID::largeFiles, QStringLiteral("Models/llama-3-8b.gguf"));
     CleanupItem other = fixture.addFile(CategoryID::largeFiles, QStringLiteral("Models/notes.txt"));
-    CategoryPage* page = fixture.open(CategoryID::largeFiles, {model, other}, [&](AppModel::Services& services) {
-        useRealMover(services, fixture.home().root());
-    });
+    CategoryPage* page = fixture.open(CategoryID::largeFiles, {model, other});
     ASSERT_TRUE(page);
     fixture.window().resize(1100, 700);
     MoveSheet* sheet = openSheet(fixture, *page, model.id);

@@ -38,7 +38,6 @@ void WindowFixture::start(std::vector<std::shared_ptr<const Scanner>> scanners,
     services.readSystemState = [](const QString&) { return AppModel::SystemState{120'500'000'000, 494'000'000'000, true}; };
     services.removeItem = &WindowFixture::moveToTrash;
     services.emptyTrash = [] { emptyTrashFolder(); return std::optional<QString>(); };
-    services.measureTrash = [](const QString&) { return std::optional<qint64>(QDir(trashFiles()).count()); };
     if (adjust)
         adjust(services);
     m_model = std::make_unique<AppModel>(m_settingsStore.get(), m_stats.get(), services);
@@ -130,7 +129,7 @@ void WindowFixture::emptyTrashFolder()
     QDir().mkpath(trash + QStringLiteral("/info"));
 }
 
-CleanupSession::Outcome WindowFixture::moveToTrash(const CleanupItem& item)
+CleanupSession::Outcome WindowFixture::moveToTrash(const CleanupItem& item, const RemovalEnvironment&)
 {
     for (const QString& path : item.removal.paths()) {
         QString inTrash;

@@ -57,7 +57,7 @@ public:
     static QString trashFiles();
     static void emptyTrashFolder();
     // Moves every path of the item to the trash, as the remover does for Trash rows.
-    static CleanupSession::Outcome moveToTrash(const CleanupItem& item);
+    static CleanupSession::Outcome moveToTrash(const CleanupItem& item, const RemovalEnvironment& = {});
 
 private:
     TempTree m_home;
