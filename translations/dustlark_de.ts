@@ -3114,9 +3114,9 @@ Column heading of the storage drill-down: its size</extracomment>
         <translation>Es wurde nichts entfernt: %1 liegt auf einem anderen Laufwerk als der Papierkorb.</translation>
     </message>
     <message>
-        <source>Nothing was removed: %1 can&apos;t be opened. %2</source>
-        <extracomment>Why Empty Trash removed nothing; %1 is a folder of the Trash, %2 the system&apos;s reason (a sentence)</extracomment>
-        <translation>Es wurde nichts entfernt: %1 lässt sich nicht öffnen. %2</translation>
+        <source>Nothing was removed: %1 can&apos;t be opened (%2).</source>
+        <extracomment>Why Empty Trash removed nothing; %1 is a folder of the Trash, %2 the system&apos;s reason (such as &quot;Permission denied&quot;)</extracomment>
+        <translation>Es wurde nichts entfernt: %1 lässt sich nicht öffnen (%2).</translation>
     </message>
 </context>
 <context>

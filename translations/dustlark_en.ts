@@ -3114,8 +3114,8 @@ Column heading of the storage drill-down: its size</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Nothing was removed: %1 can&apos;t be opened. %2</source>
-        <extracomment>Why Empty Trash removed nothing; %1 is a folder of the Trash, %2 the system&apos;s reason (a sentence)</extracomment>
+        <source>Nothing was removed: %1 can&apos;t be opened (%2).</source>
+        <extracomment>Why Empty Trash removed nothing; %1 is a folder of the Trash, %2 the system&apos;s reason (such as &quot;Permission denied&quot;)</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -1,6 +1,7 @@
 #include "actions/TrashFolder.h"
 
 #include "actions/FreedesktopTrash.h"
+#include "vocabulary/SystemError.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -9,7 +10,6 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <system_error>
 #include <unistd.h>
 
 namespace {
@@ -64,11 +64,6 @@ std::optional<TrashFolder> withParts(Descriptor trash, const QString& path, cons
     return opened;
 }
 
-QString describe(int error)
-{
-    return QString::fromStdString(std::generic_category().message(error));
-}
-
 QString linkedFolder(const QString& path)
 {
     //: Why Empty Trash removed nothing; %1 is a folder of the Trash (or above it) that is a symbolic link
@@ -83,8 +78,8 @@ QString folderOnOtherDisk(const QString& path)
 
 QString cannotOpen(const QString& path, int error)
 {
-    //: Why Empty Trash removed nothing; %1 is a folder of the Trash, %2 the system's reason (a sentence)
-    return QCoreApplication::translate("SystemAccess", "Nothing was removed: %1 can't be opened. %2").arg(path, describe(error));
+    //: Why Empty Trash removed nothing; %1 is a folder of the Trash, %2 the system's reason (such as "Permission denied")
+    return QCoreApplication::translate("SystemAccess", "Nothing was removed: %1 can't be opened (%2).").arg(path, SystemError::describe(error));
 }
 
 // Why the entry `name` of `parent` could not be opened as a folder without following a link
