@@ -29,6 +29,7 @@
 #define F_SETFD 2
 #define F_GETFL 3
 #define F_SETFL 4
+#define F_NOCACHE 48
 #define F_GETPATH 50
 #define F_FULLFSYNC 51
 #define F_DUPFD_CLOEXEC 67
