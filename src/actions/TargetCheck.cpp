@@ -27,6 +27,8 @@ bool lexists(const QString& path)
     return FileStatus::exists(path);
 }
 
+// The secure walk reports only device and inode; the whole identity rule (birth time too) has
+// already held for the same path in objectProblem, so this only ties the walk to that object.
 bool isSameObject(const FileTarget& target, qint32 device, quint64 inode)
 {
     return target.device == device && target.inode == inode;
