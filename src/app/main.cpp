@@ -23,6 +23,10 @@ int main(int argc, char* argv[])
     // The native store: NSUserDefaults on macOS, an INI file under ~/.config on Linux. Only the
     // app's own domain is read: with fallbacks, macOS answers a key the app never set from the
     // global domain (an unset "AppleLanguages" read as the system's list of languages).
+    // On macOS that domain is Qt's "com.dustlark.Dustlark", not the bundle identifier: QSettings
+    // builds it from the organisation and cannot spell a ".app" domain, and writing the bundle
+    // identifier's plist directly would race cfprefsd, which also holds that domain for AppKit's
+    // own keys (the open panel's last folder) and writes its copy back over ours.
     QSettings settings;
     settings.setFallbacksEnabled(false);
     AppLanguage::loadAtLaunch(settings);
