@@ -222,11 +222,11 @@ private:
     // Hashes the bytes from `from` to `to`; false when they cannot all be read.
     bool readExactly(int fd, qint64 from, qint64 to, const HashState& hash)
     {
-        const std::optional<qint64> read = FileDigest::feed(fd, from, to, hash.get(), m_buffer.data(), m_buffer.size());
-        if (!read)
+        const auto fed = FileDigest::feed(fd, from, to, hash.get(), m_buffer.data(), m_buffer.size());
+        if (!fed)
             return false;
-        m_stats.bytesRead += *read;
-        return *read == to - from;
+        m_stats.bytesRead += fed->read;
+        return fed->length == to - from;
     }
 
     // Adds the groups of one shared head to `groups`; false when cancelled part-way. Files are
@@ -350,9 +350,9 @@ private:
 
 // ---- Candidates and rows ----
 
-// One entry per stored file (hard links count once), grouped by length; groups of one are
-// dropped. Larger files come first: they waste the most and take longest to hash, so the
-// concurrent map starts them early.
+// One entry per stored file (hard links count once, files with no blocks not at all), grouped
+// by length; groups of one are dropped. Larger files come first: they waste the most and take
+// longest to hash, so the concurrent map starts them early.
 std::vector<std::vector<const File*>> sizeGroups(const QList<File>& files)
 {
     QSet<FileKey> seen;
@@ -360,7 +360,8 @@ std::vector<std::vector<const File*>> sizeGroups(const QList<File>& files)
     std::vector<std::vector<const File*>> groups;
     for (const File& file : files) {
         const FileKey key{file.device, file.inode};
-        if (seen.contains(key))
+        // A file that is all holes takes no space: removing it frees nothing, so it is never read.
+        if (file.allocated == 0 || seen.contains(key))
             continue;
         seen.insert(key);
         const size_t index = indexOfSize.value(file.size, groups.size());

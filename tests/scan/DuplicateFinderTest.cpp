@@ -265,6 +265,40 @@ TEST_F(DuplicateFinderTest, ClonesCountOnceLikeHardLinks)
     EXPECT_TRUE(find({"clone", "original"}).items.isEmpty()) << "removing either frees nothing";
 }
 
+// Files that are all holes free nothing: they make no rows and are not even opened, however
+// many share a size. A file with holes still matches its dense twin by content.
+TEST_F(DuplicateFinderTest, HolesFreeNothingAndAreNeverRead)
+{
+    QStringList sparse;
+    for (int i = 0; i < 1'500; ++i) {
+        const QString name = QStringLiteral("sparse/%1").arg(i);
+        QFile file(tree.file(name));
+        ASSERT_TRUE(file.resize(2'000'000));
+        sparse.append(name);
+    }
+    if (candidate(tree.path(sparse.first())).allocated != 0)
+        GTEST_SKIP() << "this file system stores holes as data";
+    const auto holes = find(sparse);
+    EXPECT_TRUE(holes.items.isEmpty());
+    EXPECT_EQ(holes.stats.filesRead, 0);
+    EXPECT_EQ(holes.stats.bytesRead, 0);
+
+    const qint64 size = 4 * 1'048'576;
+    QByteArray content(size, '\0');
+    content.replace(0, head, randomContent(head));
+    content.replace(size - head, head, randomContent(head));
+    tree.file("dense", content);
+    QFile gappy(tree.file("gappy", content.left(head)));
+    ASSERT_TRUE(gappy.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(gappy.seek(size - head));
+    ASSERT_EQ(gappy.write(content.right(head)), head);
+    gappy.close();
+    const auto pair = find({"dense", "gappy"});
+    EXPECT_EQ(titles(pair.items).size(), 2);
+    EXPECT_EQ(pair.items.value(0).duplicateGroup, sha256(content));
+    EXPECT_LT(pair.stats.bytesRead, 2 * size) << "the gappy file's holes were read";
+}
+
 TEST(DuplicateFinderDigest, MatchesSha256AcrossChunksAndStopsAtTheLimit)
 {
     TempTree tree;
