@@ -96,7 +96,7 @@ QImage progress()
     const Mover::CopyTool halfway{QStringLiteral("/bin/sh"),
                                   {QStringLiteral("-c"), QStringLiteral("mkdir \"$2\" && cp -p \"$1/day1.mov\" \"$2/\"; sleep 60"),
                                    QStringLiteral("copy")},
-                                  std::chrono::minutes(1)};
+                                  std::chrono::minutes(1), {}};
     MoveWindow window(halfway);
     if (!window.sheet() || !window.choose(window.disk()))
         return {};

@@ -86,7 +86,7 @@ TEST_F(MoveSheetTest, ChecksTheFolderThenShowsProgressAndWhereTheItemWent)
     const Mover::CopyTool halfway{QStringLiteral("/bin/sh"),
                                   {QStringLiteral("-c"), QStringLiteral("mkdir \"$2\" && cp -p \"$1/day1.mov\" \"$2/\"; sleep 60"),
                                    QStringLiteral("copy")},
-                                  std::chrono::minutes(1)};
+                                  std::chrono::minutes(1), {}};
     CategoryPage* page = fixture.open(CategoryID::largeFiles, {footage}, [&](AppModel::Services& services) {
         useCopyTool(services, halfway);
     });
