@@ -1,5 +1,7 @@
 #include "model/CleanupSession.h"
 
+#include "vocabulary/ItemName.h"
+
 CleanupSession::CleanupSession(QList<CleanupItem> items, RemovalEnvironment environment, QObject* parent)
     : QObject(parent), m_items(std::move(items)), m_environment(std::move(environment))
 {
@@ -45,7 +47,8 @@ void CleanupSession::record(const CleanupItem& item, const Outcome& outcome)
         break;
     }
     case Outcome::Kind::failed:
-        m_failures.append(Failure{QUuid::createUuid().toString(QUuid::WithoutBraces), item.title, outcome.reason});
+        m_failures.append(Failure{QUuid::createUuid().toString(QUuid::WithoutBraces), ItemName::of(item, m_environment.home),
+                                  outcome.reason});
         break;
     }
     emit changed();
@@ -111,8 +114,8 @@ QString CleanupSession::riskyLine(const QString& home) const
         return {};
     QStringList names;
     for (const CleanupItem& item : risky.mid(0, 3))
-        names.append(item.title);
-    //: Cleanup confirmation line; %n is the number of Risky items, %1 the first three titles, comma-separated
+        names.append(ItemName::of(item, home));
+    //: Cleanup confirmation line; %n is the number of Risky items, %1 the first three names, comma-separated
     return tr("%n selected items are marked Risky: %1. They may hold data that exists nowhere else.", nullptr,
               int(risky.size()))
         .arg(names.join(QStringLiteral(", ")));

@@ -4,6 +4,7 @@
 #include "model/CleanupSession.h"
 #include "ui/SelectionBar.h"
 #include "ui/SheetText.h"
+#include "vocabulary/ItemName.h"
 
 #include <QDialogButtonBox>
 #include <QGridLayout>
@@ -22,11 +23,11 @@ qint64 totalSize(const QList<CleanupItem>& items)
     return total;
 }
 
-QString trashOnlyTitle(const QList<CleanupItem>& items)
+QString trashOnlyTitle(const QList<CleanupItem>& items, const QString& home)
 {
     if (items.size() == 1)
-        //: Title of the cleanup confirmation for one item that goes to the Trash; %1 is its name
-        return CleanupConfirmation::tr("Move “%1” to the Trash?").arg(items.first().title);
+        //: Title of the cleanup confirmation for one item that goes to the Trash; %1 is its name, like "node_modules in ~/Projects/app"
+        return CleanupConfirmation::tr("Move “%1” to the Trash?").arg(ItemName::of(items.first(), home));
     //: Title of the cleanup confirmation when every item goes to the Trash; %n is their number
     return CleanupConfirmation::tr("Move %n items to the Trash?", nullptr, int(items.size()));
 }
@@ -61,7 +62,7 @@ QGridLayout* makeBreakdown(const QList<CleanupItem>& items, QWidget* parent)
 }  // namespace
 
 CleanupConfirmation::CleanupConfirmation(const CleanupSession* session, const QString& home, QWidget* parent)
-    : QWidget(parent), m_session(session), m_layout(new QVBoxLayout(this)), m_title(new QLabel(this)),
+    : QWidget(parent), m_session(session), m_home(home), m_layout(new QVBoxLayout(this)), m_title(new QLabel(this)),
       m_confirm(new QPushButton(this)), m_cancel(new QPushButton(this))
 {
     m_layout->setContentsMargins(0, 0, 0, 0);
@@ -69,7 +70,7 @@ CleanupConfirmation::CleanupConfirmation(const CleanupSession* session, const QS
     const QList<CleanupItem> permanent = session->permanentItems();
     const QList<CleanupItem> trash = session->trashItems();
     SheetText::makeHeading(m_title);
-    m_title->setText(permanent.isEmpty() ? trashOnlyTitle(trash) : session->permanentTitle());
+    m_title->setText(permanent.isEmpty() ? trashOnlyTitle(trash, home) : session->permanentTitle());
     m_layout->addWidget(m_title);
     if (!permanent.isEmpty()) {
         auto* warning = new QLabel(CleanupSession::permanentWarning(), this);
@@ -138,7 +139,13 @@ void CleanupConfirmation::addButtons()
     auto* buttons = new QDialogButtonBox(this);
     buttons->addButton(m_cancel, QDialogButtonBox::RejectRole);
     buttons->addButton(m_confirm, QDialogButtonBox::AcceptRole);
-    m_confirm->setDefault(true);
+    // Return must never confirm a removal of what may exist nowhere else: then Cancel is the default.
+    const bool risky = !m_session->riskyLine(m_home).isEmpty();
+    m_confirm->setAutoDefault(!risky);
+    m_confirm->setDefault(!risky);
+    m_cancel->setDefault(risky);
+    if (risky)
+        m_cancel->setFocus();
     connect(m_confirm, &QPushButton::clicked, this, &CleanupConfirmation::confirmed);
     connect(m_cancel, &QPushButton::clicked, this, &CleanupConfirmation::cancelled);
     m_layout->addWidget(buttons);

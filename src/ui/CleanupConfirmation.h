@@ -35,6 +35,7 @@ private:
     void addButtons();
 
     const CleanupSession* m_session;
+    QString m_home;
     QVBoxLayout* m_layout;
     QLabel* m_title;
     QPushButton* m_confirm;

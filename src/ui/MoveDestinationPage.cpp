@@ -5,6 +5,7 @@
 #include "model/SettingsStore.h"
 #include "ui/SheetText.h"
 #include "vocabulary/PathRules.h"
+#include "vocabulary/ItemName.h"
 
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -34,14 +35,14 @@ MoveDestinationPage::MoveDestinationPage(AppModel* model, CleanupItem item, QWid
 
 void MoveDestinationPage::addIntroduction(QVBoxLayout* layout)
 {
-    //: Heading of the move sheet; %1 is the row's title
-    auto* heading = new QLabel(tr("Move “%1” to another disk?").arg(m_item.title), this);
+    const QString home = m_model->settings()->home();
+    //: Heading of the move sheet; %1 names the row, like "node_modules in ~/Projects/app"
+    auto* heading = new QLabel(tr("Move “%1” to another disk?").arg(ItemName::of(m_item, home)), this);
     SheetText::makeHeading(heading);
     //: Under the move sheet's heading: what a move does, in order
     auto* explanation = new QLabel(tr("Dustlark copies it to the folder you choose, checks that the copy matches "
                                       "the original, and only then moves the original to the Trash."), this);
     SheetText::makeBody(explanation);
-    const QString home = m_model->settings()->home();
     auto* facts = new QLabel(ByteCount::format(m_item.size) + QStringLiteral(" · ")
                                  + PathRules::withTilde(m_item.removal.paths().value(0), home), this);
     SheetText::makeSecondary(facts);

@@ -1,8 +1,11 @@
 #include "ui/MoveOutcomePage.h"
 
+#include "model/AppModel.h"
 #include "model/MoveSession.h"
+#include "model/SettingsStore.h"
 #include "ui/Reveal.h"
 #include "ui/SheetText.h"
+#include "vocabulary/ItemName.h"
 
 #include <QDesktopServices>
 #include <QDialogButtonBox>
@@ -16,15 +19,16 @@ MoveOutcomePage::MoveOutcomePage(AppModel* model, const MoveSession& session, QW
     : QWidget(parent), m_title(new QLabel(this)), m_text(new QLabel(this)), m_done(new QPushButton(this))
 {
     const Mover::Outcome outcome = session.outcome().value_or(Mover::Outcome{});
-    const QString name = session.item().title;
+    const QString name = ItemName::of(session.item(), model->settings()->home());
     SheetText::makeHeading(m_title);
     SheetText::makeBody(m_text);
     auto* buttons = new QDialogButtonBox(this);
     if (outcome.succeeded()) {
-        //: Heading of the move sheet after a move; %1 is the row's title
+        //: Heading of the move sheet after a move; %1 names the row, like "node_modules in ~/Projects/app"
         m_title->setText(tr("“%1” was moved").arg(name));
-        //: After a move: %1 is the new location; the original went to the Trash
-        m_text->setText(tr("It is now at %1. The original is in the Trash.").arg(outcome.destination));
+        //: After a move: %1 is the new location; the original went to the Trash, which still holds its space
+        m_text->setText(tr("It is now at %1. The original is in the Trash; its space comes back once the Trash is emptied.")
+                            .arg(outcome.destination));
         m_show = buttons->addButton(Reveal::title(), QDialogButtonBox::ActionRole);
         connect(m_show, &QPushButton::clicked, this, [model, moved = outcome.destination] { Reveal::show(model, moved); });
     } else {

@@ -2,7 +2,9 @@
 
 #include "format/ByteCount.h"
 #include "model/AppModel.h"
+#include "model/SettingsStore.h"
 #include "ui/SheetText.h"
+#include "vocabulary/ItemName.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -20,8 +22,8 @@ MoveProgressPage::MoveProgressPage(AppModel* model, MoveSession* session, QWidge
     : QWidget(parent), m_model(model), m_session(session), m_bar(new QProgressBar(this)),
       m_figures(new QLabel(this)), m_stop(new QPushButton(this))
 {
-    //: Heading of the move sheet while the copy runs; %1 is the row's title
-    auto* heading = new QLabel(tr("Moving “%1”…").arg(session->item().title), this);
+    //: Heading of the move sheet while the copy runs; %1 names the row, like "node_modules in ~/Projects/app"
+    auto* heading = new QLabel(tr("Moving “%1”…").arg(ItemName::of(session->item(), model->settings()->home())), this);
     SheetText::makeHeading(heading);
     //: Under the heading while a move runs; %1 is the destination folder
     auto* where = new QLabel(tr("To %1").arg(session->destination()), this);

@@ -95,7 +95,10 @@ TEST(CleanupSheet, CleanupMovesFilesToTheTrashAndEmptiesIt)
     CleanupItem build = fileRow(fixture.home(), CategoryID::projects, "app/build");
     modules.size = 20'480;
     build.size = 32'768;
-    CategoryPage* page = fixture.open(CategoryID::projects, {modules, build});
+    auto freeSpace = std::make_shared<std::atomic<qint64>>(120'500'000'000);
+    CategoryPage* page = fixture.open(CategoryID::projects, {modules, build}, [=](AppModel::Services& services) {
+        services.readSystemState = [=](const QString&) { return AppModel::SystemState{freeSpace->load(), 494'000'000'000, true}; };
+    });
     ASSERT_TRUE(page);
     page->selectAll()->click();
     page->selectionBar()->cleanButton()->click();
@@ -111,6 +114,8 @@ TEST(CleanupSheet, CleanupMovesFilesToTheTrashAndEmptiesIt)
     EXPECT_EQ(results->title()->text(), "Cleaning finished");
     EXPECT_EQ(results->figure("Moved to the Trash"), ByteCount::format(modules.size + build.size));
     EXPECT_EQ(results->figure("Free space after"), "120.5 GB");
+    EXPECT_EQ(results->figure("Freed"), "None yet: the space comes back when the Trash is emptied")
+        << "moving to the Trash on the same disk frees nothing";
     EXPECT_TRUE(results->failures()->isHidden());
     EXPECT_FALSE(QFileInfo::exists(modules.id) || QFileInfo::exists(build.id));
     EXPECT_TRUE(QFileInfo::exists(WindowFixture::trashFiles() + "/node_modules/left-pad/index.js"));
@@ -121,13 +126,54 @@ TEST(CleanupSheet, CleanupMovesFilesToTheTrashAndEmptiesIt)
               "Files in the Trash still take space. Empty the Trash to get it back, or check them in " + where + " first.");
 
     results->emptyTrashButton()->click();
+    *freeSpace = 120'600'000'000;
     WindowFixture::answer(fixture.question(), "Empty Trash");
     ASSERT_TRUE(waitUntil([&] { return results->trashNote()->text() == "The Trash is empty."; }));
     EXPECT_TRUE(QDir(WindowFixture::trashFiles()).isEmpty());
+    EXPECT_TRUE(waitUntil([&] { return results->figure("Freed") == "100 MB"; })) << qPrintable(results->figure("Freed"));
+    EXPECT_EQ(results->figure("Free space after"), "120.6 GB");
+    EXPECT_EQ(fixture.window().freeSpaceLabel()->text(), "120.6 GB available");
 
     results->doneButton()->click();
     EXPECT_TRUE(waitUntil([&] { return !fixture.window().cleanupSheet(); }));
     EXPECT_TRUE(fixture.model().lastRunCleanup());
+}
+
+// The sheet names a project's folder as its row does, not by the project alone; Return confirms
+// only a cleanup without Risky items.
+TEST(CleanupSheet, NamesTheFolderThatGoesAndReturnNeverConfirmsRiskyItems)
+{
+    WindowFixture fixture;
+    fixture.home().file("Projects/bigmove2/node_modules/left-pad/index.js", 20'000);
+    CleanupItem modules = fileRow(fixture.home(), CategoryID::projects, "Projects/bigmove2/node_modules");
+    modules.title = "bigmove2";
+    modules.badge = "node_modules";
+    modules.projectPath = fixture.home().path("Projects/bigmove2");
+    const CleanupItem movie = fixture.addFile(CategoryID::largeFiles, "Movies/holiday.iso");
+    fixture.start({scannerOf(CategoryID::projects, {modules}), scannerOf(CategoryID::largeFiles, {movie})});
+    ASSERT_TRUE(fixture.scan());
+
+    fixture.model().setSelected(movie, true);
+    fixture.model().prepareCleanup();
+    ASSERT_TRUE(waitForPhase(fixture, CleanupSession::Phase::confirming));
+    CleanupSheet* sheet = fixture.window().cleanupSheet();
+    EXPECT_TRUE(sheet->confirmation()->cancelButton()->isDefault());
+    EXPECT_FALSE(sheet->confirmation()->confirmButton()->isDefault());
+    QTest::keyClick(sheet, Qt::Key_Return);
+    EXPECT_TRUE(waitUntil([&] { return fixture.model().cleanup() == nullptr; })) << "Return didn't cancel";
+    EXPECT_TRUE(QFileInfo::exists(movie.id));
+    EXPECT_TRUE(fixture.model().selection().contains(movie.id)) << "cancelling keeps the selection";
+
+    fixture.model().clearSelection();
+    fixture.model().setSelected(modules, true);
+    fixture.model().prepareCleanup();
+    ASSERT_TRUE(waitForPhase(fixture, CleanupSession::Phase::confirming));
+    sheet = fixture.window().cleanupSheet();
+    EXPECT_EQ(sheet->confirmation()->title()->text(), "Move “node_modules in ~/Projects/bigmove2” to the Trash?");
+    QTest::keyClick(sheet, Qt::Key_Return);
+    ASSERT_TRUE(waitForPhase(fixture, CleanupSession::Phase::finished)) << "Return confirms what isn't Risky";
+    EXPECT_FALSE(QFileInfo::exists(modules.id));
+    EXPECT_TRUE(QFileInfo::exists(fixture.home().path("Projects/bigmove2")));
 }
 
 TEST(CleanupSheet, FailuresAreListedWithTheirReasons)

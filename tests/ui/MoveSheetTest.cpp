@@ -137,7 +137,7 @@ TEST_F(MoveSheetTest, AMovedRowLeavesTheListAndTheSheetSaysWhere)
 
     ASSERT_TRUE(waitUntil([&] { return sheet->outcomePage(); }));
     const QString copy = disk.path() + QStringLiteral("/llama-3-8b.gguf");
-    EXPECT_EQ(sheet->outcomePage()->text()->text(), QStringLiteral("It is now at %1. The original is in the Trash.").arg(copy));
+    EXPECT_EQ(sheet->outcomePage()->text()->text(), QStringLiteral("It is now at %1. The original is in the Trash; its space comes back once the Trash is emptied.").arg(copy));
     ASSERT_TRUE(sheet->outcomePage()->showButton());
     EXPECT_EQ(QFileInfo(copy).size(), 4'000'000);
     EXPECT_EQ(page->listModel()->shownItems(), QList<CleanupItem>{other});

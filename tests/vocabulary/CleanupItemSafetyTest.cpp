@@ -3,6 +3,7 @@
 #include "scan/KnownLocations.h"
 #include "scan/LocationScanner.h"
 #include "support/TempTree.h"
+#include "vocabulary/ItemName.h"
 
 #include <QMap>
 
@@ -183,4 +184,28 @@ TEST(Removal, PathsOnlyForTrashRemovals)
     EXPECT_TRUE(Removal::docker({DockerOperation::BuildCache{}}).paths().isEmpty());
     EXPECT_FALSE(Removal::trash({}).isPermanent());
     EXPECT_TRUE(Removal{Removal::EmptyTrash{}}.isPermanent());
+}
+
+// A folder inside the project its row is titled after is named with the project's place; any
+// other row, and a row that is the project itself or more than one folder, keeps its title.
+TEST(ItemName, SaysWhichFolderOfTheProjectGoes)
+{
+    CleanupItem build = item(CategoryID::projects, home + "/Projects/app/android/build");
+    build.title = QStringLiteral("app");
+    build.projectPath = home + "/Projects/app";
+    EXPECT_EQ(ItemName::of(build, home), QStringLiteral("build in ~/Projects/app/android"));
+    EXPECT_EQ(ItemName::of(build, QStringLiteral("/home/b")), QStringLiteral("build in /Users/a/Projects/app/android"));
+
+    CleanupItem whole = build;
+    whole.removal = Removal::trash({target(home + "/Projects/app")});
+    EXPECT_EQ(ItemName::of(whole, home), QStringLiteral("app"));
+    CleanupItem worktree = build;
+    worktree.removal = Removal::trash({target(home + "/Projects/app-fix"), target(home + "/Projects/app/.git/worktrees/fix")});
+    EXPECT_EQ(ItemName::of(worktree, home), QStringLiteral("app"));
+    CleanupItem sibling = build;
+    sibling.removal = Removal::trash({target(home + "/Projects/app-old/build")});
+    EXPECT_EQ(ItemName::of(sibling, home), QStringLiteral("app")) << "a path that only starts like the project";
+    CleanupItem plain = item(CategoryID::oldDownloads, home + "/Downloads/setup.zip");
+    plain.title = QStringLiteral("setup.zip");
+    EXPECT_EQ(ItemName::of(plain, home), QStringLiteral("setup.zip"));
 }
