@@ -5,10 +5,16 @@
 #include "ui/CategoryPage.h"
 #include "ui/CleanupConfirmation.h"
 #include "ui/CleanupSheet.h"
+#include "ui/TrashProgress.h"
 #include "ui/WindowFixture.h"
 
 #include <QCoreApplication>
+#include <QMessageBox>
+#include <QProgressBar>
 #include <QPushButton>
+#include <QThread>
+
+#include <atomic>
 
 namespace {
 
@@ -139,6 +145,45 @@ QImage cleanupResults()
     return withSheet(window.fixture().window(), *window.fixture().window().cleanupSheet());
 }
 
+// The Trash being emptied: two of five items gone, held there until the picture is taken.
+QImage emptyTrashProgress()
+{
+    WindowFixture fixture;
+    CleanupItem trash;
+    trash.id = "trash";
+    trash.category = CategoryID::trash;
+    trash.title = QCoreApplication::translate("TrashScanner", "Trash");
+    trash.size = 2'140'000'000;
+    trash.removal = Removal{Removal::EmptyTrash{}};
+    auto taken = std::make_shared<std::atomic<bool>>(false);
+    CategoryPage* page = fixture.open(CategoryID::trash, {trash}, [taken](AppModel::Services& services) {
+        services.emptyTrash = [taken](const FreedesktopTrash::EmptyProgress& progress, const CancellationToken& stop) {
+            progress(2, 5);
+            while (!*taken && !stop.isCancelled())
+                QThread::msleep(5);
+            return std::optional<QString>();
+        };
+    });
+    if (!page)
+        return {};
+    fixture.window().resize(1280, 800);
+    page->emptyTrashButton()->click();
+    QMessageBox* question = fixture.question();
+    if (!question)
+        return {};
+    for (QAbstractButton* button : question->buttons()) {
+        if (button->text() == QCoreApplication::translate("TrashEmptier", "Empty Trash"))
+            button->click();
+    }
+    TrashProgress* sheet = fixture.window().findChild<TrashProgress*>();
+    if (!sheet || !waitUntil([&] { return sheet->bar()->value() == 2; }))
+        return {};
+    const QImage picture = withSheet(fixture.window(), *sheet);
+    *taken = true;
+    waitUntil([&] { return !fixture.model().trashState().isEmptying; });
+    return picture;
+}
+
 }  // namespace
 
 // The list at the smallest size the window takes, where long words would clip first.
@@ -160,5 +205,6 @@ QList<Scene> categoryScenes()
         {QStringLiteral("smallest-window.png"), smallestWindow},
         {QStringLiteral("cleanup-confirmation.png"), cleanupConfirmation},
         {QStringLiteral("cleanup-results.png"), cleanupResults},
+        {QStringLiteral("empty-trash-progress.png"), emptyTrashProgress},
     };
 }

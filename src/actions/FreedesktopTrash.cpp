@@ -39,18 +39,34 @@ QList<QByteArray> entriesOf(int folder)
 
 // Removes each trashed object through the held "files" folder; its info file goes only with
 // it, so whatever stays can still be put back by a file manager.
-bool removeObjects(const TrashFolder& trash)
+struct Removed {
+    bool all = true;
+    bool stopped = false;
+};
+
+Removed removeObjects(const TrashFolder& trash, const EmptyProgress& progress, const CancellationToken* stop)
 {
-    bool allRemoved = true;
-    for (const QByteArray& name : entriesOf(trash.files.get())) {
-        if (name.isEmpty())
-            continue;
+    QList<QByteArray> names = entriesOf(trash.files.get());
+    names.removeAll(QByteArray());
+    const int total = int(names.size());
+    Removed removed;
+    int done = 0;
+    if (progress)
+        progress(done, total);
+    for (const QByteArray& name : names) {
+        if (stop && stop->isCancelled()) {
+            removed.stopped = true;
+            removed.all = false;
+            break;
+        }
         if (TreeRemoval::removeAt(trash.files.get(), name))
             ::unlinkat(trash.info.get(), (name + infoSuffix).constData(), 0);
         else
-            allRemoved = false;
+            removed.all = false;
+        if (progress)
+            progress(++done, total);
     }
-    return allRemoved;
+    return removed;
 }
 
 bool isInFiles(const TrashFolder& trash, const QByteArray& name)
@@ -87,7 +103,13 @@ bool prepareHomeTrash()
         && makeOwnerOnlyFolder(trash + QStringLiteral("/info"));
 }
 
-std::optional<QString> empty()
+QString stoppedSentence()
+{
+    //: Empty Trash status after the person pressed Stop
+    return QCoreApplication::translate("SystemAccess", "Emptying the Trash was stopped. What was already removed is gone.");
+}
+
+std::optional<QString> empty(const EmptyProgress& progress, const CancellationToken* stop)
 {
     const ExistingTrash existing = TrashFolder::existingHome();
     if (existing.refusal)
@@ -95,11 +117,13 @@ std::optional<QString> empty()
     if (!existing.trash)
         return std::nullopt;  // no Trash, nothing in it
     const TrashFolder& trash = *existing.trash;
-    const bool allRemoved = removeObjects(trash);
+    const Removed removed = removeObjects(trash, progress, stop);
     removeOrphanedInfo(trash);
+    if (removed.stopped)
+        return stoppedSentence();
     (void)TreeRemoval::removeAt(trash.folder.get(), "expunged");
     ::unlinkat(trash.folder.get(), "directorysizes", 0);
-    if (allRemoved)
+    if (removed.all)
         return std::nullopt;
     //: Empty Trash error on Linux, when some trashed items could not be deleted
     return QCoreApplication::translate("SystemAccess", "Some items in the Trash couldn't be removed. Empty the Trash again or use your file manager.");

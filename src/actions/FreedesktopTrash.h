@@ -1,9 +1,12 @@
 #pragma once
 
 #include "actions/TrashOperation.h"
+#include "machinery/CancellationToken.h"
 
 #include <QString>
 #include <QStringList>
+
+#include <functional>
 
 #include <optional>
 
@@ -31,7 +34,12 @@ namespace FreedesktopTrash {
 // folder down without following a link and its folders are held for the whole emptying, so
 // everything removed lies in the held "files"; a "files" or "info" that is a link or on another
 // volume is refused and nothing is removed. Read-only folders are made writable; files keep
-// their modes. Nothing when all went; otherwise one sentence.
-[[nodiscard]] std::optional<QString> empty();
+// their modes. `progress` hears the objects removed so far of all in "files", after each one;
+// `stop` is polled between objects. Nothing when all went; otherwise one sentence.
+using EmptyProgress = std::function<void(int removed, int total)>;
+[[nodiscard]] std::optional<QString> empty(const EmptyProgress& progress = {}, const CancellationToken* stop = nullptr);
+
+// Why an emptying ended before everything went: the person stopped it.
+[[nodiscard]] QString stoppedSentence();
 
 }  // namespace FreedesktopTrash

@@ -112,11 +112,12 @@ bool openFullDiskAccessSettings()
                                    {QStringLiteral("x-apple.systempreferences:com.apple.preference.security?Privacy_AllFiles")});
 }
 
-std::optional<QString> emptyTrash(const QString& osascript)
+std::optional<QString> emptyTrash(const FreedesktopTrash::EmptyProgress& progress, const CancellationToken* stop,
+                                  const QString& osascript)
 {
     if (isMac())
         return emptyThroughFinder(osascript);
-    return FreedesktopTrash::empty();
+    return FreedesktopTrash::empty(progress, stop);
 }
 
 QString trashFailure(const ProcessRunner::Output& output)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "actions/FreedesktopTrash.h"
 #include "machinery/ProcessRunner.h"
 
 #include <QDir>
@@ -26,8 +27,12 @@ namespace SystemAccess {
 bool openFullDiskAccessSettings();
 
 // Empties the Trash: through Finder on macOS (Finder gets an hour), like a file manager on
-// Linux. Nothing on success, otherwise one sentence. `osascript` is replaceable for tests.
-[[nodiscard]] std::optional<QString> emptyTrash(const QString& osascript = QStringLiteral("/usr/bin/osascript"));
+// Linux. Nothing on success, otherwise one sentence. On Linux `progress` hears the items removed
+// of the total and `stop` ends it between items; Finder reports neither. `osascript` is
+// replaceable for tests.
+[[nodiscard]] std::optional<QString> emptyTrash(const FreedesktopTrash::EmptyProgress& progress = {},
+                                                const CancellationToken* stop = nullptr,
+                                                const QString& osascript = QStringLiteral("/usr/bin/osascript"));
 
 // The sentence for a failed run of Finder's empty-Trash script.
 [[nodiscard]] QString trashFailure(const ProcessRunner::Output& output);

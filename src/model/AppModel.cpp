@@ -30,7 +30,9 @@ AppModel::Services AppModel::defaultServices()
     services.removeItem = [](const CleanupItem& item, const RemovalEnvironment& environment) {
         return Remover::remove(item, environment);
     };
-    services.emptyTrash = [] { return SystemAccess::emptyTrash(); };
+    services.emptyTrash = [](const FreedesktopTrash::EmptyProgress& progress, const CancellationToken& stop) {
+        return SystemAccess::emptyTrash(progress, &stop);
+    };
     services.moveItem = [](const CleanupItem& item, const QString& destination, const Mover::Progress& progress,
                            const Mover::Environment& environment) {
         return Mover::move(item, destination, progress, environment);
@@ -68,6 +70,7 @@ AppModel::~AppModel()
     joinCleanupThread();
     stopMove();
     joinMoveThread();
+    m_trashStop.cancel();
 }
 
 bool AppModel::isBusyScanning() const
@@ -153,7 +156,13 @@ void AppModel::stopScan()
 
 void AppModel::rescan(CategoryID category)
 {
-    if (m_isScanning || isCategoryScanning(category) || isChangingFiles() || m_move)
+    if (!m_move)
+        startRescan(category);
+}
+
+void AppModel::startRescan(CategoryID category)
+{
+    if (m_isScanning || isCategoryScanning(category) || isChangingFiles())
         return;
     std::vector<std::shared_ptr<const Scanner>> chosen;
     for (const auto& scanner : m_services.scanners()) {
@@ -207,6 +216,8 @@ void AppModel::finishScan(const QUuid& id)
         refreshSystemState();
     }
     emit scanStateChanged();
+    if (m_trashRefreshPending)
+        refreshTrash();
 }
 
 void AppModel::markUnfinishedDone(const QList<CategoryID>& categories, bool stopped)

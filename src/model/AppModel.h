@@ -1,5 +1,6 @@
 #pragma once
 
+#include "actions/FreedesktopTrash.h"
 #include "actions/Mover.h"
 #include "model/CleanupSession.h"
 #include "model/MoveSession.h"
@@ -54,8 +55,10 @@ public:
         // Removes one item for good or to the Trash in the environment the cleanup was prepared
         // with; runs on the cleanup's worker thread.
         std::function<CleanupSession::Outcome(const CleanupItem&, const RemovalEnvironment&)> removeItem;
-        // Empties the Trash; the message to show when it failed. Runs on a worker thread.
-        std::function<std::optional<QString>()> emptyTrash;
+        // Empties the Trash, reporting items removed of the total where the system tells and
+        // stopping between items once the token is cancelled; the message to show when it ended
+        // early. Runs on a worker thread.
+        std::function<std::optional<QString>(const FreedesktopTrash::EmptyProgress&, const CancellationToken&)> emptyTrash;
         // The storage analysis; absent when cancelled. Runs on the analysis's worker thread.
         std::function<std::optional<StorageReport>(const StorageAnalyzer::Request&)> analyzeStorage;
         // Bytes in use on the home's volume; absent when unknown. Runs on a worker thread.
@@ -140,10 +143,14 @@ public:
     // Closes the sheet: a finished session stays readable as lastRunCleanup.
     void closeCleanup();
     void removeFromResults(const CleanupItem& item);
+    // A cleanup runs, a move copies or the Trash is being emptied.
     bool isChangingFiles() const;
     // Stops what changes files and calls `then` once it has ended (at once when nothing runs).
     void stopForQuit(std::function<void()> then);
     void emptyTrash();
+    // Ends the running emptying after the item being removed.
+    void stopEmptyingTrash();
+    // Measures the Trash row again; one asked for while it is being measured follows that one.
     void refreshTrash();
     const TrashState& trashState() const { return m_trash; }
 
@@ -219,6 +226,10 @@ private:
     void finishCleanup(std::optional<qint64> freeAfter);
     void joinCleanupThread();
     void trashEmptied(const std::optional<QString>& failure);
+    void trashProgress(int removed, int total);
+    void remeasureFreeAfter();
+    // rescan() without waiting for an ended move's sheet to close, for categories a move can't touch.
+    void startRescan(CategoryID category);
 
     void storageFinished(quint64 generation, const std::optional<StorageReport>& report);
 
@@ -232,6 +243,8 @@ private:
     std::thread m_cleanupThread;
     std::function<void()> m_quitCompletion;
     TrashState m_trash;
+    CancellationToken m_trashStop;    // the running emptying's; a new one for each
+    bool m_trashRefreshPending = false;
 
     void finishMove(const Mover::Outcome& outcome);
     void joinMoveThread();

@@ -6,8 +6,12 @@
 #include "model/SelectionIndex.h"
 #include "model/SettingsStore.h"
 #include "model/StatsStore.h"
+#include "vocabulary/ItemName.h"
+
+#include <QPointer>
 
 #include <algorithm>
+#include <atomic>
 
 namespace {
 
@@ -89,7 +93,8 @@ void AppModel::runCleanup(CleanupSession* session, QList<CleanupItem> items, QLi
 
 bool AppModel::removeOne(CleanupSession* session, const CleanupItem& item, const QList<CleanupItem>& copies)
 {
-    QMetaObject::invokeMethod(this, [session, title = item.title] { session->setCurrent(title); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, [session, name = ItemName::of(item, session->environment().home)] { session->setCurrent(name); },
+                              Qt::QueuedConnection);
     const std::optional<QString> kept = lastCopyReason(item, copies);
     const CleanupSession::Outcome outcome = kept ? CleanupSession::Outcome::failed(*kept)
                                                  : m_services.removeItem(item, session->environment());
@@ -97,6 +102,8 @@ bool AppModel::removeOne(CleanupSession* session, const CleanupItem& item, const
         session->record(item, outcome);
         if (outcome.succeeded())
             removeFromResults(item);
+        else if (m_selection.remove(item.id))
+            emit selectionChanged();  // a row that stays after its failure is not ticked for the next cleanup
     }, Qt::QueuedConnection);
     return outcome.succeeded();
 }
@@ -156,7 +163,8 @@ void AppModel::removeFromResults(const CleanupItem& item)
 
 bool AppModel::isChangingFiles() const
 {
-    return (m_cleanup && m_cleanup->phase() == CleanupSession::Phase::running) || (m_move && m_move->isRunning());
+    return (m_cleanup && m_cleanup->phase() == CleanupSession::Phase::running) || (m_move && m_move->isRunning())
+        || m_trash.isEmptying;
 }
 
 void AppModel::stopForQuit(std::function<void()> then)
@@ -168,6 +176,7 @@ void AppModel::stopForQuit(std::function<void()> then)
     m_quitCompletion = std::move(then);
     stopCleanup();
     stopMove();
+    stopEmptyingTrash();
 }
 
 void AppModel::finishQuitWhenIdle()
@@ -180,26 +189,90 @@ void AppModel::emptyTrash()
 {
     if (m_trash.isEmptying)
         return;
+    m_trash = TrashState{};
     m_trash.isEmptying = true;
+    m_trashStop = CancellationToken();
     emit trashChanged();
-    Background::run(this, [empty = m_services.emptyTrash] { return empty ? empty() : std::nullopt; },
-                    [this](const std::optional<QString>& failure) { trashEmptied(failure); });
+    // A Trash of many thousand items reports each one: only one report waits in the event queue
+    // at a time, and it shows the latest figures when its turn comes.
+    struct Latest {
+        std::atomic<int> removed{0};
+        std::atomic<int> total{0};
+        std::atomic<bool> waiting{false};
+    };
+    auto latest = std::make_shared<Latest>();
+    const FreedesktopTrash::EmptyProgress progress = [guard = QPointer<AppModel>(this), latest](int removed, int total) {
+        latest->removed = removed;
+        latest->total = total;
+        if (latest->waiting.exchange(true))
+            return;
+        QMetaObject::invokeMethod(QCoreApplication::instance(), [guard, latest] {
+            latest->waiting = false;
+            if (guard)
+                guard->trashProgress(latest->removed, latest->total);
+        }, Qt::QueuedConnection);
+    };
+    Background::run(this, [empty = m_services.emptyTrash, progress, stop = m_trashStop] {
+        return empty ? empty(progress, stop) : std::nullopt;
+    }, [this](const std::optional<QString>& failure) { trashEmptied(failure); });
+}
+
+void AppModel::stopEmptyingTrash()
+{
+    if (!m_trash.isEmptying || m_trash.stopRequested)
+        return;
+    m_trash.stopRequested = true;
+    m_trashStop.cancel();
+    emit trashChanged();
+}
+
+// Reports queued before the end may arrive after it; they change nothing then.
+void AppModel::trashProgress(int removed, int total)
+{
+    if (!m_trash.isEmptying)
+        return;
+    m_trash.removed = removed;
+    m_trash.total = total;
+    emit trashChanged();
 }
 
 void AppModel::trashEmptied(const std::optional<QString>& failure)
 {
-    m_trash = {false, failure.value_or(QString())};
-    if (!failure && m_cleanup)
+    m_trash = {false, m_trash.removed, m_trash.total, m_trash.stopRequested, failure.value_or(QString())};
+    if (!failure && m_cleanup) {
         m_cleanup->setTrashEmptied();
+        remeasureFreeAfter();
+    }
     if (!failure && m_lastRunCleanup)
         m_lastRunCleanup->setTrashEmptied();
     emit trashChanged();
+    refreshSystemState();
     refreshTrash();
+    finishQuitWhenIdle();
 }
 
-// The Trash row is the Trash scanner's own; scanning it again measures it.
+// What the open session's results count as freed includes the Trash it emptied.
+void AppModel::remeasureFreeAfter()
+{
+    if (!m_cleanup || m_cleanup->phase() != CleanupSession::Phase::finished)
+        return;
+    Background::run(m_cleanup.get(), [read = m_services.readSystemState, home = m_settings->home()] { return read(home).freeBytes; },
+                    [session = m_cleanup.get()](std::optional<qint64> free) {
+                        if (free)
+                            session->setFreeAfter(free);
+                    });
+}
+
+// The Trash row is the Trash scanner's own; scanning it again measures it. While it is being
+// measured (or the Trash emptied) the newer request waits for that to end.
 void AppModel::refreshTrash()
 {
-    if (result(CategoryID::trash).state == CategoryResult::State::done)
-        rescan(CategoryID::trash);
+    const CategoryResult::State state = result(CategoryID::trash).state;
+    if (state == CategoryResult::State::scanning || m_trash.isEmptying) {
+        m_trashRefreshPending = true;
+        return;
+    }
+    m_trashRefreshPending = false;
+    if (state == CategoryResult::State::done)
+        startRescan(CategoryID::trash);
 }

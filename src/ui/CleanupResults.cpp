@@ -15,6 +15,8 @@
 #include <QStandardItemModel>
 #include <QTreeView>
 
+#include <algorithm>
+
 namespace {
 
 QString sizeOrDash(std::optional<qint64> bytes)
@@ -68,8 +70,21 @@ void CleanupResults::fillFigures()
         m_figures->addRow(tr("Removed by Docker and Xcode"), new QLabel(ByteCount::format(m_session->removedByTools()), this));
     //: Results of a cleanup: free disk space before it ran
     m_figures->addRow(tr("Free space before"), new QLabel(sizeOrDash(m_session->freeBefore()), this));
-    //: Results of a cleanup: free disk space after it ran
-    m_figures->addRow(tr("Free space after"), new QLabel(sizeOrDash(m_session->freeAfter()), this));
+    m_freeAfter = new QLabel(this);
+    //: Results of a cleanup: free disk space after it ran (and after the Trash was emptied, once it is)
+    m_figures->addRow(tr("Free space after"), m_freeAfter);
+    m_freed = new QLabel(this);
+    m_freed->setWordWrap(true);
+    //: Results of a cleanup: the free space it gained, measured; what went to the Trash counts only once the Trash is emptied
+    m_figures->addRow(tr("Freed"), m_freed);
+}
+
+// Measured, not summed: moving to the Trash frees nothing until the Trash is emptied.
+std::optional<qint64> CleanupResults::freed() const
+{
+    if (!m_session->freeBefore() || !m_session->freeAfter())
+        return std::nullopt;
+    return std::max<qint64>(0, *m_session->freeAfter() - *m_session->freeBefore());
 }
 
 QString CleanupResults::figure(const QString& label) const
@@ -125,7 +140,13 @@ void CleanupResults::refreshTrash()
 {
     if (!m_session)
         return;
+    m_freeAfter->setText(sizeOrDash(m_session->freeAfter()));
     const bool wentToTrash = m_session->movedToTrash() > 0;
+    if (wentToTrash && !m_session->trashEmptied() && freed().value_or(0) == 0)
+        //: Results of a cleanup, the freed space when everything went to the Trash on the same disk
+        m_freed->setText(tr("None yet: the space comes back when the Trash is emptied"));
+    else
+        m_freed->setText(sizeOrDash(freed()));
     m_trashNote->setVisible(wentToTrash);
     m_emptyTrash->setVisible(wentToTrash && !m_session->trashEmptied());
     m_emptyTrash->setEnabled(!m_model->trashState().isEmptying);

@@ -3,6 +3,8 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <optional>
+
 class AppModel;
 class CleanupSession;
 class QFormLayout;
@@ -35,11 +37,14 @@ private:
     void fillFigures();
     void fillFailures();
     void refreshTrash();
+    std::optional<qint64> freed() const;
 
     AppModel* m_model;
     QPointer<CleanupSession> m_session;
     QLabel* m_title;
     QFormLayout* m_figures;
+    QLabel* m_freeAfter = nullptr;
+    QLabel* m_freed = nullptr;
     QLabel* m_failuresHeading;
     QTreeView* m_failures;
     QLabel* m_trashNote;

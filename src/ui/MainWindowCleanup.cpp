@@ -4,6 +4,7 @@
 #include "ui/CleanupSheet.h"
 #include "ui/MainWindow.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QMessageBox>
 #include <QPushButton>
@@ -80,14 +81,17 @@ void MainWindow::closeEvent(QCloseEvent* event)
 
 void MainWindow::askBeforeQuitting()
 {
-    if (m_question && m_question->isVisible() && m_question->text() == tr("Quit while Dustlark is working?"))
+    if (m_quitQuestion && m_quitQuestion->isVisible())
         return;  // asked already; a second Ctrl+Q must not stack questions
     if (m_question)
         m_question->close();
-    //: Question when the app is asked to quit while a cleanup or a move changes files
+    //: Question when the app is asked to quit while a cleanup, a move or emptying the Trash changes files
     const QString title = tr("Quit while Dustlark is working?");
-    // Over the cleanup sheet when one is open, so the question is seen where the work shows.
+    // Over the sheet that shows the work (a cleanup's, or the Trash's progress), so the question
+    // is seen where the work shows.
     QWidget* over = m_sheet ? static_cast<QWidget*>(m_sheet) : this;
+    if (QWidget* modal = QApplication::activeModalWidget(); modal && modal != this)
+        over = modal;
     auto* box = new QMessageBox(QMessageBox::Warning, title, title, QMessageBox::NoButton, over);
     //: Under "Quit while Dustlark is working?"
     box->setInformativeText(tr("Dustlark stops after the current item and removes an unfinished copy, then quits."));
@@ -109,7 +113,14 @@ void MainWindow::askBeforeQuitting()
         });
     });
     m_question = box;
+    m_quitQuestion = box;
     box->open();
+}
+
+void MainWindow::dismissQuitQuestionWhenIdle()
+{
+    if (m_quitQuestion && !m_model->isChangingFiles())
+        m_quitQuestion->close();
 }
 
 CleanupSheet* MainWindow::cleanupSheet() const

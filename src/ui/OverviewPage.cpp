@@ -187,8 +187,12 @@ QWidget* OverviewPage::makeTotals()
     auto* layout = new QHBoxLayout(totals);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(32);
-    //: Statistics caption under the bytes freed by all cleanups so far
-    layout->addWidget(makeFigure(m_cleanedBytes, tr("Cleaned in total")));
+    // Not "freed": what went to the Trash frees its space only once the Trash is emptied.
+    //: Statistics caption under the bytes all cleanups so far moved to the Trash or had Docker and Xcode remove
+    QWidget* cleaned = makeFigure(m_cleanedBytes, tr("Sent to the Trash or removed"));
+    //: Tooltip of the statistics figure of all cleanups so far
+    cleaned->setToolTip(tr("What cleanups moved to the Trash takes its space until the Trash is emptied; what Docker and Xcode removed is gone for good."));
+    layout->addWidget(cleaned);
     //: Statistics caption under the number of cleanups so far
     layout->addWidget(makeFigure(m_cleanups, tr("Cleanups")));
     //: Statistics caption under the number of items removed so far

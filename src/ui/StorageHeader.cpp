@@ -8,11 +8,13 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 StorageHeader::StorageHeader(AppModel* model, const QString& title, const QString& explanation, QWidget* parent)
-    : QWidget(parent), m_model(model), m_status(PageLabels::note({}, this)), m_button(new QPushButton(this)),
+    : QWidget(parent), m_model(model), m_status(PageLabels::note({}, this)), m_activity(new QProgressBar(this)),
+      m_button(new QPushButton(this)),
       m_notes(new QVBoxLayout)
 {
     auto* top = new QHBoxLayout;
@@ -24,6 +26,11 @@ StorageHeader::StorageHeader(AppModel* model, const QString& title, const QStrin
     layout->addLayout(top);
     layout->addWidget(PageLabels::body(explanation, this));
     layout->addWidget(m_status);
+    m_activity->setRange(0, 0);
+    m_activity->setTextVisible(false);
+    m_activity->setMaximumHeight(6);
+    m_activity->hide();
+    layout->addWidget(m_activity);
     m_notes->setSpacing(4);
     layout->addLayout(m_notes);
     m_progressTimer.setInterval(250);
@@ -55,6 +62,7 @@ void StorageHeader::refresh()
     //: Button of the storage screens before any analysis
     const QString first = tr("Measure Disk");
     m_button->setText(running ? stop : m_model->storageReport() ? again : first);
+    m_activity->setVisible(running);
     if (running) {
         m_progressTimer.start();
         pollProgress();

@@ -5,6 +5,7 @@
 
 class AppModel;
 class QLabel;
+class QProgressBar;
 class QPushButton;
 class QVBoxLayout;
 
@@ -19,6 +20,7 @@ public:
 
     QPushButton* button() const { return m_button; }
     QLabel* status() const { return m_status; }
+    QProgressBar* activity() const { return m_activity; }
 
 protected:
     // The first time a storage screen is shown without a report, it measures at once.
@@ -31,6 +33,7 @@ private:
 
     AppModel* m_model;
     QLabel* m_status;
+    QProgressBar* m_activity;  // moves while an analysis runs; the walk can't know its end in advance
     QPushButton* m_button;
     QVBoxLayout* m_notes;
     QTimer m_progressTimer;

@@ -1,6 +1,7 @@
 #include "ui/TrashEmptier.h"
 
 #include "model/AppModel.h"
+#include "ui/TrashProgress.h"
 
 #include <QMessageBox>
 #include <QPushButton>
@@ -34,6 +35,12 @@ void TrashEmptier::confirmed()
 {
     m_waiting = true;
     m_model->emptyTrash();
+    if (!m_model->trashState().isEmptying)
+        return;
+    auto* progress = new TrashProgress(m_model, m_window);
+    progress->setWindowModality(Qt::WindowModal);
+    progress->setAttribute(Qt::WA_DeleteOnClose);
+    progress->open();
 }
 
 void TrashEmptier::trashDidChange()
@@ -41,7 +48,8 @@ void TrashEmptier::trashDidChange()
     if (!m_waiting || m_model->trashState().isEmptying)
         return;
     m_waiting = false;
-    if (m_model->trashState().message.isEmpty())
+    // A stop the person asked for needs no message; they saw the count.
+    if (m_model->trashState().message.isEmpty() || m_model->trashState().stopRequested)
         return;
     //: Title of the message when the Trash could not be emptied; the system's reason follows
     const QString title = tr("Couldn't empty the Trash");

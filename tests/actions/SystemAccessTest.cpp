@@ -96,6 +96,39 @@ TEST(SystemAccess, EmptiesTheFreedesktopTrashIncludingReadOnlyTrees)
     EXPECT_EQ(SystemAccess::emptyTrash(), std::nullopt) << "an empty Trash empties without complaint";
 }
 
+// Emptying says how far it is, item by item, and a stop ends it between items: what was
+// removed is gone with its info file, what stays can still be put back.
+TEST(SystemAccess, EmptyingTheFreedesktopTrashCountsItemsAndStopsBetweenThem)
+{
+    if (Platform::desktop() == Platform::Desktop::finder)
+        GTEST_SKIP() << "the freedesktop trash is Linux's";
+    TempTree home;
+    const QString trash = FreedesktopTrash::homeTrash();
+    QDir(trash).removeRecursively();
+    for (const char* name : {"a.log", "b.log", "c.log"})
+        ASSERT_TRUE(QFile::moveToTrash(home.file(QString::fromLatin1(name), 10)));
+    home.file(QStringLiteral("d/inside.txt"), 10);
+    ASSERT_TRUE(QFile::moveToTrash(home.path(QStringLiteral("d"))));
+
+    QList<QPair<int, int>> heard;
+    CancellationToken stop;
+    const std::optional<QString> answer = SystemAccess::emptyTrash([&](int removed, int total) {
+        heard.append({removed, total});
+        if (removed == 2)
+            stop.cancel();
+    }, &stop);
+    EXPECT_EQ(answer, FreedesktopTrash::stoppedSentence());
+    EXPECT_EQ(heard, (QList<QPair<int, int>>{{0, 4}, {1, 4}, {2, 4}}));
+    EXPECT_EQ(QDir(trash + QStringLiteral("/files")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden).size(), 2);
+    EXPECT_EQ(QDir(trash + QStringLiteral("/info")).entryList(QDir::Files | QDir::Hidden).size(), 2)
+        << "each info file goes with its object and only with it";
+
+    heard.clear();
+    EXPECT_EQ(SystemAccess::emptyTrash([&](int removed, int total) { heard.append({removed, total}); }), std::nullopt);
+    EXPECT_EQ(heard, (QList<QPair<int, int>>{{0, 2}, {1, 2}, {2, 2}}));
+    EXPECT_TRUE(QDir(trash + QStringLiteral("/files")).isEmpty());
+}
+
 // A Trash whose "files" or "info" folder, or a folder above it, is a link already when Empty
 // Trash starts is not emptied: the sentence names the link, and nothing is removed, neither
 // where the link points nor in the Trash.

@@ -211,7 +211,7 @@ TEST(AppModelCleanup, ACopyWhoseOtherCopyIsNoLongerOnDiskAsScannedStays)
     EXPECT_TRUE(QFileInfo::exists(tree.path("intact/other.mov")));
 }
 
-TEST(AppModelCleanup, ARefusedTargetIsAFailureWithItsReasonAndStaysListed)
+TEST(AppModelCleanup, ARefusedTargetIsAFailureWithItsReasonAndStaysListedUnticked)
 {
     TempTree tree;
     tree.file("Downloads/setup.dmg", 500);
@@ -229,6 +229,7 @@ TEST(AppModelCleanup, ARefusedTargetIsAFailureWithItsReasonAndStaysListed)
     ASSERT_EQ(model.cleanup()->failures().size(), 1);
     EXPECT_EQ(model.cleanup()->failures().first().reason, "It changed since the scan. Scan again.");
     EXPECT_EQ(model.result(CategoryID::installers).items.size(), 1);
+    EXPECT_FALSE(model.selection().contains(row.id)) << "a failed row stays ticked for the next cleanup";
     EXPECT_TRUE(QFileInfo::exists(row.id));
     EXPECT_EQ(fixture.stats().stats().cleanups, 0);  // nothing removed, nothing recorded
 }

@@ -1,14 +1,17 @@
 // The model's move: the real mover to /dev/shm, a second file system, with the real Trash.
 #include "actions/Mover.h"
+#include "scan/TrashScanner.h"
 #include "support/ModelFixture.h"
 #include "support/RealMover.h"
 #include "support/TempTree.h"
 #include "support/Wait.h"
+#include "vocabulary/SystemPlaces.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
 
+#include <atomic>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
@@ -138,4 +141,39 @@ TEST_F(AppModelMove, QuittingStopsTheMoveAndRemovesTheUnfinishedCopyFirst)
     EXPECT_EQ(model.moveSession()->outcome(), Mover::Outcome::failed(QStringLiteral("Stopped. The original wasn't changed.")));
     EXPECT_EQ(QFileInfo(home.path(QStringLiteral("Backups/phone/Manifest.db"))).size(), 200'000);
     EXPECT_EQ(model.result(CategoryID::largeFiles).items, QList<CleanupItem>{backup});
+}
+
+// The moved original lands in the real Trash, and the Trash row says so while the move's sheet
+// is still open (that sheet holds every other list as it was).
+TEST_F(AppModelMove, TheTrashRowGrowsByTheMovedOriginalAtOnce)
+{
+    QDir(SystemPlaces::trashFolder(home.root())).removeRecursively();
+    home.file(QStringLiteral("Videos/film.mov"), 400'000);
+    const CleanupItem film = realRow(home, QStringLiteral("Videos/film.mov"));
+    std::atomic<int> reads = 0;
+    ModelFixture fixture({std::make_shared<TrashScanner>()}, home.root(), [&](AppModel::Services& services) {
+        services.readSystemState = [&reads](const QString&) {
+            AppModel::SystemState state;
+            state.freeBytes = 1'000'000'000 + ++reads;
+            return state;
+        };
+    });
+    AppModel& model = fixture.model();
+    model.startScan();
+    ASSERT_TRUE(waitUntil([&] { return !model.isBusyScanning(); }));
+    EXPECT_TRUE(model.result(CategoryID::trash).items.isEmpty()) << "an empty Trash has no row";
+    // Once the last read has landed, a new figure can only come from a new read.
+    ASSERT_TRUE(waitUntil([&] { return model.systemState().freeBytes == 1'000'000'000 + reads; }));
+    const std::optional<qint64> freeBefore = model.systemState().freeBytes;
+    show(model, {film});
+
+    ASSERT_TRUE(model.startMove(film, disk.path()));
+    ASSERT_TRUE(waitUntil([&] { return ended(model); }));
+    ASSERT_TRUE(waitUntil([&] {
+        const CategoryResult trash = model.result(CategoryID::trash);
+        return trash.state == CategoryResult::State::done && !trash.items.isEmpty()
+            && trash.items.first().size >= 400'000;
+    })) << "the Trash row was not measured again";
+    EXPECT_NE(model.moveSession(), nullptr);
+    EXPECT_TRUE(waitUntil([&] { return model.systemState().freeBytes != freeBefore; })) << "free space not read again";
 }

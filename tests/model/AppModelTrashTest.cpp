@@ -7,6 +7,7 @@
 
 #include <QDir>
 
+#include <atomic>
 #include <gtest/gtest.h>
 
 namespace {
@@ -30,8 +31,14 @@ TEST(AppModelTrash, TheTrashRowFollowsCleanupsAndEmptying)
     const QString trash = SystemPlaces::trashFolder(tree.root());
     QDir(trash).removeRecursively();
     const QString file = tree.file(QStringLiteral("Downloads/old.zip"), 4000);
+    std::atomic<int> reads = 0;
     ModelFixture fixture({std::make_shared<TrashScanner>()}, tree.root(), [&](AppModel::Services& services) {
-        services.emptyTrash = [&]() -> std::optional<QString> {
+        services.readSystemState = [&reads](const QString&) {
+            AppModel::SystemState state;
+            state.freeBytes = 1'000'000 + ++reads;
+            return state;
+        };
+        services.emptyTrash = [&](const FreedesktopTrash::EmptyProgress&, const CancellationToken&) -> std::optional<QString> {
             QDir(trash).removeRecursively();
             return std::nullopt;
         };
@@ -51,6 +58,11 @@ TEST(AppModelTrash, TheTrashRowFollowsCleanupsAndEmptying)
     model.startCleanup();
     ASSERT_TRUE(waitUntil([&] { return trashRowSize(model) >= 4000; })) << trashRowSize(model).value_or(-1);
 
+    // Once the last read has landed, a new figure can only come from a new read.
+    ASSERT_TRUE(waitUntil([&] { return model.systemState().freeBytes == 1'000'000 + reads; }));
+    const std::optional<qint64> freeBefore = model.systemState().freeBytes;
     model.emptyTrash();
+    EXPECT_TRUE(model.isChangingFiles()) << "emptying the Trash changes files";
     EXPECT_TRUE(waitUntil([&] { return !model.trashState().isEmptying && trashRowSize(model) == 0; }));
+    EXPECT_TRUE(waitUntil([&] { return model.systemState().freeBytes != freeBefore; })) << "free space not read again";
 }

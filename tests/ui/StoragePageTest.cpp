@@ -8,6 +8,7 @@
 #include "ui/StorageRing.h"
 
 #include <QLabel>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTreeWidget>
 
@@ -101,7 +102,11 @@ TEST_F(StoragePageTest, LargeFoldersListTheReportAndTheHeaderFollowsTheAnalysis)
     ASSERT_NE(header, nullptr);
     EXPECT_EQ(header->button()->text(), "Measure Disk");
     EXPECT_EQ(page.list()->topLevelItemCount(), 0);
-    measure();
+    EXPECT_TRUE(header->activity()->isHidden());
+    fixture.model().startStorageAnalysis();
+    EXPECT_FALSE(header->activity()->isHidden()) << "nothing moves while the disk is measured";
+    ASSERT_TRUE(waitUntil([&] { return fixture.model().storageReport().has_value(); }));
+    EXPECT_TRUE(header->activity()->isHidden());
     EXPECT_EQ(header->button()->text(), "Measure Again");
     EXPECT_EQ(header->status()->text(), "Measured just now.");
     ASSERT_EQ(page.list()->topLevelItemCount(), 1);

@@ -37,7 +37,10 @@ void WindowFixture::start(std::vector<std::shared_ptr<const Scanner>> scanners,
     services.scanners = [scanners] { return scanners; };
     services.readSystemState = [](const QString&) { return AppModel::SystemState{120'500'000'000, 494'000'000'000, true}; };
     services.removeItem = &WindowFixture::moveToTrash;
-    services.emptyTrash = [] { emptyTrashFolder(); return std::optional<QString>(); };
+    services.emptyTrash = [](const FreedesktopTrash::EmptyProgress&, const CancellationToken&) {
+        emptyTrashFolder();
+        return std::optional<QString>();
+    };
     if (adjust)
         adjust(services);
     m_model = std::make_unique<AppModel>(m_settingsStore.get(), m_stats.get(), services);
