@@ -4,6 +4,7 @@
 #include "ui/AppIcon.h"
 #include "ui/MainWindow.h"
 #include "ui/SettingsPage.h"
+#include "ui/SingleInstance.h"
 #include "update/UpdateChecker.h"
 #include "vocabulary/AppLanguage.h"
 
@@ -19,6 +20,11 @@ int main(int argc, char* argv[])
     QApplication::setWindowIcon(AppIcon::icon());
     // Wayland compositors match the window to its desktop entry, and so to its icon, by this name.
     QGuiApplication::setDesktopFileName(QStringLiteral("app.dustlark.Dustlark"));
+
+    // A second launch shows the running window instead of a second one that could clean at the same time.
+    SingleInstance instance;
+    if (!instance.claim())
+        return 0;
 
     // The native store: NSUserDefaults on macOS, an INI file under ~/.config on Linux. Only the
     // app's own domain is read: with fallbacks, macOS answers a key the app never set from the
@@ -41,5 +47,6 @@ int main(int argc, char* argv[])
     settingsPage->showUpdates(&model);
     window.setSettingsPage(settingsPage);
     window.show();
+    QObject::connect(&instance, &SingleInstance::activationRequested, &window, &MainWindow::bringToFront);
     return app.exec();
 }

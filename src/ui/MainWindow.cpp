@@ -55,6 +55,9 @@ MainWindow::MainWindow(AppModel* model, QWidget* parent)
     connect(m_sidebar, &Sidebar::destinationChosen, this, &MainWindow::choose);
     connect(m_model, &AppModel::resultsChanged, this, &MainWindow::updateSidebarCategory);
     connect(m_model, &AppModel::cleanupChanged, this, &MainWindow::cleanupDidChange);
+    // The quit question has no more to ask once the work it is about has ended by itself.
+    for (auto changed : {&AppModel::cleanupChanged, &AppModel::moveChanged, &AppModel::trashChanged})
+        connect(m_model, changed, this, &MainWindow::dismissQuitQuestionWhenIdle);
     connect(m_model, &AppModel::toastChanged, m_toast, &Toast::showMessage);
     for (CategoryID category : Categories::allCases())
         updateSidebarCategory(category);
@@ -136,4 +139,12 @@ void MainWindow::updateSidebarCategory(CategoryID category)
     m_sidebar->setCategoryBusy(category, result.state == CategoryResult::State::scanning);
     const bool hasSize = result.state == CategoryResult::State::done && !result.items.isEmpty();
     m_sidebar->setCategorySize(category, hasSize ? ByteCount::format(result.totalSize()) : QString());
+}
+
+void MainWindow::bringToFront()
+{
+    setWindowState((windowState() & ~Qt::WindowMinimized) | Qt::WindowActive);
+    show();
+    raise();
+    activateWindow();
 }

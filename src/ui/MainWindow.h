@@ -58,6 +58,8 @@ public:
     // Every quit request ends here: the Quit menu entry and key in any window, the window's
     // close button, and log-out.
     void requestQuit();
+    // Shows the window above the others, restored if it was minimized: a second launch asked.
+    void bringToFront();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -81,6 +83,7 @@ private:
     void presentSheet(QDialog* sheet);
     void setContentEnabled(bool enabled);
     void askBeforeQuitting();
+    void dismissQuitQuestionWhenIdle();
     void quitNow();
 
     AppModel* m_model;
@@ -98,5 +101,6 @@ private:
     Toast* m_toast;
     QPointer<CleanupSheet> m_sheet;
     QPointer<QMessageBox> m_question;
+    QPointer<QMessageBox> m_quitQuestion;
     bool m_quitApproved = false;
 };
