@@ -194,7 +194,8 @@ void CategoryItemDelegate::paintMoreButton(QPainter* painter, const QStyleOption
     painter->setPen(Qt::NoPen);
     painter->setBrush(option.palette.color(QPalette::Button));
     painter->drawRoundedRect(rect, rect.height() / 2.0, rect.height() / 2.0);
-    painter->setPen(textColor(option, false));
+    // The pill keeps the button colour on a selected row too, so its dots do as well.
+    painter->setPen(option.palette.color(QPalette::ButtonText));
     painter->setFont(option.font);
     painter->drawText(rect, Qt::AlignCenter, QStringLiteral("•••"));
 }

@@ -12,12 +12,14 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QElapsedTimer>
 #include <QHelpEvent>
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
@@ -239,7 +241,7 @@ TEST(CategoryPage, EmptyTrashAsksThenEmptiesOrReportsWhy)
     trashRow.removal = Removal{Removal::EmptyTrash{}};
     std::atomic<int> emptied{0};
     CategoryPage* page = fixture.open(CategoryID::trash, {trashRow}, [&](AppModel::Services& services) {
-        services.emptyTrash = [&emptied]() -> std::optional<QString> {
+        services.emptyTrash = [&emptied](const FreedesktopTrash::EmptyProgress&, const CancellationToken&) -> std::optional<QString> {
             if (++emptied == 1)
                 return std::nullopt;
             return QStringLiteral("Finder isn't allowed to empty the Trash.");
@@ -308,5 +310,44 @@ TEST(CategoryPage, EachRowsMoreButtonOpensItsMenu)
 
     page->list()->setCurrentIndex(index);
     QTest::keyClick(page->list(), Qt::Key_Menu);
-    EXPECT_TRUE(qobject_cast<QMenu*>(QApplication::activePopupWidget()));
+    menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_TRUE(menu) << "the menu key";
+    menu->close();
+    QTest::keyClick(page->list(), Qt::Key_F10, Qt::ShiftModifier);
+    menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_TRUE(menu) << "Shift+F10";
+    menu->close();
+
+    const QPoint middle = page->list()->visualRect(index).center();
+    QContextMenuEvent rightClick(QContextMenuEvent::Mouse, middle, page->list()->viewport()->mapToGlobal(middle));
+    QApplication::sendEvent(page->list()->viewport(), &rightClick);
+    EXPECT_TRUE(qobject_cast<QMenu*>(QApplication::activePopupWidget())) << "a right-click";
+}
+
+// On the selected row the button keeps its own colours: its dots must stand out from its pill.
+TEST(CategoryPage, TheMoreButtonIsVisibleOnTheSelectedRow)
+{
+    WindowFixture fixture;
+    const CleanupItem row = fixture.addFile(CategoryID::logs, "Library/Logs/a.log");
+    CategoryPage* page = fixture.open(CategoryID::logs, {row});
+    ASSERT_TRUE(page);
+    const QModelIndex index = fixture.rowOf(row.id);
+    QStyleOptionViewItem option;
+    option.initFrom(page->list()->viewport());
+    option.rect = QRect(QPoint(0, 0), page->list()->visualRect(index).size());
+    option.state |= QStyle::State_Selected | QStyle::State_Enabled;
+    QImage picture(option.rect.size(), QImage::Format_ARGB32);
+    picture.fill(option.palette.color(QPalette::Highlight));
+    QPainter painter(&picture);
+    page->list()->itemDelegate()->paint(&painter, option, index);
+    painter.end();
+
+    const QRect more = fixture.geometryOf(index).more.translated(-page->list()->visualRect(index).topLeft());
+    const int pill = option.palette.color(QPalette::Button).lightness();
+    int dotPixels = 0;
+    for (int y = more.top(); y <= more.bottom(); ++y) {
+        for (int x = more.left(); x <= more.right(); ++x)
+            dotPixels += std::abs(QColor(picture.pixel(x, y)).lightness() - pill) > 80 ? 1 : 0;
+    }
+    EXPECT_GT(dotPixels, 6) << "the dots vanish into the pill";
 }
