@@ -242,6 +242,33 @@ TEST(CleanupSheet, QuittingWhileCleaningAsksThenStopsAfterTheCurrentItem)
     EXPECT_TRUE(QFileInfo::exists(two.id)) << "nothing after the current item is touched";
 }
 
+// Nobody answered before the cleanup ended: the question has nothing left to ask and goes.
+TEST(CleanupSheet, TheQuitQuestionGoesWhenTheCleanupEndsWhileItIsOpen)
+{
+    WindowFixture fixture;
+    const CleanupItem one = fixture.addFile(CategoryID::temporary, "tmp/one");
+    auto entered = std::make_shared<std::atomic<bool>>(false);
+    auto release = std::make_shared<std::atomic<bool>>(false);
+    fixture.start({scannerOf(CategoryID::temporary, {one})}, [=](AppModel::Services& services) {
+        services.removeItem = [=](const CleanupItem& item, const RemovalEnvironment&) {
+            *entered = true;
+            while (!*release)
+                QThread::msleep(2);
+            return WindowFixture::moveToTrash(item);
+        };
+    });
+    confirmAll(fixture, CategoryID::temporary);
+    ASSERT_TRUE(waitUntil([&] { return entered->load(); }));
+    fixture.window().requestQuit();
+    ASSERT_TRUE(waitUntil([&] { return fixture.question() != nullptr; }));
+
+    *release = true;
+    ASSERT_TRUE(waitForPhase(fixture, CleanupSession::Phase::finished));
+    EXPECT_TRUE(waitUntil([&] { return fixture.question() == nullptr; })) << "the question outlived the cleanup";
+    EXPECT_TRUE(fixture.window().cleanupSheet()->isVisible()) << "the results stay until Done";
+    EXPECT_TRUE(fixture.window().isVisible());
+}
+
 TEST(CleanupSheet, TheQuitKeyQuitsAtOnceWhenNothingIsChanging)
 {
     WindowFixture fixture;
