@@ -53,6 +53,25 @@ void confirmAll(WindowFixture& fixture, CategoryID category)
     fixture.window().cleanupSheet()->confirmation()->confirmButton()->click();
 }
 
+// Cleans `rows` (temporary files) with a removal that holds at each item until released;
+// answers whether it was entered, and the release.
+std::pair<std::shared_ptr<std::atomic<bool>>, std::shared_ptr<std::atomic<bool>>> startHeldCleanup(
+    WindowFixture& fixture, const QList<CleanupItem>& rows)
+{
+    auto entered = std::make_shared<std::atomic<bool>>(false);
+    auto release = std::make_shared<std::atomic<bool>>(false);
+    fixture.start({scannerOf(CategoryID::temporary, rows)}, [=](AppModel::Services& services) {
+        services.removeItem = [=](const CleanupItem& item, const RemovalEnvironment&) {
+            *entered = true;
+            while (!*release)
+                QThread::msleep(2);
+            return WindowFixture::moveToTrash(item);
+        };
+    });
+    confirmAll(fixture, CategoryID::temporary);
+    return {entered, release};
+}
+
 }  // namespace
 
 TEST(CleanupSheet, ConfirmationNamesRiskyAndPermanentItemsAndCancelKeepsTheSelection)
@@ -205,17 +224,7 @@ TEST(CleanupSheet, QuittingWhileCleaningAsksThenStopsAfterTheCurrentItem)
     WindowFixture fixture;
     const CleanupItem one = fixture.addFile(CategoryID::temporary, "tmp/one");
     const CleanupItem two = fixture.addFile(CategoryID::temporary, "tmp/two");
-    auto entered = std::make_shared<std::atomic<bool>>(false);
-    auto release = std::make_shared<std::atomic<bool>>(false);
-    fixture.start({scannerOf(CategoryID::temporary, {one, two})}, [=](AppModel::Services& services) {
-        services.removeItem = [=](const CleanupItem& item, const RemovalEnvironment&) {
-            *entered = true;
-            while (!*release)
-                QThread::msleep(2);
-            return WindowFixture::moveToTrash(item);
-        };
-    });
-    confirmAll(fixture, CategoryID::temporary);
+    const auto [entered, release] = startHeldCleanup(fixture, {one, two});
     ASSERT_TRUE(waitUntil([&] { return entered->load(); }));
     CleanupSheet* sheet = fixture.window().cleanupSheet();
     EXPECT_TRUE(sheet->progress()->isVisible());
@@ -247,17 +256,7 @@ TEST(CleanupSheet, TheQuitQuestionGoesWhenTheCleanupEndsWhileItIsOpen)
 {
     WindowFixture fixture;
     const CleanupItem one = fixture.addFile(CategoryID::temporary, "tmp/one");
-    auto entered = std::make_shared<std::atomic<bool>>(false);
-    auto release = std::make_shared<std::atomic<bool>>(false);
-    fixture.start({scannerOf(CategoryID::temporary, {one})}, [=](AppModel::Services& services) {
-        services.removeItem = [=](const CleanupItem& item, const RemovalEnvironment&) {
-            *entered = true;
-            while (!*release)
-                QThread::msleep(2);
-            return WindowFixture::moveToTrash(item);
-        };
-    });
-    confirmAll(fixture, CategoryID::temporary);
+    const auto [entered, release] = startHeldCleanup(fixture, {one});
     ASSERT_TRUE(waitUntil([&] { return entered->load(); }));
     fixture.window().requestQuit();
     ASSERT_TRUE(waitUntil([&] { return fixture.question() != nullptr; }));
