@@ -60,17 +60,43 @@ QString dateText(const QDateTime& date, const QLocale& locale)
         + locale.toString(local.time(), QLocale::ShortFormat);
 }
 
-QString categoryLine(CategoryID category)
+bool onMac(const PromptContext& context)
+{
+    return context.desktop == Platform::Desktop::finder;
+}
+
+QString categoryLine(CategoryID category, const PromptContext& context)
 {
     //: AI prompt line. Placeholders: category title; its explanation
     return QCoreApplication::translate("AIPrompt", "Dustlark category: %1. %2")
-        .arg(Categories::title(category), Categories::explanation(category));
+        .arg(Categories::title(category), Categories::explanation(category, context.desktop));
 }
 
-QString macLine(const PromptContext& context)
+QString machineLine(const PromptContext& context)
 {
-    //: AI prompt line. %1 names the system version and the processor
-    return QCoreApplication::translate("AIPrompt", "Mac: %1").arg(context.machine);
+    if (onMac(context))
+        //: AI prompt line. %1 names the system version and the processor
+        return QCoreApplication::translate("AIPrompt", "Mac: %1").arg(context.machine);
+    //: AI prompt line on Linux. %1 names the distribution and the processor, e.g. "Debian GNU/Linux 12 on Intel Core i5"
+    return QCoreApplication::translate("AIPrompt", "Computer: %1").arg(context.machine);
+}
+
+QString singleOpening(const PromptContext& context)
+{
+    if (onMac(context))
+        //: AI prompt's first line, about one row
+        return QCoreApplication::translate("AIPrompt", "I'm cleaning up my Mac with Dustlark and want to know whether it's safe to remove this item.");
+    //: AI prompt's first line, about one row, on Linux
+    return QCoreApplication::translate("AIPrompt", "I'm cleaning up my Linux computer with Dustlark and want to know whether it's safe to remove this item.");
+}
+
+QString batchOpening(const PromptContext& context)
+{
+    if (onMac(context))
+        //: AI prompt's first line, about a list of rows
+        return QCoreApplication::translate("AIPrompt", "I'm cleaning up my Mac with Dustlark. For each item below, tell me whether it's safe to remove.");
+    //: AI prompt's first line, about a list of rows, on Linux
+    return QCoreApplication::translate("AIPrompt", "I'm cleaning up my Linux computer with Dustlark. For each item below, tell me whether it's safe to remove.");
 }
 
 QString answerLanguageLine(const PromptContext& context)
@@ -119,7 +145,7 @@ QStringList contentLines(const std::optional<LargestContents>& contents)
 
 QStringList factLines(const CleanupItem& item, const PromptContext& context)
 {
-    QStringList lines{itemLine(item), categoryLine(item.category)};
+    QStringList lines{itemLine(item), categoryLine(item.category, context)};
     //: AI prompt line. Placeholder: the row's detail line
     lines.append(QCoreApplication::translate("AIPrompt", "Dustlark's note: %1").arg(RelativeDate::expand(item.detail)));
     //: AI prompt line. Placeholder: the safety label ("Safe", "Ask AI" or "Risky")
@@ -207,13 +233,11 @@ QString removalDescription(const Removal& removal)
 
 QString make(const CleanupItem& item, const PromptContext& context, const std::optional<LargestContents>& contents)
 {
-    //: AI prompt's first line, about one row
-    QStringList lines{QCoreApplication::translate("AIPrompt", "I'm cleaning up my Mac with Dustlark and want to know whether it's safe to remove this item."),
-                      QString()};
+    QStringList lines{singleOpening(context), QString()};
     lines += factLines(item, context);
     lines += pathLines(item.removal.paths());
     lines += contentLines(contents);
-    lines.append(macLine(context));
+    lines.append(machineLine(context));
     lines.append(QString());
     lines += questionLines();
     lines += {QString(), answerLanguageLine(context)};
@@ -222,9 +246,8 @@ QString make(const CleanupItem& item, const PromptContext& context, const std::o
 
 QString makeBatch(const QList<CleanupItem>& items, CategoryID category, const PromptContext& context)
 {
-    //: AI prompt's first line, about a list of rows
-    QStringList lines{QCoreApplication::translate("AIPrompt", "I'm cleaning up my Mac with Dustlark. For each item below, tell me whether it's safe to remove."),
-                      categoryLine(category), macLine(context), batchRemovalLine(items), QString()};
+    QStringList lines{batchOpening(context), categoryLine(category, context), machineLine(context),
+                      batchRemovalLine(items), QString()};
     lines += batchItemLines(items);
     //: AI prompt: what the answer about a list of rows should look like
     lines += {QString(), QCoreApplication::translate("AIPrompt", "Answer as a table: number, item, verdict (Remove / Keep / Check), and one short reason. For Check, say exactly what to check (for example, whether saved passwords are synced elsewhere). Then list the numbers to remove."),

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Platform.h"
 #include "vocabulary/AppLanguage.h"
 
 #include <QDir>
@@ -12,6 +13,7 @@
 // itself is pure formatting. Plain value.
 struct PromptContext {
     QString machine;                        // the system and processor, one line
+    Platform::Desktop desktop = Platform::desktop();  // whose words name the computer and its places
     QString home = QDir::homePath();        // decides a row's safety label
     QLocale locale;                         // writes dates
     // The name, in English, of the person's preferred language when the interface has no

@@ -188,8 +188,11 @@ QString DockerScanner::notInstalledNote()
     return QCoreApplication::translate("DockerScanner", "Docker isn't installed.");
 }
 
-QString DockerScanner::remoteNote()
+QString DockerScanner::remoteNote(Platform::Desktop desktop)
 {
+    if (desktop == Platform::Desktop::freedesktop)
+        //: Note in the Docker category on Linux
+        return QCoreApplication::translate("DockerScanner", "Docker is set to use another computer. Dustlark cleans only Docker on this computer.");
     //: Note in the Docker category
     return QCoreApplication::translate("DockerScanner", "Docker is set to use another computer. Dustlark cleans only Docker on this Mac.");
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "machinery/ProcessRunner.h"
+#include "platform/Platform.h"
 #include "scan/Scanner.h"
 #include "vocabulary/CleanupItem.h"
 
@@ -109,7 +110,7 @@ public:
 
     // The notes of the category.
     [[nodiscard]] static QString notInstalledNote();
-    [[nodiscard]] static QString remoteNote();
+    [[nodiscard]] static QString remoteNote(Platform::Desktop desktop = Platform::desktop());
     [[nodiscard]] static QString notRunningNote();
 
 private:

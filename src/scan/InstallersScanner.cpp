@@ -89,11 +89,14 @@ bool InstallersScanner::isInstaller(const QString& name)
     if (dot <= 0)
         return false;
     const QByteArray extension = name.mid(dot + 1).toLower().toUtf8();
-    return WalkNames::contains(WalkNames::installerExtensions, std::string_view(extension.constData(), size_t(extension.size())));
+    return WalkNames::isInstallerExtension(std::string_view(extension.constData(), size_t(extension.size())));
 }
 
-QString InstallersScanner::unreadableNote()
+QString InstallersScanner::unreadableNote(Platform::Desktop desktop)
 {
+    if (desktop == Platform::Desktop::freedesktop)
+        //: Note above Installers on Linux when some folders of Downloads or Desktop can't be read
+        return QCoreApplication::translate("InstallersScanner", "Some folders couldn't be read: their permissions don't let you open them.");
     //: Note above Installers when some folders of Downloads or Desktop can't be read
     return QCoreApplication::translate("InstallersScanner", "Some folders couldn't be read. Allow access when macOS asks.");
 }

@@ -1,11 +1,12 @@
 #pragma once
 
+#include "platform/Platform.h"
 #include "scan/Scanner.h"
 
 #include <QString>
 
 // Fills the installers category: disk images and installer packages (".dmg", ".pkg", ".mpkg",
-// ".xip", in any case) in "~/Downloads" and "~/Desktop" and their subfolders, down to three
+// ".xip"; on Linux also ".deb", ".rpm", ".AppImage", ".flatpakref"; in any case) in "~/Downloads" and "~/Desktop" and their subfolders, down to three
 // levels. Application bundles are not entered. A value type; scan() holds no state.
 class InstallersScanner : public Scanner {
 public:
@@ -18,5 +19,5 @@ public:
     // Whether a name has one of the installer extensions (compared in lower case).
     [[nodiscard]] static bool isInstaller(const QString& name);
 
-    [[nodiscard]] static QString unreadableNote();
+    [[nodiscard]] static QString unreadableNote(Platform::Desktop desktop = Platform::desktop());
 };

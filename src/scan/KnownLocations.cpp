@@ -52,6 +52,37 @@ QList<Location> withLinuxPlaces(QList<Location> rows, LinuxPlaces places)
     return rows;
 }
 
+// Rows only the Linux table has, after the shared ones.
+QList<Location> withLinuxRows(QList<Location> rows, const QList<Location>& linuxRows)
+{
+    if (isLinux())
+        rows += linuxRows;
+    return rows;
+}
+
+// Where developers' space goes on Linux beside the shared package caches: installed toolchains
+// and interpreters, and the sources Cargo unpacks from its downloads.
+QList<Location> linuxPackageRows()
+{
+    return {
+        fixedRow({QStringLiteral(".cargo/registry/src")},
+                 //: Row title in the package caches list: crate sources Cargo unpacked from its downloads
+                 QCoreApplication::translate("KnownLocations", "Cargo unpacked sources"),
+                 //: Detail line of the Cargo unpacked sources row
+                 QCoreApplication::translate("KnownLocations", "Unpacked again from Cargo's downloads on the next build")),
+        perChildRow(QStringLiteral(".rustup/toolchains"),
+                    //: Prefix of a row title in the package caches list; a Rust toolchain such as stable-x86_64-unknown-linux-gnu follows
+                    Naming::name(QCoreApplication::translate("KnownLocations", "Rust toolchain · ")),
+                    //: Detail line of a Rust toolchain row; the command stays as it is
+                    QCoreApplication::translate("KnownLocations", "Installed with rustup; `rustup toolchain install` brings it back")),
+        perChildRow(QStringLiteral(".pyenv/versions"),
+                    //: Prefix of a row title in the package caches list; a Python version such as 3.11.4 follows
+                    Naming::name(QCoreApplication::translate("KnownLocations", "Python · ")),
+                    //: Detail line of a pyenv Python version row; the command stays as it is
+                    QCoreApplication::translate("KnownLocations", "Installed with pyenv, with the packages installed into it; `pyenv install` brings the Python back")),
+    };
+}
+
 // The same row also looks in the Linux places of the same data.
 Location withLinuxPaths(Location location, const QStringList& linuxPaths)
 {
@@ -153,7 +184,7 @@ QList<Location> android()
 
 QList<Location> packageCaches()
 {
-    return withLinuxPlaces({
+    return withLinuxRows(withLinuxPlaces({
         fixedRow({QStringLiteral(".npm/_cacache")},
                  //: Row title in the package caches list
                  QCoreApplication::translate("KnownLocations", "npm cache")),
@@ -271,7 +302,7 @@ QList<Location> packageCaches()
         {"Library/Caches/typescript", ".cache/typescript"},
         {"Library/Caches/composer", ".cache/composer"},
         {"Library/Caches/ms-playwright", ".cache/ms-playwright"},
-    });
+    }), linuxPackageRows());
 }
 
 QList<Location> aiModels()

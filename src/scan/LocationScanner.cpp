@@ -338,8 +338,11 @@ QList<CleanupItem> LocationScanner::measure(const QList<Candidate>& candidates, 
     return rows;
 }
 
-QString LocationScanner::unreadableNote()
+QString LocationScanner::unreadableNote(Platform::Desktop desktop)
 {
+    if (desktop == Platform::Desktop::freedesktop)
+        //: Note above a category's list on Linux when some folders could not be read
+        return QCoreApplication::translate("LocationScanner", "Some folders couldn't be read: their permissions don't let you open them.");
     //: Note above a category's list when some folders could not be read
     return QCoreApplication::translate("LocationScanner",
         "Some folders couldn't be read. Give Dustlark Full Disk Access in Settings to include them.");

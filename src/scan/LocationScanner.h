@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Platform.h"
 #include "scan/Location.h"
 #include "scan/Scanner.h"
 
@@ -59,7 +60,7 @@ public:
                                                     const ScanContext& context, int* unreadableFolders = nullptr);
 
     // The note a category carries when some folder could not be read.
-    [[nodiscard]] static QString unreadableNote();
+    [[nodiscard]] static QString unreadableNote(Platform::Desktop desktop = Platform::desktop());
 
     // Rows of at most this many bytes are not worth offering.
     static constexpr qint64 largestIgnoredSize = 999'999;

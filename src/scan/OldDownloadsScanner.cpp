@@ -61,8 +61,11 @@ std::optional<CleanupItem> OldDownloadsScanner::row(const QString& path, const S
     return item;
 }
 
-QString OldDownloadsScanner::unreadableNote()
+QString OldDownloadsScanner::unreadableNote(Platform::Desktop desktop)
 {
+    if (desktop == Platform::Desktop::freedesktop)
+        //: Note above Old Downloads on Linux when the Downloads folder can't be read
+        return QCoreApplication::translate("OldDownloadsScanner", "Downloads couldn't be read: its permissions don't let you open it.");
     //: Note above Old Downloads when the Downloads folder can't be read
     return QCoreApplication::translate("OldDownloadsScanner", "Downloads couldn't be read. Allow access when macOS asks.");
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Platform.h"
 #include "scan/Scanner.h"
 
 #include <QString>
@@ -17,5 +18,5 @@ public:
     // The row of one entry of Downloads, when it is old and no other category lists it.
     [[nodiscard]] static std::optional<CleanupItem> row(const QString& path, const ScanContext& context);
 
-    [[nodiscard]] static QString unreadableNote();
+    [[nodiscard]] static QString unreadableNote(Platform::Desktop desktop = Platform::desktop());
 };

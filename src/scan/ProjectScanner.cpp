@@ -151,9 +151,13 @@ QString ProjectScanner::undecodableNote(qint64 entries)
         nullptr, count);
 }
 
-QString ProjectScanner::unreadableNote(qint64 folders)
+QString ProjectScanner::unreadableNote(qint64 folders, Platform::Desktop desktop)
 {
     const int count = folders > INT_MAX ? INT_MAX : int(folders);
+    if (desktop == Platform::Desktop::freedesktop)
+        //: Note above Project Builds and Large Files on Linux; %n is the number of folders that couldn't be read
+        return QCoreApplication::translate("ProjectScanner",
+            "%n folders couldn't be read: their permissions don't let you open them.", nullptr, count);
     //: Note above Project Builds and Large Files; %n is the number of folders that couldn't be read
     return QCoreApplication::translate("ProjectScanner",
         "%n folders couldn't be read. Allow access when macOS asks, or give Dustlark Full Disk Access.",

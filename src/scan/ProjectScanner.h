@@ -1,6 +1,7 @@
 #pragma once
 
 #include "machinery/ToolLocations.h"
+#include "platform/Platform.h"
 #include "scan/Artifact.h"
 #include "scan/LargeFile.h"
 #include "scan/ProjectInfo.h"
@@ -50,7 +51,7 @@ public:
     [[nodiscard]] static std::optional<QDateTime> lastOpened(const QString& path);
 
     // The note of the Project Builds and Large Files lists when folders couldn't be read.
-    [[nodiscard]] static QString unreadableNote(qint64 folders);
+    [[nodiscard]] static QString unreadableNote(qint64 folders, Platform::Desktop desktop = Platform::desktop());
     // The note about entries the walk left out because their names cannot be read as text.
     [[nodiscard]] static QString undecodableNote(qint64 entries);
 

@@ -7,7 +7,9 @@
 #include "vocabulary/PathRules.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QFile>
+#include <QTimeZone>
 
 #include <chrono>
 #include <sys/stat.h>
@@ -99,9 +101,16 @@ std::optional<CleanupItem> ProjectScanner::largeFileRow(const LargeFile& file, c
     item.size = file.size;
     item.removal = Removal::trash({*target});
     item.date = lastOpened(file.path);
-    if (item.date)
+    if (item.date) {
         //: Fact in a Large Files row's detail line; %1 is a relative date like '3 months ago'
         item.detail = QCoreApplication::translate("ProjectScanner", "opened %1").arg(RelativeDate::marker(*item.date));
+        return item;
+    }
+    // Not read since it was written (or the disk keeps no reading times): when it last changed
+    // is the date there is, and the row still says when that was.
+    item.date = QDateTime::fromMSecsSinceEpoch(stamp->modified / 1'000'000, QTimeZone::utc());
+    //: Fact in a Large Files row's detail line when it was never opened after its last change; %1 is a relative date like '3 months ago'
+    item.detail = QCoreApplication::translate("ProjectScanner", "changed %1").arg(RelativeDate::marker(*item.date));
     return item;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Platform.h"
 #include "scan/Scanner.h"
 
 #include <QDateTime>
@@ -86,7 +87,7 @@ public:
     // entry has its own. Entries that vanished since they were found give none.
     [[nodiscard]] static QList<CleanupItem> rows(const QList<Group>& groups, const Root& root, const ScanContext& context);
 
-    [[nodiscard]] static QString summary();
+    [[nodiscard]] static QString summary(Platform::Desktop desktop = Platform::desktop());
 
 private:
     std::optional<QStringList> m_systemFolders;

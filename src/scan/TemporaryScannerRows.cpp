@@ -231,8 +231,13 @@ std::optional<TemporaryScanner::ClaudeTemp> TemporaryScanner::claudeCodeTemp(con
         QCoreApplication::translate("TemporaryScanner", "Scratchpads and task output of past sessions"), false};
 }
 
-QString TemporaryScanner::summary()
+QString TemporaryScanner::summary(Platform::Desktop desktop)
 {
+    if (desktop == Platform::Desktop::freedesktop)
+        //: Summary of Temporary Files on Linux; %1 and %2 are numbers of days (3 and 30)
+        return QCoreApplication::translate("TemporaryScanner",
+            "Shown: system temp items untouched for %1+ days (many systems also clear /tmp when they restart) "
+            "and items in your own temp folders untouched for %2+ days.").arg(systemDays).arg(ownDays);
     //: Summary of Temporary Files; %1 and %2 are numbers of days (3 and 30)
     return QCoreApplication::translate("TemporaryScanner",
         "Shown: system temp items untouched for %1+ days (macOS also clears /tmp when it restarts) "

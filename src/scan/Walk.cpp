@@ -63,7 +63,7 @@ bool isPackage(std::string_view name)
 
 bool isInstaller(std::string_view name)
 {
-    return WalkNames::contains(WalkNames::installerExtensions, lowercasedExtension(name));
+    return WalkNames::isInstallerExtension(lowercasedExtension(name));
 }
 
 DuplicateFinder::File duplicateCandidate(const QString& path, const struct stat& info)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Platform.h"
+
 #include <algorithm>
 #include <array>
 #include <string_view>
@@ -38,13 +40,22 @@ inline constexpr std::array buildFolders = {
     ".venv"sv, "venv"sv,
 };
 
-// Listed by the Installers category instead of Large Files (compared lowercased).
+// Listed by the Installers category instead of Large Files (compared lowercased); on Linux the
+// distributions' packages and the self-contained app formats too.
 inline constexpr std::array installerExtensions = {"dmg"sv, "pkg"sv, "mpkg"sv, "xip"sv};
+inline constexpr std::array linuxInstallerExtensions = {"deb"sv, "rpm"sv, "appimage"sv, "flatpakref"sv};
 
 template <size_t N>
 constexpr bool contains(const std::array<std::string_view, N>& table, std::string_view name)
 {
     return std::find(table.begin(), table.end(), name) != table.end();
+}
+
+// `extension` lowercased, without its dot.
+inline bool isInstallerExtension(std::string_view extension, Platform::Desktop desktop = Platform::desktop())
+{
+    return contains(installerExtensions, extension)
+        || (desktop == Platform::Desktop::freedesktop && contains(linuxInstallerExtensions, extension));
 }
 
 }  // namespace WalkNames

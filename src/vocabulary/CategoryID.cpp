@@ -56,6 +56,43 @@ const CategoryNames& namesOf(CategoryID category)
     return names[static_cast<size_t>(category)];
 }
 
+// The Linux edition's own explanation where the macOS one speaks of the Mac's places and tools.
+std::optional<QString> freedesktopExplanation(CategoryID category)
+{
+    switch (category) {
+    case CategoryID::xcode:
+        //: Explanation above the Xcode list on Linux, where Xcode can't be installed
+        return QCoreApplication::translate("CategoryID", "Xcode runs only on Apple's own system, so this computer has none of its data. Its build data, archives and device support files would be listed here.");
+    case CategoryID::simulators:
+        //: Explanation above the Simulators list on Linux, where Xcode's simulators can't be installed
+        return QCoreApplication::translate("CategoryID", "iPhone and iPad simulators come with Xcode, which doesn't run on Linux, so this computer has none.");
+    case CategoryID::devices:
+        //: Explanation above the iPhone & iPad list on Linux, where no Apple tool makes device backups
+        return QCoreApplication::translate("CategoryID", "iPhone and iPad backups and downloaded iOS updates are made by Apple's own tools, which don't run on Linux, so this computer has none.");
+    case CategoryID::packageCaches:
+        //: Explanation above the Package Caches list on Linux
+        return QCoreApplication::translate("CategoryID", "Download caches of npm, Yarn, pip, Cargo and other tools, and the Rust toolchains and Python versions installed with rustup and pyenv. Caches are downloaded again when needed; a toolchain or Python comes back when you install it again. The Maven repository, pnpm store and browser test downloads take longer to get back.");
+    case CategoryID::aiAgents:
+        //: Explanation above the AI Agents list on Linux; "resume" is the agents' command to continue a session
+        return QCoreApplication::translate("CategoryID", "What AI coding agents keep on this computer: Claude, ChatGPT and Codex, Cursor, Antigravity and Gemini, Qwen, Windsurf, Kiro, Trae, Cline and others. Session histories are what \"resume\" uses; anything changed in the last day is locked. Live databases and settings are never offered.");
+    case CategoryID::apps:
+        //: Explanation above the Applications list on Linux
+        return QCoreApplication::translate("CategoryID", "Apps kept as bundles in an Applications folder, removed together with their own data in your home folder, matched by the app's identifier. Running apps aren't offered. Apps from your distribution's packages or from Flatpak aren't listed here: remove those with your package manager or software centre.");
+    case CategoryID::leftovers:
+        //: Explanation above the leftovers list on Linux; %1 is a number of days
+        return QCoreApplication::translate("CategoryID", "Settings, caches and data in ~/.var/app from Flatpak apps that are no longer installed, grouped by app ID. If you plan to install an app again and want its settings back, keep its row. Not shown: anything changed in the last %1 days (something still uses it).")
+            .arg(Thresholds::leftoversQuietDays);
+    case CategoryID::appCaches:
+        //: Explanation above the App Caches list on Linux
+        return QCoreApplication::translate("CategoryID", "Temporary data apps keep in ~/.cache and beside their settings in ~/.config to work faster. Apps recreate it; quit them before cleaning.");
+    case CategoryID::temporary:
+        //: Explanation above the Temporary Files list on Linux
+        return QCoreApplication::translate("CategoryID", "Temporary files apps and tools left in /tmp and /var/tmp, plus your own temp folders (~/tmp, ~/temp). Only items where nothing changed for days are shown, so running builds and agent sessions stay out.");
+    default:
+        return std::nullopt;
+    }
+}
+
 }  // namespace
 
 QString rawValue(CategoryID category)
@@ -134,8 +171,19 @@ QString title(CategoryID category)
     return {};
 }
 
-QString explanation(CategoryID category)
+bool canFill(CategoryID category, Platform::Desktop desktop)
 {
+    if (desktop == Platform::Desktop::finder)
+        return true;
+    return category != CategoryID::xcode && category != CategoryID::simulators && category != CategoryID::devices;
+}
+
+QString explanation(CategoryID category, Platform::Desktop desktop)
+{
+    if (desktop == Platform::Desktop::freedesktop) {
+        if (std::optional<QString> own = freedesktopExplanation(category))
+            return *own;
+    }
     const QString largeFile = ByteCount::format(Thresholds::largeFileSize);
     switch (category) {
     case CategoryID::projects:

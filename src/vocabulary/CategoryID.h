@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Platform.h"
+
 #include <QHash>
 #include <QList>
 #include <QString>
@@ -30,8 +32,12 @@ std::optional<CategoryID> fromRawValue(const QString& raw);
 
 QString title(CategoryID category);
 QString systemImage(CategoryID category);
-// The text above the category's list, with its thresholds and day counts filled in.
-QString explanation(CategoryID category);
+// The text above the category's list, with its thresholds and day counts filled in, in the
+// words of `desktop`'s system (the Linux edition speaks of its own folders, not a Mac's).
+QString explanation(CategoryID category, Platform::Desktop desktop = Platform::desktop());
+// False for the categories whose tools exist only on macOS (Xcode, its simulators, iPhone and
+// iPad backups): on Linux they can never fill, and the sidebar sets them apart.
+bool canFill(CategoryID category, Platform::Desktop desktop = Platform::desktop());
 CleanerGroup group(CategoryID category);
 
 }  // namespace Categories

@@ -21,6 +21,10 @@ Safety packageCacheSafety(const QString& path)
     if (path.endsWith(QLatin1String("/pnpm/store")) || path.contains(QLatin1String("ms-playwright"))
         || path.contains(QLatin1String("/.cache/puppeteer")) || path.endsWith(QLatin1String("/pypoetry")))
         return Safety::askAI;
+    // An installed toolchain or Python comes back only by installing it again, and a Python
+    // version also holds the packages installed into it by hand.
+    if (path.contains(QLatin1String("/.rustup/toolchains/")) || path.contains(QLatin1String("/.pyenv/versions/")))
+        return Safety::askAI;
     return Safety::safe;
 }
 

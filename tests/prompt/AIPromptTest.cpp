@@ -12,6 +12,7 @@ PromptContext fixedContext()
     context.machine = QStringLiteral("macOS 14.5 on Apple M2");
     context.home = QStringLiteral("/Users/a");
     context.locale = QLocale(QLocale::English, QLocale::UnitedKingdom);
+    context.desktop = Platform::Desktop::finder;
     return context;
 }
 
@@ -63,7 +64,7 @@ TEST(AIPrompt, SingleItemReadsInFullInItsDocumentedOrder)
         "I'm cleaning up my Mac with Dustlark and want to know whether it's safe to remove this item.\n"
         "\n"
         "Item: node_modules (npm)\n"
-        "Dustlark category: " + Categories::title(CategoryID::projects) + ". " + Categories::explanation(CategoryID::projects) + "\n"
+        "Dustlark category: " + Categories::title(CategoryID::projects) + ". " + Categories::explanation(CategoryID::projects, Platform::Desktop::finder) + "\n"
         "Dustlark's note: app · 3 weeks old\n"
         "Dustlark's safety hint: Safe\n"
         "Size on disk: 1.23 GB\n"

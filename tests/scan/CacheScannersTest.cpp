@@ -190,5 +190,5 @@ TEST_F(CacheScannersTest, AnUnreadableCacheFolderGivesTheNoteAndTheRestIsListed)
     QFile::setPermissions(locked, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     if (!found)
         GTEST_SKIP() << "running as root, and a child as 'nobody' could not be started to honour folder modes";
-    EXPECT_EQ(*found, QByteArray("Some folders couldn't be read. Give Dustlark Full Disk Access in Settings to include them.|Open"));
+    EXPECT_EQ(*found, QByteArray("Some folders couldn't be read: their permissions don't let you open them.|Open"));
 }

@@ -189,7 +189,7 @@ TEST_F(DockerScannerTest, MissingRemoteOrStoppedDockerGivesOnlyItsNote)
 
     environment.candidates = QStringList{docker.path()};
     hostVariable = QStringLiteral("tcp://build-server:2375");
-    const ScanOutput remote{{}, {QStringLiteral("Docker is set to use another computer. Dustlark cleans only Docker on this Mac.")}, {}};
+    const ScanOutput remote{{}, {QStringLiteral("Docker is set to use another computer. Dustlark cleans only Docker on this computer.")}, {}};
     EXPECT_EQ(scan(), remote);
     EXPECT_TRUE(docker.calls().isEmpty()) << "a remote DOCKER_HOST never runs the tool";
 

@@ -87,8 +87,8 @@ TEST_F(DownloadsScannersTest, UnreadableDownloadsGiveANoteAndNoRows)
     ::chmod(QFile::encodeName(tree.path(QStringLiteral("home/Downloads"))).constData(), 0755);
     ::chmod(QFile::encodeName(tree.path(QStringLiteral("home/Desktop/locked"))).constData(), 0755);
     ASSERT_TRUE(seen.has_value()) << "could not run without privileges";
-    EXPECT_EQ(*seen, "0|Downloads couldn't be read. Allow access when macOS asks."
-                     "|0|Some folders couldn't be read. Allow access when macOS asks.");
+    EXPECT_EQ(*seen, "0|Downloads couldn't be read: its permissions don't let you open it."
+                     "|0|Some folders couldn't be read: their permissions don't let you open them.");
 }
 
 TEST_F(DownloadsScannersTest, InstallersAreFoundByExtensionOutsideAppsAndLinks)
@@ -115,5 +115,21 @@ TEST_F(DownloadsScannersTest, InstallersAreFoundByExtensionOutsideAppsAndLinks)
         }
     }
     EXPECT_TRUE(InstallersScanner::isInstaller(QStringLiteral("A.Pkg")));
+    EXPECT_FALSE(InstallersScanner::isInstaller(QStringLiteral("notes.debian")));
     EXPECT_FALSE(InstallersScanner::isInstaller(QStringLiteral(".dmg")));
+}
+
+TEST_F(DownloadsScannersTest, LinuxPackagesAndAppImagesAreInstallersNotOldDownloads)
+{
+    for (const char* name : {"Downloads/tool_1.2_amd64.deb", "Downloads/tool-1.2.x86_64.RPM",
+                             "Downloads/Editor-3.1.AppImage", "Desktop/org.example.App.flatpakref"})
+        aged(QString::fromLatin1(name), 200);
+    aged(QStringLiteral("Downloads/notes.deb.txt"), 200);
+
+    QStringList installers = titlesOf(scanned<InstallersScanner>(CategoryID::installers));
+    installers.sort();
+    EXPECT_EQ(installers, QStringList({"Editor-3.1.AppImage", "org.example.App.flatpakref", "tool-1.2.x86_64.RPM",
+                                       "tool_1.2_amd64.deb"}));
+    EXPECT_EQ(titlesOf(scanned<OldDownloadsScanner>(CategoryID::oldDownloads)), QStringList({"notes.deb.txt"}))
+        << "an installer is listed once, under Installers";
 }

@@ -81,13 +81,22 @@ TEST(KnownLocationsTest, NoPlaceIsClaimedByTwoRows)
 }
 
 // A Linux home keeps the same tools' data in its XDG folders; the tables know those places too.
-TEST(KnownLocationsTest, ALinuxHomesCachesAreFoundWhereLinuxKeepsThem)
-{
-    if (Platform::desktop() != Platform::Desktop::freedesktop)
-        GTEST_SKIP() << "Linux places are offered only on Linux";
+// A home folder as Linux keeps it, for the rows and places only the Linux table has.
+class KnownLinuxLocations : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        if (Platform::desktop() != Platform::Desktop::freedesktop)
+            GTEST_SKIP() << "Linux places are offered only on Linux";
+        context.home = tree.dir(QStringLiteral("home"));
+    }
+
     TempTree tree;
     ScanContext context;
-    context.home = tree.dir(QStringLiteral("home"));
+};
+
+TEST_F(KnownLinuxLocations, ALinuxHomesCachesAreFoundWhereLinuxKeepsThem)
+{
     tree.file(QStringLiteral("home/.cache/pip/http/blob"), 2'000'000);
     tree.file(QStringLiteral("home/.local/share/pnpm/store/v3/blob"), 2'000'000);
     tree.file(QStringLiteral("home/Android/Sdk/ndk/26.1/source.properties"), 2'000'000);
@@ -103,4 +112,29 @@ TEST(KnownLocationsTest, ALinuxHomesCachesAreFoundWhereLinuxKeepsThem)
               QStringList({"pnpm store", "pip cache"}));
     EXPECT_EQ(titles(CategoryID::android, KnownLocations::android()), QStringList({"NDK 26.1"}));
     EXPECT_EQ(titles(CategoryID::logs, KnownLocations::logs()), QStringList({"VS Code logs"}));
+}
+
+TEST_F(KnownLinuxLocations, ADevelopersToolchainsAndCargoSourcesAreRowsWithHonestLabels)
+{
+    tree.file(QStringLiteral("home/.rustup/toolchains/stable-x86_64-unknown-linux-gnu/bin/rustc"), 3'000'000);
+    tree.file(QStringLiteral("home/.rustup/toolchains/nightly-x86_64-unknown-linux-gnu/bin/rustc"), 2'000'000);
+    tree.file(QStringLiteral("home/.pyenv/versions/3.11.4/bin/python3.11"), 4'000'000);
+    tree.file(QStringLiteral("home/.cargo/registry/src/index.crates.io-6f17d22bba15001f/serde-1.0.0/lib.rs"), 1'500'000);
+    tree.file(QStringLiteral("home/.cargo/registry/cache/index.crates.io-6f17d22bba15001f/serde-1.0.0.crate"), 1'200'000);
+
+    const ScanOutputs outputs = LocationScanner(CategoryID::packageCaches, KnownLocations::packageCaches()).scan(context);
+    std::map<QString, std::pair<Safety, QString>> rows;
+    for (const CleanupItem& row : outputs.at(CategoryID::packageCaches).items)
+        rows[row.title] = {row.safety(context.home), row.detail};
+    const std::map<QString, std::pair<Safety, QString>> expected = {
+        {"Cargo downloads", {Safety::safe, ""}},
+        {"Cargo unpacked sources", {Safety::safe, "Unpacked again from Cargo's downloads on the next build"}},
+        {"Rust toolchain · stable-x86_64-unknown-linux-gnu",
+         {Safety::askAI, "Installed with rustup; `rustup toolchain install` brings it back"}},
+        {"Rust toolchain · nightly-x86_64-unknown-linux-gnu",
+         {Safety::askAI, "Installed with rustup; `rustup toolchain install` brings it back"}},
+        {"Python · 3.11.4",
+         {Safety::askAI, "Installed with pyenv, with the packages installed into it; `pyenv install` brings the Python back"}},
+    };
+    EXPECT_EQ(rows, expected);
 }

@@ -155,7 +155,7 @@ TEST_F(ProjectScannerScan, FoldersWithoutFilesGiveNoRowAndUndatedProjectsNoChang
     EXPECT_EQ(venv.detail, "");
 }
 
-TEST_F(ProjectScannerScan, LargeFilesSayWhenOpenedOnlyIfReadAfterWriting)
+TEST_F(ProjectScannerScan, LargeFilesSayWhenOpenedIfReadAfterWritingElseWhenChanged)
 {
     const QString opened = tree.sparseFile("home/media/opened.mov", 200'000'000);
     const QString written = tree.sparseFile("home/media/written.mov", 200'000'001);
@@ -177,14 +177,17 @@ TEST_F(ProjectScannerScan, LargeFilesSayWhenOpenedOnlyIfReadAfterWriting)
 
     const CleanupItem* writtenRow = find(large, written);
     ASSERT_NE(writtenRow, nullptr);
-    EXPECT_EQ(writtenRow->detail, "");
+    EXPECT_EQ(writtenRow->date, QDateTime::fromSecsSinceEpoch(jan2020, QTimeZone::utc()));
+    EXPECT_EQ(RelativeDate::expand(writtenRow->detail, context.now), "changed " + RelativeDate::format(*writtenRow->date, context.now));
 }
 
 TEST_F(ProjectScannerScan, UnreadableFoldersAreNotedOnProjectsAndLargeFiles)
 {
     tree.file("home/open/x");
     tree.file("home/locked/y");
-    ::chmod(QFile::encodeName(tree.path("home/locked")).constData(), 0);
+    tree.file("home/shut/z");
+    for (const char* folder : {"home/locked", "home/shut"})
+        ::chmod(QFile::encodeName(tree.path(folder)).constData(), 0);
     const auto notes = tree.runUnprivileged([&] {
         const ScanOutputs outputs = scan();
         return (outputs.at(CategoryID::projects).notes + outputs.at(CategoryID::largeFiles).notes
@@ -192,9 +195,11 @@ TEST_F(ProjectScannerScan, UnreadableFoldersAreNotedOnProjectsAndLargeFiles)
             .join('|')
             .toUtf8();
     });
-    ::chmod(QFile::encodeName(tree.path("home/locked")).constData(), 0755);
+    for (const char* folder : {"home/locked", "home/shut"})
+        ::chmod(QFile::encodeName(tree.path(folder)).constData(), 0755);
     if (!notes)
         GTEST_SKIP() << "running as root, and a child as 'nobody' could not be started to honour folder modes";
-    const QByteArray note = "1 folder couldn't be read. Allow access when macOS asks, or give Dustlark Full Disk Access.";
+    // Linux has no privacy prompt to point to: the note names the folders' permissions.
+    const QByteArray note = "2 folders couldn't be read: their permissions don't let you open them.";
     EXPECT_EQ(*notes, note + '|' + note);
 }

@@ -69,7 +69,7 @@ TEST_F(TemporaryScannerTest, SystemFoldersWaitThreeDaysAndOwnFoldersThirty)
         EXPECT_TRUE(item.detail.startsWith(QLatin1String("last changed "))) << qPrintable(item.detail);
     }
     EXPECT_EQ(TemporaryScanner(QStringList{system}).scan(context).at(CategoryID::temporary).summary,
-              "Shown: system temp items untouched for 3+ days (macOS also clears /tmp when it restarts) "
+              "Shown: system temp items untouched for 3+ days (many systems also clear /tmp when they restart) "
               "and items in your own temp folders untouched for 30+ days.");
 }
 

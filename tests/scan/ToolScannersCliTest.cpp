@@ -158,7 +158,7 @@ TEST(ToolScannersCli, DockerThroughTheStandInInTheHomeFolder)
     const QJsonObject remote = scanned(runCli(home, "docker", environment, *wrapper));
     EXPECT_TRUE(remote[QStringLiteral("items")].toArray().isEmpty());
     EXPECT_EQ(remote[QStringLiteral("notes")].toArray(),
-              QJsonArray{QStringLiteral("Docker is set to use another computer. Dustlark cleans only Docker on this Mac.")});
+              QJsonArray{QStringLiteral("Docker is set to use another computer. Dustlark cleans only Docker on this computer.")});
     EXPECT_EQ(docker.calls().size(), callsBefore) << "the tool is not even run";
 }
 

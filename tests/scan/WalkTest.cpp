@@ -27,10 +27,14 @@ TEST_F(WalkFiles, SizeThresholdsAndInstallerExtensions)
     tree.sparseFile("scan/Fotos – 2024/Ünïcødé 📷.mov", 200'000'000);
     for (const char* installer : {"a.dmg", "b.PKG", "c.Mpkg", "d.xIp"})
         tree.sparseFile(QStringLiteral("scan/") + installer, 300'000'000);
+    // Linux's packages and app images are installers there, each kept out of Large Files.
+    for (const char* installer : {"e.deb", "f.RPM", "g.AppImage", "h.flatpakref"})
+        tree.sparseFile(QStringLiteral("scan/") + installer, 300'000'000);
     const Walk walk = walked({"scan"});
 
     EXPECT_EQ(candidates(walk), QStringList({"scan/Fotos – 2024/Ünïcødé 📷.mov", "scan/a.dmg", "scan/almost-large",
-                                             "scan/b.PKG", "scan/c.Mpkg", "scan/d.xIp", "scan/exactly-minimum"}));
+                                             "scan/b.PKG", "scan/c.Mpkg", "scan/d.xIp", "scan/e.deb",
+                                             "scan/exactly-minimum", "scan/f.RPM", "scan/g.AppImage", "scan/h.flatpakref"}));
     EXPECT_EQ(largeFiles(walk), QStringList({"scan/Fotos – 2024/Ünïcødé 📷.mov"}));
     EXPECT_EQ(candidates(walked({"scan/exactly-minimum"})), QStringList({"scan/exactly-minimum"}))
         << "a file given as the root is looked at too";
