@@ -1,6 +1,7 @@
 #include "actions/SystemAccess.h"
 
 #include "actions/FinderMessage.h"
+#include "machinery/DetachedLaunch.h"
 #include "actions/FreedesktopTrash.h"
 #include "platform/Platform.h"
 
@@ -154,7 +155,7 @@ bool reveal(const QString& path, const QString& opener)
     QStringList command = revealCommand(path);
     if (!isMac())
         command.first() = opener;
-    return QProcess::startDetached(command.first(), command.mid(1));
+    return DetachedLaunch::start(command.first(), command.mid(1)) > 0;
 }
 
 }  // namespace SystemAccess
