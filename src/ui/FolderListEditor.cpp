@@ -1,5 +1,7 @@
 #include "ui/FolderListEditor.h"
 
+#include "ui/FolderChooser.h"
+
 #include <QDir>
 #include <QFileDialog>
 #include <QHBoxLayout>
@@ -9,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <memory>
 
 namespace {
 
@@ -18,7 +21,10 @@ constexpr int mostRows = 8;
 QString pickFolder(QWidget* parent)
 {
     //: Title of the folder picker
-    return QFileDialog::getExistingDirectory(parent, FolderListEditor::tr("Choose a Folder"), QDir::homePath());
+    const std::unique_ptr<QFileDialog> chooser(FolderChooser::make(parent, FolderListEditor::tr("Choose a Folder")));
+    if (chooser->exec() != QDialog::Accepted)
+        return {};
+    return chooser->selectedFiles().value(0);
 }
 
 }  // namespace

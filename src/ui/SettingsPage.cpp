@@ -3,7 +3,9 @@
 #include "model/SettingsStore.h"
 #include "ui/PageLabels.h"
 #include "ui/UpdateBox.h"
+#include "ui/WindowRoom.h"
 
+#include <QAction>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -20,6 +22,9 @@ SettingsPage::SettingsPage(SettingsStore* settings, QSettings* preferences, QLis
       m_languagePicker(new QComboBox(this)), m_relaunchNote(PageLabels::note({}, this)),
       m_relaunchButton(new QPushButton(this))
 {
+    //: Title of the settings window
+    setWindowTitle(tr("Dustlark Settings"));
+    addClosingKeys();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(24, 20, 24, 20);
     layout->setSpacing(10);
@@ -45,6 +50,26 @@ SettingsPage::SettingsPage(SettingsStore* settings, QSettings* preferences, QLis
     connect(m_relaunchButton, &QPushButton::clicked, this, &SettingsPage::relaunchNow);
     refreshScanFolders();
     refreshRelaunch();
+}
+
+// The window grows with what it shows (an update check's answer) instead of squeezing the
+// folder list under its buttons.
+bool SettingsPage::event(QEvent* event)
+{
+    const bool handled = QWidget::event(event);
+    if (event->type() == QEvent::LayoutRequest && isWindow())
+        WindowRoom::makeRoom(this);
+    return handled;
+}
+
+// A settings window closes as other windows of its kind do, by Escape and by the Close key.
+void SettingsPage::addClosingKeys()
+{
+    auto* close = new QAction(this);
+    close->setShortcuts({QKeySequence(Qt::Key_Escape), QKeySequence(QKeySequence::Close)});
+    close->setShortcutContext(Qt::WindowShortcut);
+    connect(close, &QAction::triggered, this, &QWidget::close);
+    addAction(close);
 }
 
 void SettingsPage::setFolderPicker(FolderListEditor::FolderPicker picker)

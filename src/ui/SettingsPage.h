@@ -39,7 +39,11 @@ public:
     // Stores the language with this code ("" follows the system).
     void chooseLanguage(const QString& code);
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
+    void addClosingKeys();
     QWidget* makeLanguageSection();
     void fillLanguagePicker(QList<AppLanguage::Option> languages);
     void refreshScanFolders();
