@@ -13,6 +13,7 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <QMenu>
+#include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -46,6 +47,7 @@ public:
     }
 
     MoveSheet* sheet() const { return m_sheet; }
+    MainWindow& mainWindow() { return m_fixture.window(); }
     QString disk() const { return m_disk.path(); }
     QString sameDisk() { return m_fixture.home().dir(QStringLiteral("Archive")); }
     QImage picture()
@@ -110,6 +112,29 @@ QImage progress()
     return image;
 }
 
+// Quitting while the copy runs asks first; the question is drawn over the window like a sheet.
+QImage quitQuestion()
+{
+    const Mover::CopyTool stalling{QStringLiteral("/bin/sh"), {QStringLiteral("-c"), QStringLiteral("sleep 60"), QStringLiteral("copy")},
+                                   std::chrono::minutes(1), {}};
+    MoveWindow window(stalling);
+    if (!window.sheet() || !window.choose(window.disk()))
+        return {};
+    window.sheet()->destinationPage()->moveButton()->click();
+    MainWindow& main = window.mainWindow();
+    main.requestQuit();
+    QCoreApplication::processEvents();
+    auto* question = main.findChild<QMessageBox*>();
+    if (!question)
+        return {};
+    const QImage image = withSheet(main, *question);
+    question->close();
+    if (MoveProgressPage* page = window.sheet()->progressPage())
+        page->stopButton()->click();
+    waitUntil([&] { return window.sheet()->outcomePage() != nullptr; }, 20'000);
+    return image;
+}
+
 QImage outcome()
 {
     MoveWindow window;
@@ -130,5 +155,6 @@ QList<Scene> moveScenes()
         {QStringLiteral("move-destination.png"), destination},
         {QStringLiteral("move-progress.png"), progress},
         {QStringLiteral("move-outcome.png"), outcome},
+        {QStringLiteral("quit-question.png"), quitQuestion},
     };
 }

@@ -1,6 +1,7 @@
 // Draws the screenshots in docs/screenshots/ from the real screens over fixture data, under the
 // offscreen platform: `dustlark-screenshots [--language CODE] FOLDER [NAME...]`, in English unless
-// a language is named. Not a test; scripts/screenshots.sh runs it.
+// a language is named; with DUSTLARK_SMALLEST_WINDOW set, sheets are drawn over the window at its
+// smallest size. Not a test; scripts/screenshots.sh runs it.
 #include "Scenes.h"
 #include "support/InterfaceLanguage.h"
 #include "support/main/TestEnvironment.h"
@@ -15,10 +16,18 @@
 
 QImage withSheet(QWidget& window, QWidget& sheet)
 {
+    // At the smallest window the sheet is drawn at the size it has, not one fitted for the
+    // picture, so a text it cuts shows as cut.
+    const bool smallest = qEnvironmentVariableIsSet("DUSTLARK_SMALLEST_WINDOW");
+    if (smallest) {
+        window.resize(window.minimumSizeHint());
+        QCoreApplication::processEvents();
+    }
     QImage picture = window.grab().toImage();
     QPainter painter(&picture);
     painter.fillRect(picture.rect(), QColor(0, 0, 0, 40));
-    sheet.adjustSize();
+    if (!smallest)
+        sheet.adjustSize();
     const QImage front = sheet.grab().toImage();
     const QPoint at((picture.width() - front.width()) / 2, 52);
     painter.fillRect(QRect(at, front.size()).adjusted(-1, -1, 1, 1), QColor(0, 0, 0, 70));

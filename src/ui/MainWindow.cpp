@@ -3,6 +3,7 @@
 #include "actions/SystemAccess.h"
 #include "format/ByteCount.h"
 #include "model/AppModel.h"
+#include "platform/Platform.h"
 #include "ui/AboutPage.h"
 #include "ui/CategoryPage.h"
 #include "ui/CleanupSheet.h"
@@ -97,10 +98,19 @@ void MainWindow::setQuestions(const AIQuestions& questions)
     m_categoryPage->setQuestions(questions);
 }
 
+QString MainWindow::fileMenuTitle()
+{
+    if (Platform::desktop() == Platform::Desktop::finder)
+        //: Menu of the app's commands
+        return tr("File");
+    // A source text of its own, so a translation can use the Linux desktops' word, not the Mac's.
+    //: Menu of the app's commands on Linux, named as Linux desktops name it (German: "Datei")
+    return tr("File", "Linux menu");
+}
+
 void MainWindow::makeMenus()
 {
-    //: Menu of the app's commands
-    QMenu* file = menuBar()->addMenu(tr("File"));
+    QMenu* file = menuBar()->addMenu(fileMenuTitle());
     file->addAction(m_scanAction);
     //: Menu entry that opens the settings window
     m_settingsAction = file->addAction(tr("Settings…"), this, [this] {
@@ -111,7 +121,8 @@ void MainWindow::makeMenus()
         m_settingsPage->activateWindow();
     });
     m_settingsAction->setMenuRole(QAction::PreferencesRole);
-    m_settingsAction->setShortcut(QKeySequence::Preferences);
+    // Ctrl+, as on macOS (Cmd+, there): Linux desktops agree on no key of their own.
+    m_settingsAction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Comma));
     m_settingsAction->setVisible(false);
     file->addSeparator();
     //: Menu entry that quits the app

@@ -67,6 +67,7 @@ protected:
 private:
     // MainWindow.cpp: the screens
     void makeMenus();
+    static QString fileMenuTitle();
     void showCurrentScreen();
     void updateSidebarCategory(CategoryID category);
     // MainWindowToolbar.cpp
@@ -77,6 +78,7 @@ private:
     void systemStateDidChange();
     // MainWindowNavigation.cpp
     void askBeforeSwitching();
+    QString selectionLeftBehind() const;
     void switchAnswered(int answer);
     // MainWindowCleanup.cpp
     void cleanupDidChange();

@@ -92,7 +92,9 @@ void MainWindow::askBeforeQuitting()
     QWidget* over = m_sheet ? static_cast<QWidget*>(m_sheet) : this;
     if (QWidget* modal = QApplication::activeModalWidget(); modal && modal != this)
         over = modal;
-    auto* box = new QMessageBox(QMessageBox::Warning, title, title, QMessageBox::NoButton, over);
+    // The question is the box's text; a title bar is narrower than the box and would cut it.
+    //: Window title (the app's name)
+    auto* box = new QMessageBox(QMessageBox::Warning, tr("Dustlark"), title, QMessageBox::NoButton, over);
     //: Under "Quit while Dustlark is working?"
     box->setInformativeText(tr("Dustlark stops after the current item and removes an unfinished copy, then quits."));
     //: Answer to "Quit while Dustlark is working?": don't quit

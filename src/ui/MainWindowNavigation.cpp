@@ -1,10 +1,11 @@
 // Changing screens: a selection is never dropped by choosing another screen; the person is
 // asked to clean it or to clear it first.
+#include "format/ByteCount.h"
 #include "model/AppModel.h"
 #include "ui/MainWindow.h"
-#include "ui/SelectionBar.h"
 #include "ui/Sidebar.h"
 
+#include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -31,6 +32,18 @@ void MainWindow::choose(const SidebarDestination& wanted)
     }
 }
 
+QString MainWindow::selectionLeftBehind() const
+{
+    const qsizetype count = m_model->selection().ids().size();
+    const QString size = ByteCount::format(m_model->selectedSize());
+    if (count == 1)
+        //: Under "Clean the selected items?" with one item selected; %1 is its size, e.g. "43 MB"
+        return tr("You selected 1 item here (%1). Clean it now, or clear the selection and go on.").arg(size);
+    //: Under "Clean the selected items?"; %1 is the number of items, %2 their size, e.g. "43 MB"
+    return tr("You selected %1 items here (%2). Clean them now, or clear the selection and go on.")
+        .arg(QLocale().toString(count), size);
+}
+
 void MainWindow::askBeforeSwitching()
 {
     if (m_question)
@@ -38,9 +51,7 @@ void MainWindow::askBeforeSwitching()
     //: Question when another screen is chosen while items are selected
     const QString title = tr("Clean the selected items?");
     auto* box = new QMessageBox(QMessageBox::Question, title, title, QMessageBox::NoButton, this);
-    const QString selection = SelectionBar::describe(m_model->selectedSize(), m_model->selection().ids().size());
-    //: Under "Clean the selected items?"; %1 names the selection, e.g. "1.2 GB in 3 items"
-    box->setInformativeText(tr("%1 is selected here. Clean it now, or clear the selection and go on.").arg(selection));
+    box->setInformativeText(selectionLeftBehind());
     //: Answer to "Clean the selected items?": open the cleanup of the selection
     QPushButton* cleanButton = box->addButton(tr("Clean…"), QMessageBox::AcceptRole);
     cleanButton->setEnabled(!m_model->isBusyScanning());

@@ -3,6 +3,7 @@
 #include "format/ByteCount.h"
 #include "model/AppModel.h"
 #include "model/SettingsStore.h"
+#include "ui/FolderChooser.h"
 #include "ui/SheetText.h"
 #include "vocabulary/PathRules.h"
 #include "vocabulary/ItemName.h"
@@ -87,9 +88,7 @@ void MoveDestinationPage::openChooser()
 {
     if (!m_chooser) {
         //: Title of the folder chooser for a move's destination
-        m_chooser = new QFileDialog(this, tr("Choose a Folder on Another Disk"));
-        m_chooser->setFileMode(QFileDialog::Directory);
-        m_chooser->setOption(QFileDialog::ShowDirsOnly);
+        m_chooser = FolderChooser::make(this, tr("Choose a Folder on Another Disk"));
         //: Confirming button of the folder chooser of a move
         m_chooser->setLabelText(QFileDialog::Accept, tr("Choose"));
         connect(m_chooser, &QFileDialog::fileSelected, this, &MoveDestinationPage::choose);
@@ -106,6 +105,7 @@ void MoveDestinationPage::choose(const QString& folder)
     m_problem->setText(tr("Checking the folder…"));
     m_problem->setForegroundRole(QPalette::PlaceholderText);
     m_problem->show();
+    emit textChanged();
     m_model->checkMoveDestination(m_item, folder, this, [this, folder](std::optional<QString> problem) {
         checked(folder, problem);
     });
@@ -121,6 +121,7 @@ void MoveDestinationPage::checked(const QString& folder, const std::optional<QSt
     }
     m_problem->hide();
     m_move->setEnabled(true);
+    emit textChanged();
 }
 
 void MoveDestinationPage::showProblem(const QString& sentence)
@@ -133,4 +134,5 @@ void MoveDestinationPage::showProblem(const QString& sentence)
     m_problem->setForegroundRole(QPalette::WindowText);
     m_problem->show();
     m_move->setEnabled(false);
+    emit textChanged();
 }

@@ -12,6 +12,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int barSteps = 1000;  // bytes overflow a bar's int range; it shows per mille
@@ -61,11 +63,21 @@ void MoveProgressPage::refresh()
         //: Shown after Stop while the copy ends and is removed
         m_figures->setText(tr("Stopping and removing the copy…"));
     else if (total > 0)
-        //: Progress of a move; %1 bytes copied so far, %2 in all, e.g. "1.2 GB of 4.5 GB"
-        m_figures->setText(tr("%1 of %2").arg(ByteCount::format(copied), ByteCount::format(total)));
+        showFigures(copied, total);
     else
         //: Progress of a move before the first bytes arrived (the original is being read first)
         m_figures->setText(tr("Reading the original…"));
+}
+
+// The copy counts file lengths; the row shows space on disk, which for a folder of many small
+// files is many times more. The figures speak the row's units: its size, and that share of it.
+void MoveProgressPage::showFigures(qint64 copied, qint64 total)
+{
+    const qint64 rowSize = m_session->item().size;
+    const qint64 whole = rowSize > 0 ? rowSize : total;
+    const qint64 done = qint64(double(std::min(copied, total)) / double(total) * double(whole));
+    //: Progress of a move; %1 is how much of the item is copied, %2 its size, e.g. "1.2 GB of 4.5 GB"
+    m_figures->setText(tr("%1 of %2").arg(ByteCount::format(done), ByteCount::format(whole)));
 }
 
 void MoveProgressPage::stop()

@@ -23,6 +23,7 @@ public:
 
 private:
     void refresh();
+    void showFigures(qint64 copied, qint64 total);
     void stop();
 
     AppModel* m_model;

@@ -4,6 +4,7 @@
 #include "ui/MoveDestinationPage.h"
 #include "ui/MoveOutcomePage.h"
 #include "ui/MoveProgressPage.h"
+#include "ui/WindowRoom.h"
 
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -22,6 +23,7 @@ MoveSheet::MoveSheet(AppModel* model, const CleanupItem& item, QWidget* parent)
     layout->addWidget(m_pages);
     connect(m_destination, &MoveDestinationPage::moveConfirmed, this, &MoveSheet::start);
     connect(m_destination, &MoveDestinationPage::cancelled, this, &MoveSheet::reject);
+    connect(m_destination, &MoveDestinationPage::textChanged, this, [this] { WindowRoom::makeRoom(this); });
     connect(m_model, &AppModel::moveChanged, this, &MoveSheet::follow);
 }
 

@@ -6,6 +6,7 @@
 
 #include <QHeaderView>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
 
@@ -18,6 +19,21 @@ QVariant encode(const SidebarDestination& destination)
     const int category = destination.category ? static_cast<int>(*destination.category) : -1;
     return QVariantList{static_cast<int>(destination.kind), category};
 }
+
+// The highlight of the chosen row is the whole row in one colour: the focus frame the style
+// draws around the title cell alone would cut it into pieces. The highlight itself shows
+// where the keyboard is.
+class WholeRowHighlight : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        QStyleOptionViewItem plain(option);
+        plain.state &= ~QStyle::State_HasFocus;
+        QStyledItemDelegate::paint(painter, plain, index);
+    }
+};
 
 SidebarDestination decode(const QVariant& value)
 {
@@ -43,6 +59,7 @@ Sidebar::Sidebar(QWidget* parent) : QTreeWidget(parent)
     setAutoFillBackground(true);
     setIconSize(QSize(16, 16));
     setFocusPolicy(Qt::StrongFocus);
+    setItemDelegate(new WholeRowHighlight(this));
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(0, QHeaderView::Stretch);
     header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
@@ -67,22 +84,36 @@ Sidebar::Sidebar(QWidget* parent) : QTreeWidget(parent)
 
 void Sidebar::addGroups()
 {
+    QList<CategoryID> elsewhere;
     for (CleanerGroup group : CleanerGroups::allCases()) {
-        auto* heading = new QTreeWidgetItem(this, {CleanerGroups::title(group)});
-        heading->setFlags(Qt::ItemIsEnabled);
-        QFont font = heading->font(0);
-        font.setBold(true);
-        font.setPointSizeF(font.pointSizeF() * 0.9);
-        heading->setFont(0, font);
-        heading->setForeground(0, palette().color(QPalette::PlaceholderText));
-        heading->setSizeHint(0, QSize(0, headingHeight()));
-        heading->setTextAlignment(0, Qt::AlignLeft | Qt::AlignBottom);
-        for (CategoryID category : CleanerGroups::categories(group)) {
-            QTreeWidgetItem* item = addScreen(heading, Categories::title(category), SidebarDestination::of(category));
-            item->setIcon(0, CategoryIcon::icon(category, style()));
-        }
-        heading->setExpanded(true);
+        QList<CategoryID> here;
+        for (CategoryID category : CleanerGroups::categories(group))
+            (Categories::canFill(category) ? here : elsewhere).append(category);
+        addGroup(CleanerGroups::title(group), here);
     }
+    // Categories whose tools this system can't run stay reachable, so their explanation can
+    // say why they are empty, but apart from the ones that can fill.
+    if (!elsewhere.isEmpty())
+        //: Sidebar heading of the categories (Xcode, Simulators, iPhone & iPad) that can't fill on Linux
+        addGroup(tr("Not on This Computer"), elsewhere);
+}
+
+void Sidebar::addGroup(const QString& title, const QList<CategoryID>& categories)
+{
+    auto* heading = new QTreeWidgetItem(this, {title});
+    heading->setFlags(Qt::ItemIsEnabled);
+    QFont font = heading->font(0);
+    font.setBold(true);
+    font.setPointSizeF(font.pointSizeF() * 0.9);
+    heading->setFont(0, font);
+    heading->setForeground(0, palette().color(QPalette::PlaceholderText));
+    heading->setSizeHint(0, QSize(0, headingHeight()));
+    heading->setTextAlignment(0, Qt::AlignLeft | Qt::AlignBottom);
+    for (CategoryID category : categories) {
+        QTreeWidgetItem* item = addScreen(heading, Categories::title(category), SidebarDestination::of(category));
+        item->setIcon(0, CategoryIcon::icon(category, style()));
+    }
+    heading->setExpanded(true);
 }
 
 QTreeWidgetItem* Sidebar::addScreen(QTreeWidgetItem* parent, const QString& title,
@@ -132,7 +163,13 @@ QSize Sidebar::minimumSizeHint() const
         const int indent = (*it)->parent() ? indentation() : 0;
         titles = std::max(titles, indent + style()->sizeFromContents(QStyle::CT_ItemViewItem, &option, QSize(), this).width());
     }
-    const int sizes = fontMetrics().horizontalAdvance(ByteCount::format(999'990'000'000)) + 12;
+    // The size column as wide as it gets: the largest size beside the busy glyph of a scan,
+    // measured as the header measures it when it resizes the column to its contents.
+    option.text = ByteCount::format(999'990'000'000);
+    option.icon = BusyGlyph::frame(0, palette().color(QPalette::PlaceholderText));
+    option.font = font();
+    option.fontMetrics = fontMetrics();
+    const int sizes = style()->sizeFromContents(QStyle::CT_ItemViewItem, &option, QSize(), this).width();
     const int chrome = 8 + 6 + 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
     return {titles + sizes + chrome, QTreeWidget::minimumSizeHint().height()};
 }

@@ -6,8 +6,8 @@
 #include <QTimer>
 #include <QTreeWidget>
 
-// The list on the left: the fixed screens, then the two groups with every category in order,
-// each with its icon, its total size once scanned and a busy indicator while it scans.
+// The list on the left: the fixed screens, then the two groups with every category in order
+// (on Linux the three that can't fill there under a heading of their own), each with its icon, its total size once scanned and a busy indicator while it scans.
 // Thirty rows at most, so a tree widget is fine here.
 class Sidebar : public QTreeWidget {
     Q_OBJECT
@@ -38,6 +38,7 @@ signals:
 private:
     QTreeWidgetItem* addScreen(QTreeWidgetItem* parent, const QString& title, const SidebarDestination& destination);
     void addGroups();
+    void addGroup(const QString& title, const QList<CategoryID>& categories);
     int rowHeight() const;
     int headingHeight() const;
     void emitChoice();

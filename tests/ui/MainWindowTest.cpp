@@ -10,6 +10,7 @@
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QMessageBox>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -31,23 +32,61 @@ QTreeWidgetItem* heading(Sidebar* sidebar, const QString& title)
 
 }  // namespace
 
-TEST(MainWindow, SidebarListsBothGroupsWithEveryCategoryInOrder)
+TEST(MainWindow, SidebarListsBothGroupsInOrderAndSetsApartWhatCantFillOnLinux)
 {
     WindowFixture fixture;
     fixture.start({});
     Sidebar* sidebar = fixture.window().sidebar();
     QTreeWidgetItem* developer = heading(sidebar, "Developer");
     QTreeWidgetItem* everyday = heading(sidebar, "Everyday");
-    ASSERT_TRUE(developer && everyday);
+    QTreeWidgetItem* elsewhere = heading(sidebar, "Not on This Computer");
+    ASSERT_TRUE(developer && everyday && elsewhere);
 
     QStringList expected;
-    for (CategoryID category : Categories::allCases())
-        expected.append(Categories::title(category));
+    for (CategoryID category : Categories::allCases()) {
+        if (category != CategoryID::xcode && category != CategoryID::simulators && category != CategoryID::devices)
+            expected.append(Categories::title(category));
+    }
     EXPECT_EQ(childTitles(developer) + childTitles(everyday), expected);
+    EXPECT_EQ(childTitles(elsewhere), QStringList({"Xcode", "Simulators", "iPhone & iPad"}));
     // Choosing a row in the sidebar is what switches screens.
     sidebar->setCurrentItem(everyday->child(everyday->childCount() - 1));
     EXPECT_EQ(fixture.window().destination(), SidebarDestination::of(CategoryID::trash));
     EXPECT_EQ(fixture.window().categoryPage()->emptyStateText(), "Scan to see what's here.");
+    // A category set apart still opens, and its explanation says why it stays empty.
+    sidebar->setCurrentItem(elsewhere->child(0));
+    EXPECT_EQ(fixture.window().destination(), SidebarDestination::of(CategoryID::xcode));
+    EXPECT_TRUE(showsLabel(*fixture.window().categoryPage(), Categories::explanation(CategoryID::xcode)));
+    EXPECT_TRUE(Categories::explanation(CategoryID::xcode).contains("this computer has none of its data"));
+}
+
+TEST(MainWindow, TheChosenSidebarRowIsHighlightedInOneColourAcrossTheRow)
+{
+    WindowFixture fixture;
+    fixture.start({});
+    Sidebar* sidebar = fixture.window().sidebar();
+    sidebar->setCategorySize(CategoryID::logs, QStringLiteral("15.29 GB"));
+    QTreeWidgetItem* logs = sidebar->itemFor(SidebarDestination::of(CategoryID::logs));
+    ASSERT_TRUE(logs);
+    fixture.window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&fixture.window()));
+    sidebar->setFocus();
+    sidebar->setCurrentItem(logs);
+    ASSERT_TRUE(sidebar->hasFocus());
+
+    const QImage picture = sidebar->viewport()->grab().toImage();
+    const QRect title = sidebar->visualItemRect(logs);
+    const QRect size = sidebar->visualRect(sidebar->indexFromItem(logs, 1));
+    const QColor highlight = sidebar->palette().color(QPalette::Active, QPalette::Highlight);
+    // The edges of the row hold no text or icon: any other colour there is a frame or a gap.
+    QStringList seams;
+    for (int y : {title.top(), title.top() + 1, title.bottom() - 1, title.bottom()}) {
+        for (int x = title.left() + 2; x < size.right() - 2; ++x) {
+            if (picture.pixelColor(x, y) != highlight)
+                seams.append(QStringLiteral("%1,%2").arg(x).arg(y));
+        }
+    }
+    EXPECT_TRUE(seams.isEmpty()) << seams.size() << " pixels differ, first at " << seams.value(0).toStdString();
 }
 
 TEST(MainWindow, ScanShowsProgressThenFillsListsAndSizes)
@@ -103,8 +142,8 @@ TEST(MainWindow, ChoosingAnotherScreenWithASelectionAsksFirst)
     QMessageBox* box = fixture.question();
     ASSERT_TRUE(box);
     EXPECT_EQ(box->text(), "Clean the selected items?");
-    EXPECT_EQ(box->informativeText(), ByteCount::format(row.size)
-              + " in 1 item is selected here. Clean it now, or clear the selection and go on.");
+    EXPECT_EQ(box->informativeText(), "You selected 1 item here (" + ByteCount::format(row.size)
+              + "). Clean it now, or clear the selection and go on.");
     EXPECT_EQ(fixture.window().destination(), SidebarDestination::of(CategoryID::logs));
     EXPECT_EQ(fixture.window().navigation().pendingDestination(), SidebarDestination::of(CategoryID::trash));
 

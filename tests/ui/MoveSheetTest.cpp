@@ -10,6 +10,7 @@
 #include "ui/MoveProgressPage.h"
 #include "ui/MoveSheet.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QLabel>
 #include <QMenu>
@@ -50,6 +51,17 @@ MoveSheet* openSheet(WindowFixture& fixture, CategoryPage& page, const QString& 
     return fixture.window().findChild<MoveSheet*>();
 }
 
+// The wrapped texts of a page that have less height than their lines need.
+QStringList cutTexts(const QWidget& page)
+{
+    QStringList cut;
+    for (QLabel* label : page.findChildren<QLabel*>()) {
+        if (label->isVisibleTo(&page) && label->wordWrap() && label->height() < label->heightForWidth(label->width()))
+            cut.append(label->text());
+    }
+    return cut;
+}
+
 class MoveSheetTest : public ::testing::Test {
 protected:
     void SetUp() override
@@ -81,7 +93,7 @@ TEST_F(MoveSheetTest, ChecksTheFolderThenShowsProgressAndWhereTheItemWent)
     fixture.home().file(QStringLiteral("Movies/Wedding Raw/day1.mov"), 3'000'000, 'a');
     fixture.home().file(QStringLiteral("Movies/Wedding Raw/day2.mov"), 2'000'000, 'b');
     CleanupItem footage = fileRow(fixture.home(), CategoryID::largeFiles, QStringLiteral("Movies/Wedding Raw"));
-    footage.size = 5'000'000;  // what a scan measures below the folder
+    footage.size = 20'000'000;  // on disk; the files' lengths add up to a quarter of it
     // Copies the first file, then stalls the way a slow disk does until it is stopped.
     const Mover::CopyTool halfway{QStringLiteral("/bin/sh"),
                                   {QStringLiteral("-c"), QStringLiteral("mkdir \"$2\" && cp -p \"$1/day1.mov\" \"$2/\"; sleep 60"),
@@ -100,6 +112,9 @@ TEST_F(MoveSheetTest, ChecksTheFolderThenShowsProgressAndWhereTheItemWent)
     question->choose(fixture.home().dir(QStringLiteral("Archive")));
     ASSERT_TRUE(waitUntil([&] { return question->problem()->text().startsWith(QStringLiteral("That folder is on the same disk")); }));
     EXPECT_FALSE(question->moveButton()->isEnabled());
+    QApplication::processEvents();
+    const QStringList cut = cutTexts(*question);
+    EXPECT_TRUE(cut.isEmpty()) << "cut short: " << cut.join(" | ").toStdString();
 
     question->choose(disk.path());
     ASSERT_TRUE(waitUntil([&] { return question->moveButton()->isEnabled(); }));
@@ -108,7 +123,8 @@ TEST_F(MoveSheetTest, ChecksTheFolderThenShowsProgressAndWhereTheItemWent)
     question->moveButton()->click();
     ASSERT_TRUE(sheet->progressPage());
     ASSERT_TRUE(waitUntil([&] { return sheet->progressPage()->bar()->value() == 600; }));
-    EXPECT_EQ(sheet->progressPage()->figures()->text(), QStringLiteral("3 MB of 5 MB"));
+    // 3 of the 5 MB of file lengths are copied: the figures speak of the row's 20 MB on disk.
+    EXPECT_EQ(sheet->progressPage()->figures()->text(), QStringLiteral("12 MB of 20 MB"));
     sheet->reject();
     EXPECT_TRUE(sheet->isVisible()) << "the sheet closed while the copy ran";
 
