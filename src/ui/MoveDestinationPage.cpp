@@ -105,7 +105,6 @@ void MoveDestinationPage::choose(const QString& folder)
     m_problem->setText(tr("Checking the folder…"));
     m_problem->setForegroundRole(QPalette::PlaceholderText);
     m_problem->show();
-    emit textChanged();
     m_model->checkMoveDestination(m_item, folder, this, [this, folder](std::optional<QString> problem) {
         checked(folder, problem);
     });
@@ -121,7 +120,6 @@ void MoveDestinationPage::checked(const QString& folder, const std::optional<QSt
     }
     m_problem->hide();
     m_move->setEnabled(true);
-    emit textChanged();
 }
 
 void MoveDestinationPage::showProblem(const QString& sentence)
@@ -134,5 +132,4 @@ void MoveDestinationPage::showProblem(const QString& sentence)
     m_problem->setForegroundRole(QPalette::WindowText);
     m_problem->show();
     m_move->setEnabled(false);
-    emit textChanged();
 }

@@ -34,8 +34,6 @@ public:
 signals:
     void moveConfirmed(const QString& destination);
     void cancelled();
-    // The text grew or shrank (a refusal shown or gone): the sheet makes room for it.
-    void textChanged();
 
 private:
     void addIntroduction(QVBoxLayout* layout);

@@ -6,6 +6,7 @@
 #include "ui/MoveProgressPage.h"
 #include "ui/WindowRoom.h"
 
+#include <QEvent>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -23,7 +24,6 @@ MoveSheet::MoveSheet(AppModel* model, const CleanupItem& item, QWidget* parent)
     layout->addWidget(m_pages);
     connect(m_destination, &MoveDestinationPage::moveConfirmed, this, &MoveSheet::start);
     connect(m_destination, &MoveDestinationPage::cancelled, this, &MoveSheet::reject);
-    connect(m_destination, &MoveDestinationPage::textChanged, this, [this] { WindowRoom::makeRoom(this); });
     connect(m_model, &AppModel::moveChanged, this, &MoveSheet::follow);
 }
 
@@ -71,6 +71,16 @@ void MoveSheet::showPage(QWidget* page)
     m_pages->addWidget(page);
     m_pages->setCurrentWidget(page);
     adjustSize();
+}
+
+// A refusal that appears needs more lines than the sheet had; it makes room once its layout
+// has taken the new text in.
+bool MoveSheet::event(QEvent* event)
+{
+    const bool handled = QDialog::event(event);
+    if (event->type() == QEvent::LayoutRequest)
+        WindowRoom::makeRoom(this);
+    return handled;
 }
 
 void MoveSheet::reject()

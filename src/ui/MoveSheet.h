@@ -32,6 +32,9 @@ public:
     // closes the sheet and an ended session.
     void reject() override;
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
     void start(const QString& destination);
     void follow();

@@ -7,6 +7,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QSplitter>
 #include <QStyledItemDelegate>
 
 #include <gtest/gtest.h>
@@ -61,6 +62,12 @@ TEST(GermanLayout, TheSmallestWindowShowsEverySidebarTitleAndButtonWhole)
 
     auto* sidebar = window.findChild<Sidebar*>();
     ASSERT_TRUE(sidebar);
+    // The person may drag the divider as far as it goes: the sidebar at its own smallest width.
+    auto* splitter = qobject_cast<QSplitter*>(sidebar->parentWidget());
+    ASSERT_TRUE(splitter);
+    splitter->setSizes({1, window.width()});
+    QApplication::processEvents();
+    ASSERT_EQ(sidebar->width(), sidebar->minimumSizeHint().width());
     ASSERT_TRUE(sidebar->itemFor(SidebarDestination::of(CategoryID::leftovers)));
     EXPECT_EQ(sidebar->itemFor(SidebarDestination::of(CategoryID::leftovers))->text(0), "Reste entfernter Apps");
     QStringList titles = cutTitles(*sidebar);
