@@ -9,6 +9,8 @@ DEBIAN_PACKAGES=(qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-
     qt6-base-private-dev trash-cli exfatprogs exfat-fuse)  # trash-cli: the trash round trip; exFAT: a real exFAT disk for the mover tests
 # flatpak: the leftovers tests install and uninstall real Flatpak apps that the scan then reads
 DEBIAN_PACKAGES+=(flatpak)
+# the scan history: Qt SQL's SQLite driver (Qt's Sql headers come with qt6-base-dev)
+DEBIAN_PACKAGES+=(libqt6sql6-sqlite)
 # clang: the stub compile check of the macOS code (scripts/check-mac.sh)
 DEBIAN_PACKAGES+=(clang)
 BREW_PACKAGES=(qt openssl@3 libplist googletest cmake pkg-config)
