@@ -64,3 +64,11 @@ QString format(qint64 bytes)
 }
 
 }  // namespace ByteCount
+
+QString ByteCount::formatChange(qint64 bytes)
+{
+    if (bytes == 0)
+        return format(0);
+    // U+2212, the minus sign, which lines up with the plus sign; "-" is a hyphen.
+    return (bytes > 0 ? QStringLiteral("+") : QStringLiteral("\u2212")) + format(bytes > 0 ? bytes : -bytes);
+}

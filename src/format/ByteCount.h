@@ -7,5 +7,7 @@
 namespace ByteCount {
 
 QString format(qint64 bytes);
+// A change in size with its sign: "+1.2 GB", "−900 MB", zero reads "Zero KB".
+QString formatChange(qint64 bytes);
 
 }  // namespace ByteCount

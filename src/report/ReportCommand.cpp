@@ -2,7 +2,10 @@
 
 #include "actions/DiskSpace.h"
 #include "actions/SystemAccess.h"
+#include "history/HistoryStore.h"
+#include "model/HistoryEntry.h"
 #include "model/SettingsStore.h"
+#include "report/HistoryReport.h"
 #include "report/StorageReportOutput.h"
 #include "report/ScanRunner.h"
 #include "scan/ScannerCatalog.h"
@@ -102,6 +105,9 @@ int printStorage(const ReportOptions& options)
         ? QJsonDocument(StorageReportOutput::toJson(*report)).toJson(QJsonDocument::Indented)
         : StorageReportOutput::toText(*report);
     std::fwrite(out.constData(), 1, static_cast<size_t>(out.size()), stdout);
+    if (options.record)
+        HistoryReport::record(HistoryEntry::fromStorage(*report, DiskSpace::current(standardized(options.home.value_or(QDir::homePath())))),
+                              HistoryStore::defaultPath());
     return 0;
 }
 
@@ -126,15 +132,21 @@ int run(const QStringList& arguments)
     }
     if (options->command == ReportOptions::Command::storage)
         return printStorage(*options);
+    if (options->command == ReportOptions::Command::history)
+        return HistoryReport::run(*options, HistoryStore::defaultPath());
     // With --home the fixture home stands alone: the person's Safe List does not apply.
     QSettings settings(QStringLiteral("Dustlark"), QStringLiteral("Dustlark"));
     const Protection protection = options->home ? Protection{} : storedProtection(&settings);
+    const QDateTime started = QDateTime::currentDateTimeUtc();
     const ScanReport::Results results = scan(*options, protection);
     const QString home = standardized(options->home.value_or(QDir::homePath()));
     const QByteArray out = options->json
         ? QJsonDocument(ScanReport::toJson(results, home)).toJson(QJsonDocument::Indented)
         : ScanReport::toText(results, home);
     std::fwrite(out.constData(), 1, static_cast<size_t>(out.size()), stdout);
+    std::fflush(stdout);
+    if (options->record)
+        HistoryReport::record(HistoryEntry::fromScan(started, results, DiskSpace::current(home)), HistoryStore::defaultPath());
     return 0;
 }
 

@@ -5,26 +5,48 @@
 QString ReportOptions::usage()
 {
     return QStringLiteral("usage: dustlark-cli scan [--home DIR] [--root DIR]... [--category RAW]... [--json]"
-                          " | storage [--home DIR] [--json] | --version");
+                          " [--record]"
+                          " | storage [--home DIR] [--json] [--record] | history [--since DATE|last] [--json] | --version");
 }
+
+namespace {
+
+std::optional<ReportOptions::Command> commandNamed(const QString& name)
+{
+    if (name == QLatin1String("scan"))
+        return ReportOptions::Command::scan;
+    if (name == QLatin1String("storage"))
+        return ReportOptions::Command::storage;
+    if (name == QLatin1String("history"))
+        return ReportOptions::Command::history;
+    return std::nullopt;
+}
+
+}  // namespace
 
 std::optional<ReportOptions> ReportOptions::parse(const QStringList& arguments, QString* error)
 {
     const QString command = arguments.value(0);
-    if (command != QLatin1String("scan") && command != QLatin1String("storage")) {
+    const auto named = commandNamed(command);
+    if (!named) {
         *error = usage();
         return std::nullopt;
     }
     ReportOptions options;
-    options.command = command == QLatin1String("storage") ? Command::storage : Command::scan;
+    options.command = *named;
     for (int i = 1; i < arguments.size(); ++i) {
         const QString& argument = arguments.at(i);
         if (argument == QLatin1String("--json")) {
             options.json = true;
             continue;
         }
+        if (argument == QLatin1String("--record") && options.command != Command::history) {
+            options.record = true;
+            continue;
+        }
         // The storage analysis walks the whole home: scan folders and categories don't apply.
-        const bool takesValue = argument == QLatin1String("--home")
+        const bool takesValue = (argument == QLatin1String("--home") && options.command != Command::history)
+            || (argument == QLatin1String("--since") && options.command == Command::history)
             || (options.command == Command::scan
                 && (argument == QLatin1String("--root") || argument == QLatin1String("--category")));
         if (!takesValue) {
@@ -40,6 +62,8 @@ std::optional<ReportOptions> ReportOptions::parse(const QStringList& arguments, 
         const QString value = arguments.at(++i);
         if (argument == QLatin1String("--home")) {
             options.home = value;
+        } else if (argument == QLatin1String("--since")) {
+            options.since = value;
         } else if (argument == QLatin1String("--root")) {
             options.roots.append(value);
         } else if (auto category = Categories::fromRawValue(value)) {

@@ -1,0 +1,136 @@
+// `dustlark-cli scan --record` and `history` over a fixture home with its own data folder: two
+// recorded scans show what grew, a damaged history file is kept aside, and a full disk leaves
+// the scan's report whole.
+#include "support/PrivateMount.h"
+#include "support/TempTree.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+namespace {
+
+struct Run {
+    int exitCode = -1;
+    QByteArray out;
+    QString error;
+};
+
+Run cli(const QStringList& arguments, const QString& dataHome)
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_DATA_HOME"), dataHome);
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(DUSTLARK_CLI), arguments);
+    process.waitForFinished(300'000);
+    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1, process.readAllStandardOutput(),
+            QString::fromUtf8(process.readAllStandardError())};
+}
+
+// Allocated bytes of the file, as the scan counts them.
+qint64 allocated(const QString& path)
+{
+    QProcess process;
+    process.start(QStringLiteral("du"), {QStringLiteral("-s"), QStringLiteral("-B1"), path});
+    process.waitForFinished(30'000);
+    return process.readAllStandardOutput().split('\t').first().toLongLong();
+}
+
+QJsonObject change(const QJsonArray& changes, const QString& category)
+{
+    for (const QJsonValue& value : changes) {
+        if (value[QStringLiteral("category")].toString() == category)
+            return value.toObject();
+    }
+    return {};
+}
+
+QString historyFile(const QString& dataHome)
+{
+    return dataHome + QStringLiteral("/Dustlark/Dustlark/history.sqlite");
+}
+
+}  // namespace
+
+TEST(HistoryCli, TwoRecordedScansReportWhatGrewInBetween)
+{
+    TempTree tree;
+    const QString home = tree.dir("home");
+    const QString data = tree.dir("data");
+    tree.file("home/code/web/package.json", QByteArray("{}"));
+    tree.file("home/code/web/node_modules/left-pad/index.js", 4000);
+    tree.file("home/.npm/_cacache/index-v5/aa", 4000);
+
+    const Run first = cli({"scan", "--home", home, "--record"}, data);
+    ASSERT_EQ(first.exitCode, 0) << qPrintable(first.error);
+    EXPECT_TRUE(first.error.isEmpty()) << qPrintable(first.error);
+    const Run unrecorded = cli({"scan", "--home", home, "--category", "trash"}, data);
+    ASSERT_EQ(unrecorded.exitCode, 0);
+
+    const qint64 added = allocated(tree.file("home/code/web/node_modules/big/blob", 300'000'000))
+        + allocated(tree.file("home/.npm/_cacache/content-v2/blob", 100'000'000));
+    ASSERT_EQ(cli({"scan", "--home", home, "--record"}, data).exitCode, 0);
+
+    const Run history = cli({"history", "--since", "last", "--json"}, data);
+    ASSERT_EQ(history.exitCode, 0) << qPrintable(history.error);
+    const QJsonObject growth = QJsonDocument::fromJson(history.out).object();
+    EXPECT_EQ(growth[QStringLiteral("scans")].toArray().size(), 2) << "the unrecorded scan is not kept";
+    const QJsonArray categories = growth[QStringLiteral("categories")].toArray();
+    ASSERT_GE(categories.size(), 2) << history.out.toStdString();
+    const qint64 projects = change(categories, QStringLiteral("projects"))[QStringLiteral("growth")].toInteger();
+    const qint64 caches = change(categories, QStringLiteral("packageCaches"))[QStringLiteral("growth")].toInteger();
+    EXPECT_GE(projects, 300'000'000);
+    EXPECT_GE(caches, 100'000'000);
+    EXPECT_LE(projects + caches, added) << "within the added allocated bytes";
+    EXPECT_EQ(categories.at(0)[QStringLiteral("category")].toString(), QStringLiteral("projects")) << "largest growth first";
+
+    const QJsonArray kept = QJsonDocument::fromJson(cli({"history", "--json"}, data).out).object()[QStringLiteral("scans")].toArray();
+    EXPECT_EQ(kept.size(), 2);
+    EXPECT_TRUE(cli({"history", "--since", "yesterday"}, data).exitCode == 2);
+}
+
+TEST(HistoryCli, AGarbageHistoryFileIsKeptAsideAndANewOneStarted)
+{
+    TempTree tree;
+    const QString home = tree.dir("home");
+    const QString data = tree.dir("data");
+    tree.file("data/Dustlark/Dustlark/history.sqlite", QByteArray(4096, '\x07'));
+
+    const Run run = cli({"scan", "--home", home, "--category", "trash", "--record"}, data);
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_TRUE(run.error.contains(QStringLiteral("history.sqlite.damaged-"))) << qPrintable(run.error);
+    EXPECT_EQ(QDir(data + "/Dustlark/Dustlark").entryList({"history.sqlite.damaged-*"}, QDir::Files).size(), 1);
+    const QJsonArray kept = QJsonDocument::fromJson(cli({"history", "--json"}, data).out).object()[QStringLiteral("scans")].toArray();
+    EXPECT_EQ(kept.size(), 1);
+}
+
+// The data folder is a tiny tmpfs, filled up before the scan.
+TEST(HistoryCli, AFullDiskPrintsTheScanAndSaysTheHistoryWasNotSaved)
+{
+    TempTree tree;
+    const QString home = tree.dir("home");
+    tree.dir("data");
+    const QString script = QStringLiteral(
+        "mount -t tmpfs -o size=64k dustlark-test \"$1/data\" || exit 77; echo MOUNTED; "
+        "mkdir -p \"$1/data/Dustlark/Dustlark\"; head -c 1000000 /dev/zero > \"$1/data/fill\" 2>/dev/null; "
+        "XDG_DATA_HOME=\"$1/data\" \"$DUSTLARK_TEST_CLI\" scan --home \"$1/home\" --category trash --record --json "
+        "> \"$1/out\" 2> \"$1/err\"; status=$?; "
+        "echo \"REPORT exit=$status json=$(head -c 1 \"$1/out\") $(cat \"$1/err\")\"");
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DUSTLARK_TEST_CLI"), QStringLiteral(DUSTLARK_CLI));
+    const auto run = runInPrivateMount(script, tree.root(), environment);
+    if (!run)
+        GTEST_SKIP() << "mounting a tmpfs in a private namespace needs root and unshare(1)";
+    if (!run->mounted)
+        GTEST_SKIP() << "this system does not allow a private tmpfs mount: " << qPrintable(run->error);
+    const QString report = run->report();
+    EXPECT_TRUE(report.startsWith(QStringLiteral("exit=0 json={"))) << qPrintable(report) << qPrintable(run->output);
+    EXPECT_TRUE(report.contains(QStringLiteral("The scan history couldn't be saved."))) << qPrintable(report);
+}
