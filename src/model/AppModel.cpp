@@ -5,6 +5,8 @@
 #include "actions/SystemAccess.h"
 #include "machinery/Background.h"
 #include "model/SettingsStore.h"
+#include "history/HistoryStore.h"
+#include "model/HistoryRecorder.h"
 #include "model/StatsStore.h"
 #include "model/StorageTask.h"
 #include "platform/Platform.h"
@@ -27,6 +29,7 @@ AppModel::Services AppModel::defaultServices()
         return state;
     };
     services.now = [] { return QDateTime::currentDateTimeUtc(); };
+    services.historyFile = HistoryStore::defaultPath();
     services.removeItem = [](const CleanupItem& item, const RemovalEnvironment& environment) {
         return Remover::remove(item, environment);
     };
@@ -57,6 +60,8 @@ AppModel::Services AppModel::defaultServices()
 AppModel::AppModel(SettingsStore* settings, StatsStore* stats, Services services, QObject* parent)
     : QObject(parent), m_settings(settings), m_stats(stats), m_services(std::move(services))
 {
+    m_history = new HistoryRecorder(m_services.historyFile, this);
+    m_history->refresh();
 }
 
 // Cancels every running scan; each ScanTask waits for its threads as it is destroyed.
@@ -211,8 +216,10 @@ void AppModel::finishScan(const QUuid& id)
         m_fullScanId = QUuid();
         m_isScanning = false;
         m_hasScanned = true;
-        if (!stopped)
+        if (!stopped) {
             m_stats->recordScan(started, m_results);
+            m_history->recordScan(started, m_results, m_settings->home());
+        }
         refreshSystemState();
     }
     emit scanStateChanged();

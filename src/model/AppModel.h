@@ -36,6 +36,8 @@ class StorageTask;
 // UpdateState, the sessions) and change them only through it. Scanners run on worker threads and
 // hand their outputs back with queued calls; everything here is read and written on the GUI
 // thread only, and nothing on a worker reads the stores: work gets the facts it needs as values.
+class HistoryRecorder;
+
 class AppModel : public QObject {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(AppModel)
@@ -75,6 +77,8 @@ public:
         // Asks the system to start the app at the path and quits this one; false when it couldn't be
         // asked. Whether the new copy then runs is not known by the time this answers.
         std::function<bool(const QString& appPath)> relaunch;
+        // The scan history's file; empty records nothing.
+        QString historyFile;
     };
     static Services defaultServices();
 
@@ -84,6 +88,7 @@ public:
 
     SettingsStore* settings() const { return m_settings; }
     StatsStore* stats() const { return m_stats; }
+    HistoryRecorder* history() const { return m_history; }
 
     // --- Scanning
     void startScan();
@@ -213,6 +218,7 @@ private:
 
     SettingsStore* m_settings;
     StatsStore* m_stats;
+    HistoryRecorder* m_history = nullptr;  // a child
     Services m_services;
     std::map<CategoryID, CategoryResult> m_results;
     bool m_isScanning = false;

@@ -1,6 +1,7 @@
 // The storage analysis of AppModel: one at a time, a new one replacing the old, the report kept
 // until the next.
 #include "model/AppModel.h"
+#include "model/HistoryRecorder.h"
 #include "model/SettingsStore.h"
 #include "model/StatsStore.h"
 #include "model/StorageTask.h"
@@ -50,6 +51,7 @@ void AppModel::storageFinished(quint64 generation, const std::optional<StorageRe
     if (report) {
         m_storageReport = report;
         m_stats->recordStorage(*report);
+        m_history->recordStorage(*report, m_settings->home());
     }
     emit storageChanged();
 }

@@ -4,6 +4,7 @@
 #include "format/RelativeDate.h"
 #include "model/AppModel.h"
 #include "model/StatsStore.h"
+#include "ui/HistoryPanel.h"
 #include "ui/PageLabels.h"
 
 #include <QFrame>
@@ -83,6 +84,7 @@ OverviewPage::OverviewPage(AppModel* model, QWidget* parent)
     layout->addWidget(PageLabels::heading(tr("Statistics"), this));
     layout->addWidget(makeTotals());
     layout->addWidget(m_lastScan);
+    layout->addWidget(new HistoryPanel(m_model->history(), this));
     layout->addSpacing(8);
     //: Heading of the list of past cleanups on the overview screen
     layout->addWidget(PageLabels::heading(tr("Cleanup History"), this));

@@ -9,6 +9,7 @@ ModelFixture::ModelFixture(std::vector<std::shared_ptr<const Scanner>> scanners,
     AppModel::Services services = AppModel::defaultServices();
     services.scanners = [scanners] { return scanners; };
     services.readSystemState = [](const QString&) { return AppModel::SystemState{1'000'000'000, 2'000'000'000, true}; };
+    services.historyFile = m_dir.filePath("history.sqlite");  // each model starts with no past scans
     if (adjust)
         adjust(services);
     m_model = std::make_unique<AppModel>(m_settingsStore.get(), m_statsStore.get(), services);
