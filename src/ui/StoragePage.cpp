@@ -2,11 +2,14 @@
 
 #include "format/ByteCount.h"
 #include "model/AppModel.h"
+#include "model/HistoryRecorder.h"
 #include "model/SettingsStore.h"
 #include "ui/FolderActions.h"
+#include "ui/GrewTheMost.h"
 #include "ui/PageLabels.h"
 #include "ui/SizeBarDelegate.h"
 #include "ui/StorageBucketStyle.h"
+#include "ui/StorageChange.h"
 #include "ui/StorageHeader.h"
 #include "ui/StorageRing.h"
 #include "vocabulary/PathRules.h"
@@ -81,7 +84,9 @@ StoragePage::StoragePage(AppModel* model, QWidget* parent)
     layout->addWidget(m_header);
     layout->addWidget(makeOverview());
     layout->addWidget(makeDrillDown(), 1);
+    layout->addWidget(new GrewTheMost(m_model->history(), this));
     connect(m_model, &AppModel::storageChanged, this, &StoragePage::refresh);
+    connect(m_model->history(), &HistoryRecorder::changed, this, &StoragePage::refresh);
     connect(m_ring, &StorageRing::segmentClicked, this, &StoragePage::ringClicked);
     refresh();
 }
@@ -124,7 +129,7 @@ QWidget* StoragePage::makeDrillDown()
     m_details->setItemDelegateForColumn(detailSize, m_bars);
     m_details->setContextMenuPolicy(Qt::CustomContextMenu);
     m_details->header()->setSectionResizeMode(detailSize, QHeaderView::Fixed);
-    m_details->header()->resizeSection(detailSize, 160);
+    m_details->header()->resizeSection(detailSize, 220);  // room for a change since the last analysis
     connect(m_details, &QTreeWidget::itemClicked, this, &StoragePage::detailActivated);
     connect(m_details, &QWidget::customContextMenuRequested, this, &StoragePage::showDetailMenu);
     connect(m_back, &QPushButton::clicked, this, [this] {
@@ -194,7 +199,8 @@ void StoragePage::refreshLegend()
     for (const auto& [bucket, bytes] : report->sortedBuckets()) {
         if (bytes <= 0)
             continue;
-        auto* row = new QTreeWidgetItem(m_legend, {StorageBuckets::title(bucket), ByteCount::format(bytes), share(bytes, total)});
+        const QString change = StorageChange::ofBucket(m_model->history()->storageComparison(), StorageBuckets::rawValue(bucket));
+        auto* row = new QTreeWidgetItem(m_legend, {StorageBuckets::title(bucket), StorageChange::withSize(ByteCount::format(bytes), change), share(bytes, total)});
         row->setIcon(legendTitle, StorageBucketStyle::swatch(StorageBucketStyle::colour(bucket)));
         row->setData(legendTitle, bucketRole, static_cast<int>(bucket));
         row->setSelected(m_bucket == bucket);
@@ -242,6 +248,8 @@ void StoragePage::fillFolders(const StorageReport& report, StorageBucket bucket)
         QTreeWidgetItem* row = addDetail(shortPath(folder.path), folder.bytes, fileCount(folder.fileCount), bucket);
         row->setData(detailName, pathRole, folder.path);
         row->setData(detailName, rowKindRole, folderRow);
+        row->setText(detailSize, StorageChange::withSize(row->text(detailSize), StorageChange::ofFolder(
+            m_model->history()->storageComparison(), StorageBuckets::rawValue(bucket), folder.path)));
         row->setIcon(detailName, style()->standardIcon(QStyle::SP_DirIcon));
         row->setToolTip(detailName, folder.path);
     }
