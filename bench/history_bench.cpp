@@ -44,13 +44,20 @@ int record(const QString& home, const QString& file)
     return 0;
 }
 
-HistoryRecord fullStorage(const QDateTime& date, int round)
+// A record of `kind` whose figures differ from round to round.
+HistoryRecord dated(HistoryRecord::Kind kind, const QDateTime& date, int round)
 {
     HistoryRecord record;
-    record.kind = HistoryRecord::Kind::storage;
+    record.kind = kind;
     record.date = date;
     record.diskUsed = 400'000'000'000 + round;
     record.diskFree = 100'000'000'000 - round;
+    return record;
+}
+
+HistoryRecord fullStorage(const QDateTime& date, int round)
+{
+    HistoryRecord record = dated(HistoryRecord::Kind::storage, date, round);
     for (StorageBucket bucket : StorageBuckets::allCases()) {
         const QString raw = StorageBuckets::rawValue(bucket);
         record.buckets.insert(raw, {10'000'000'000LL + round, 0});
@@ -64,11 +71,7 @@ HistoryRecord fullStorage(const QDateTime& date, int round)
 
 HistoryRecord fullScan(const QDateTime& date, int round)
 {
-    HistoryRecord record;
-    record.kind = HistoryRecord::Kind::scan;
-    record.date = date;
-    record.diskUsed = 400'000'000'000 + round;
-    record.diskFree = 100'000'000'000 - round;
+    HistoryRecord record = dated(HistoryRecord::Kind::scan, date, round);
     for (CategoryID category : Categories::allCases())
         record.categories.insert(Categories::rawValue(category), {1'000'000'000LL + round, 100 + round});
     return record;

@@ -145,13 +145,14 @@ void HistoryStore::closeConnection()
 
 void HistoryStore::moveAside(Check why)
 {
-    closeConnection();
     const QString aside = asideName(m_path, why == Check::newer ? QStringLiteral("newer") : QStringLiteral("damaged"), m_clock());
-    // The log and index files belong to the old file: left here they would be read into the new one.
+    // The log and index files belong to the old file: left here they would be read into the new
+    // one. They move before the connection closes, because closing deletes them by name.
     for (const QString& suffix : {QString(), QStringLiteral("-wal"), QStringLiteral("-shm")}) {
         if (QFileInfo::exists(m_path + suffix) && !QFile::rename(m_path + suffix, aside + suffix))
             QFile::remove(m_path + suffix);
     }
+    closeConnection();
     const QString name = QFileInfo(aside).fileName();
     m_notes.append(why == Check::newer
         //: Note after the scan history file turned out to come from a newer app; %1 is the name it was kept under

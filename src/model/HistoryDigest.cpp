@@ -3,11 +3,27 @@
 #include "format/ByteCount.h"
 #include "format/RelativeDate.h"
 #include "history/HistoryGrowth.h"
+#include "storage/StorageBucket.h"
 #include "vocabulary/CategoryID.h"
 
 #include <QCoreApplication>
 
 namespace HistoryDigest {
+
+QString categoryTitle(const QString& raw)
+{
+    const auto category = Categories::fromRawValue(raw);
+    return category ? Categories::title(*category) : raw;
+}
+
+QString bucketTitle(const QString& raw)
+{
+    for (StorageBucket bucket : StorageBuckets::allCases()) {
+        if (StorageBuckets::rawValue(bucket) == raw)
+            return StorageBuckets::title(bucket);
+    }
+    return raw;
+}
 
 std::optional<QString> sinceLastScan(const QList<HistoryRecord>& newestFirst, const QDateTime& now)
 {
@@ -20,9 +36,8 @@ std::optional<QString> sinceLastScan(const QList<HistoryRecord>& newestFirst, co
     for (const HistoryGrowth::Change& category : HistoryGrowth::totals(pair->before.categories, pair->after.categories)) {
         if (category.growth() <= 0 || grown.size() == categoriesNamed)
             break;
-        const auto id = Categories::fromRawValue(category.name);
         //: One category in the Overview's change since the last scan: %1 its name, %2 its growth ("Docker +900 MB")
-        grown.append(QCoreApplication::translate("HistoryDigest", "%1 %2").arg(id ? Categories::title(*id) : category.name, ByteCount::formatChange(category.growth())));
+        grown.append(QCoreApplication::translate("HistoryDigest", "%1 %2").arg(categoryTitle(category.name), ByteCount::formatChange(category.growth())));
     }
     if (grown.isEmpty())
         //: The Overview's change since the last scan; %1 the change ("+3.2 GB"), %2 when that scan was ("3 days ago")

@@ -17,4 +17,9 @@ inline constexpr int categoriesNamed = 3;
 // with fewer than two kept scans.
 std::optional<QString> sinceLastScan(const QList<HistoryRecord>& newestFirst, const QDateTime& now);
 
+// The title of a category or storage bucket kept by its raw value; the raw value itself when
+// this build knows no such one (a file written by another version).
+QString categoryTitle(const QString& raw);
+QString bucketTitle(const QString& raw);
+
 }  // namespace HistoryDigest

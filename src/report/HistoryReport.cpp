@@ -3,8 +3,7 @@
 #include "format/ByteCount.h"
 #include "history/HistoryGrowth.h"
 #include "history/HistoryStore.h"
-#include "storage/StorageBucket.h"
-#include "vocabulary/CategoryID.h"
+#include "model/HistoryDigest.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -76,21 +75,6 @@ QJsonArray changesToJson(const QList<HistoryGrowth::Change>& changes, const QStr
         array.append(object);
     }
     return array;
-}
-
-QString categoryTitle(const QString& raw)
-{
-    const auto category = Categories::fromRawValue(raw);
-    return category ? Categories::title(*category) : raw;
-}
-
-QString bucketTitle(const QString& raw)
-{
-    for (StorageBucket bucket : StorageBuckets::allCases()) {
-        if (StorageBuckets::rawValue(bucket) == raw)
-            return StorageBuckets::title(bucket);
-    }
-    return raw;
 }
 
 void writeChanges(QTextStream& out, const QString& heading, const QList<HistoryGrowth::Change>& changes,
@@ -197,14 +181,14 @@ QByteArray growthToText(const QList<HistoryRecord>& newestFirst, const std::opti
         out << QCoreApplication::translate("HistoryReport", "Scans of %1 and %2: %3").arg(localDate(scan->before.date), localDate(scan->after.date), ByteCount::formatChange(HistoryGrowth::headline(*scan))) << '\n';
         //: Heading of the categories in the report tool's comparison
         writeChanges(out, QCoreApplication::translate("HistoryReport", "Categories:"), HistoryGrowth::totals(scan->before.categories, scan->after.categories),
-                     [](const HistoryGrowth::Change& change) { return categoryTitle(change.name); });
+                     [](const HistoryGrowth::Change& change) { return HistoryDigest::categoryTitle(change.name); });
     }
     if (storage) {
         //: Heading of the report tool's comparison of two storage analyses; %1 and %2 are their dates
         out << QCoreApplication::translate("HistoryReport", "Storage analyses of %1 and %2:").arg(localDate(storage->before.date), localDate(storage->after.date)) << '\n';
         //: Heading of the storage kinds in the report tool's comparison
         writeChanges(out, QCoreApplication::translate("HistoryReport", "Kinds:"), HistoryGrowth::totals(storage->before.buckets, storage->after.buckets),
-                     [](const HistoryGrowth::Change& change) { return bucketTitle(change.name); });
+                     [](const HistoryGrowth::Change& change) { return HistoryDigest::bucketTitle(change.name); });
         //: Heading of the folders in the report tool's comparison
         writeChanges(out, QCoreApplication::translate("HistoryReport", "Folders:"), HistoryGrowth::folders(storage->before.folders, storage->after.folders),
                      [](const HistoryGrowth::Change& change) { return change.path; });

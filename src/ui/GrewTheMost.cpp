@@ -2,8 +2,8 @@
 
 #include "format/ByteCount.h"
 #include "format/RelativeDate.h"
+#include "model/HistoryDigest.h"
 #include "model/HistoryRecorder.h"
-#include "storage/StorageBucket.h"
 #include "ui/PageLabels.h"
 
 #include <QComboBox>
@@ -14,19 +14,6 @@
 #include <QSignalBlocker>
 #include <QTreeWidget>
 #include <QVBoxLayout>
-
-namespace {
-
-QString bucketTitle(const QString& raw)
-{
-    for (StorageBucket bucket : StorageBuckets::allCases()) {
-        if (StorageBuckets::rawValue(bucket) == raw)
-            return StorageBuckets::title(bucket);
-    }
-    return raw;
-}
-
-}  // namespace
 
 GrewTheMost::GrewTheMost(HistoryRecorder* history, QWidget* parent)
     : QWidget(parent), m_history(history), m_earlier(new QComboBox(this)), m_folders(new QTreeWidget(this))
@@ -65,7 +52,7 @@ void GrewTheMost::refresh()
     for (const HistoryGrowth::Change& change : HistoryGrowth::folders(comparison->before.folders, comparison->after.folders)) {
         if (change.growth() <= 0 || shown++ == foldersShown)
             break;
-        auto* row = new QTreeWidgetItem(m_folders, {change.path, bucketTitle(change.name), ByteCount::formatChange(change.growth())});
+        auto* row = new QTreeWidgetItem(m_folders, {change.path, HistoryDigest::bucketTitle(change.name), ByteCount::formatChange(change.growth())});
         row->setTextAlignment(2, Qt::AlignRight | Qt::AlignVCenter);
         row->setToolTip(0, change.path);
     }
