@@ -49,8 +49,17 @@ void AppModel::storageFinished(quint64 generation, const std::optional<StorageRe
         return;
     if (report) {
         m_storageReport = report;
+        m_storageOutdated = false;
         m_stats->recordStorage(*report);
     }
+    emit storageChanged();
+}
+
+void AppModel::markStorageOutdated()
+{
+    if (!m_storageReport || m_storageOutdated)
+        return;
+    m_storageOutdated = true;
     emit storageChanged();
 }
 

@@ -16,6 +16,8 @@ class StorageHeader : public QWidget {
     Q_OBJECT
 
 public:
+    static constexpr int ageRefresh = 30'000;  // milliseconds between redraws of the report's age
+
     StorageHeader(AppModel* model, const QString& title, const QString& explanation, QWidget* parent = nullptr);
 
     QPushButton* button() const { return m_button; }
@@ -37,4 +39,5 @@ private:
     QPushButton* m_button;
     QVBoxLayout* m_notes;
     QTimer m_progressTimer;
+    QTimer m_ageTimer;
 };
