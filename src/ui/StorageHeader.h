@@ -31,6 +31,8 @@ protected:
 private:
     void refresh();
     void refreshNotes();
+    // The line under the explanation once no analysis runs: the report's age, or that there is none.
+    void refreshStatus();
     void pollProgress();
 
     AppModel* m_model;
