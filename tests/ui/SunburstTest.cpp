@@ -195,8 +195,9 @@ TEST(SunburstLayout, EveryFolderFillsItsParentsAngleAndIsFoundWhereItLies)
     EXPECT_NEAR(filled[0], 360, 1e-6) << "the first ring goes all the way round";
     for (size_t i = 0; i < segments.size(); ++i) {
         const auto& segment = segments[i];
-        if (segment.part == SunburstLayout::Part::folder && segment.ring + 1 < SunburstLayout::rings && segment.bytes > 0)
+        if (segment.part == SunburstLayout::Part::folder && segment.ring + 1 < SunburstLayout::rings && segment.bytes > 0) {
             ASSERT_NEAR(filled[i + 1], segment.span, 1e-6) << "segment " << i;
+        }
     }
     EXPECT_LT(segments.size(), size_t(SunburstLayout::rings * 360 / SunburstLayout::thinnest));
 }
