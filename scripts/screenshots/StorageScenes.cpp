@@ -4,9 +4,13 @@
 #include "support/ModelFixture.h"
 #include "support/Wait.h"
 #include "ui/LargeFoldersPage.h"
+#include "ui/StorageFolders.h"
 #include "ui/StoragePage.h"
+#include "ui/Sunburst.h"
 
 #include <QCoreApplication>
+
+#include <algorithm>
 
 namespace {
 
@@ -70,6 +74,110 @@ void addPictures(StorageReport::FolderUsage& pictures)
                       {home + "/Pictures/2024 Iceland/IMG_2207.heic", 4'900'000}};
 }
 
+// The home's folders: path below the home, bytes directly in it, files, kind. Parents get the
+// sum of what lies below them; a few small folders are folded, as a real tree's are.
+struct TreeFolder {
+    const char* path;
+    qint64 own;
+    qint64 files;
+    StorageBucket kind;
+    qint64 folded = 0;
+};
+
+const TreeFolder treeFolders[] = {
+    {"Library/Developer/CoreSimulator/Devices", 24'100'000'000, 310'000, StorageBucket::developer, 900'000'000},
+    {"Library/Developer/CoreSimulator/Caches", 4'200'000'000, 12'000, StorageBucket::developer},
+    {"Library/Developer/Xcode/iOS DeviceSupport", 18'200'000'000, 98'000, StorageBucket::developer},
+    {"Library/Developer/Xcode/DerivedData", 14'900'000'000, 402'000, StorageBucket::developer, 600'000'000},
+    {"Library/Developer/Xcode/Archives", 3'800'000'000, 2'100, StorageBucket::developer},
+    {"Library/Application Support/MobileSync/Backup", 38'600'000'000, 211'000, StorageBucket::deviceBackups},
+    {"Library/Application Support/Google/Chrome", 4'800'000'000, 41'000, StorageBucket::appData},
+    {"Library/Application Support/Code", 3'100'000'000, 29'000, StorageBucket::appData},
+    {"Library/Application Support/Slack", 2'100'000'000, 8'800, StorageBucket::appData, 1'900'000'000},
+    {"Library/Caches/com.spotify.client", 3'400'000'000, 61'000, StorageBucket::appData},
+    {"Library/Caches/Homebrew", 2'200'000'000, 610, StorageBucket::appData},
+    {"Library/Caches/pip", 1'100'000'000, 5'400, StorageBucket::appData, 5'900'000'000},
+    {"Library/Group Containers", 5'200'000'000, 91'000, StorageBucket::appData},
+    {"Library/Mail/V10", 4'100'000'000, 180'000, StorageBucket::mail},
+    {"Pictures/Photos Library.photoslibrary", 48'200'000'000, 61'500, StorageBucket::photos},
+    {"Pictures/2024 Iceland", 1'320'000'000, 1'040, StorageBucket::photos},
+    {"Pictures/Scans", 840'000'000, 610, StorageBucket::photos},
+    {"Pictures/Raw Exports", 540'000'000, 760, StorageBucket::photos},
+    {"Pictures", 410'000'000, 380, StorageBucket::photos, 290'000'000},
+    {"Movies/Trip to Lisbon.fcpbundle", 14'100'000'000, 2'300, StorageBucket::videos},
+    {"Movies", 8'600'000'000, 140, StorageBucket::videos},
+    {"Music/Music/Music Library.musiclibrary", 8'800'000'000, 1'950, StorageBucket::music},
+    {"Documents/Thesis/drafts", 900'000'000, 1'200, StorageBucket::documents},
+    {"Documents/Thesis/references", 402'000'000, 3'900, StorageBucket::documents},
+    {"Documents/Taxes", 1'200'000'000, 2'400, StorageBucket::documents},
+    {"Documents/Manuals", 600'000'000, 900, StorageBucket::documents},
+    {"Documents", 3'300'000'000, 5'700, StorageBucket::documents, 400'000'000},
+    {"Projects/shop-web/node_modules", 1'240'000'000, 96'400, StorageBucket::developer},
+    {"Projects/shop-web/.git", 900'000'000, 4'100, StorageBucket::other},
+    {"Projects/shop-web/src", 300'000'000, 2'900, StorageBucket::other},
+    {"Projects/admin-dashboard/node_modules", 712'000'000, 61'000, StorageBucket::developer},
+    {"Projects/admin-dashboard/.git", 400'000'000, 1'800, StorageBucket::other},
+    {"Projects/ml-experiments/data", 3'900'000'000, 220, StorageBucket::other},
+    {"Projects/ml-experiments/.venv", 1'600'000'000, 31'000, StorageBucket::developer},
+    {"Projects/rust-cli/target", 2'300'000'000, 14'000, StorageBucket::other, 700'000'000},
+    {".gradle/wrapper", 6'900'000'000, 900, StorageBucket::developer},
+    {".gradle/caches", 2'900'000'000, 88'000, StorageBucket::developer},
+    {".npm/_cacache", 2'600'000'000, 39'800, StorageBucket::developer},
+    {".cargo/registry", 2'100'000'000, 36'000, StorageBucket::developer},
+    {".cargo/bin", 600'000'000, 60, StorageBucket::developer},
+    {"Downloads", 10'700'000'000, 590, StorageBucket::archives, 300'000'000},
+    {".Trash", 3'900'000'000, 2'100, StorageBucket::trash},
+    {"Desktop", 820'000'000, 310, StorageBucket::documents},
+};
+
+FolderNode& nodeAt(FolderNode& top, const QStringList& names)
+{
+    FolderNode* node = &top;
+    for (const QString& name : names) {
+        auto found = std::find_if(node->children.begin(), node->children.end(),
+                                  [&name](const FolderNode& child) { return child.name == name; });
+        if (found == node->children.end()) {
+            node->children.push_back(FolderNode{name, 0, 0, 0, 0, StorageBucket::other, {}});
+            found = node->children.end() - 1;
+        }
+        node = &*found;
+    }
+    return *node;
+}
+
+// Sums each folder from what lies in and below it; a made-up folder takes its largest child's kind.
+void settle(FolderNode& node)
+{
+    node.bytes = node.ownBytes + node.foldedBytes;
+    qint64 largest = -1;
+    for (FolderNode& child : node.children) {
+        settle(child);
+        node.bytes += child.bytes;
+        node.fileCount += child.fileCount;
+        if (child.bytes > largest && node.ownBytes == 0) {
+            largest = child.bytes;
+            node.kind = child.kind;
+        }
+    }
+}
+
+FolderNode sampleTree()
+{
+    FolderNode top{QStringLiteral("a"), 0, 0, 0, 0, StorageBucket::other, {}};
+    for (const TreeFolder& folder : treeFolders) {
+        FolderNode& node = nodeAt(top, QString::fromUtf8(folder.path).split(QLatin1Char('/')));
+        node.ownBytes = folder.own;
+        node.fileCount = folder.files;
+        node.kind = folder.kind;
+        node.foldedBytes = folder.folded;
+    }
+    top.ownBytes = 60'000'000;
+    top.fileCount = 40;
+    settle(top);
+    top.sortChildren();
+    return top;
+}
+
 StorageReport sampleReport()
 {
     StorageReport report;
@@ -96,6 +204,7 @@ StorageReport sampleReport()
         {home + "/Documents/Thesis/references", 402'000'000, 3'900, 281'000'000, StorageBucket::documents},
         {home + "/Library/Application Support/Code/CachedData", 318'000'000, 12'700, 301'000'000, StorageBucket::appData},
     };
+    report.tree = sampleTree();
     return report;
 }
 
@@ -141,6 +250,17 @@ QImage storageFolder()
     return settled(page);
 }
 
+// The map of folders at the home, and two levels down (Library, then Developer).
+QImage storageMap(const QStringList& zoom)
+{
+    const auto fixture = measuredModel();
+    if (!fixture)
+        return {};
+    StoragePage page(&fixture->model());
+    page.folders()->sunburst()->zoomTo(zoom);
+    return settled(page);
+}
+
 QImage largeFolders()
 {
     const auto fixture = measuredModel();
@@ -157,6 +277,8 @@ QList<Scene> storageScenes()
     return {
         {QStringLiteral("storage.png"), storage},
         {QStringLiteral("storage-folder.png"), storageFolder},
+        {QStringLiteral("storage-map.png"), [] { return storageMap({}); }},
+        {QStringLiteral("storage-map-developer.png"), [] { return storageMap({QStringLiteral("Library"), QStringLiteral("Developer")}); }},
         {QStringLiteral("large-folders.png"), largeFolders},
     };
 }

@@ -113,6 +113,8 @@ public:
     bool isAnalyzingStorage() const;
     // The last finished analysis; kept until the next one finishes.
     const std::optional<StorageReport>& storageReport() const { return m_storageReport; }
+    // Whether a cleanup or a move changed the disk since the last report was measured.
+    bool isStorageOutdated() const { return m_storageOutdated; }
     // Puts a folder on the Safe List: nothing inside it is shown by scans any more; a toast says so.
     void addFolderToSafeList(const QString& path);
 
@@ -238,10 +240,12 @@ private:
     void startRescan(CategoryID category);
 
     void storageFinished(quint64 generation, const std::optional<StorageReport>& report);
+    void markStorageOutdated();
 
     std::map<quint64, std::unique_ptr<StorageTask>> m_storageTasks;  // the current one and stopped ones
     quint64 m_storageGeneration = 0;                                  // the current one's key
     std::optional<StorageReport> m_storageReport;
+    bool m_storageOutdated = false;
     SystemState m_systemState;
     QString m_toast;
     std::unique_ptr<CleanupSession> m_cleanup;

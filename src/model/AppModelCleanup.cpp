@@ -114,6 +114,8 @@ void AppModel::finishCleanup(std::optional<qint64> freeAfter)
     joinCleanupThread();
     session->setFreeAfter(freeAfter);
     m_stats->recordCleanup(session->movedToTrash(), session->removedByTools(), session->removedCount());
+    if (session->removedCount() > 0)
+        markStorageOutdated();
     refreshSystemState();
     session->setPhase(CleanupSession::Phase::finished);
     refreshTrash();  // after the phase, so the Trash row may be scanned again

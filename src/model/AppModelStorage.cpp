@@ -50,9 +50,18 @@ void AppModel::storageFinished(quint64 generation, const std::optional<StorageRe
         return;
     if (report) {
         m_storageReport = report;
+        m_storageOutdated = false;
         m_stats->recordStorage(*report);
         m_history->recordStorage(*report, m_settings->home());
     }
+    emit storageChanged();
+}
+
+void AppModel::markStorageOutdated()
+{
+    if (!m_storageReport || m_storageOutdated)
+        return;
+    m_storageOutdated = true;
     emit storageChanged();
 }
 

@@ -42,6 +42,20 @@ QJsonObject largeFolderToJson(const StorageReport::LargeFolder& folder)
             {QStringLiteral("kind"), StorageBuckets::rawValue(folder.kind)}};
 }
 
+QJsonObject nodeToJson(const FolderNode& node)
+{
+    QJsonArray children;
+    for (const FolderNode& child : node.children)
+        children.append(nodeToJson(child));
+    return {{QStringLiteral("name"), node.name},
+            {QStringLiteral("bytes"), number(node.bytes)},
+            {QStringLiteral("fileCount"), number(node.fileCount)},
+            {QStringLiteral("ownBytes"), number(node.ownBytes)},
+            {QStringLiteral("foldedBytes"), number(node.foldedBytes)},
+            {QStringLiteral("kind"), StorageBuckets::rawValue(node.kind)},
+            {QStringLiteral("children"), children}};
+}
+
 }  // namespace
 
 QJsonObject toJson(const StorageReport& report)
@@ -66,7 +80,8 @@ QJsonObject toJson(const StorageReport& report)
             {QStringLiteral("measuredWithFullDiskAccess"), report.measuredWithFullDiskAccess},
             {QStringLiteral("notes"), QJsonArray::fromStringList(report.notes)},
             {QStringLiteral("buckets"), buckets},
-            {QStringLiteral("largeFolders"), large}};
+            {QStringLiteral("largeFolders"), large},
+            {QStringLiteral("tree"), nodeToJson(report.tree)}};
 }
 
 QByteArray toText(const StorageReport& report)

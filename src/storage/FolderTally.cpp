@@ -2,9 +2,21 @@
 
 #include <algorithm>
 
+namespace {
+
+StorageBucket largest(const std::array<qint64, StorageBuckets::count>& byBucket)
+{
+    const auto found = std::max_element(byBucket.begin(), byBucket.end());
+    return StorageBuckets::allCases().at(static_cast<size_t>(found - byBucket.begin()));
+}
+
+}  // namespace
+
 void FolderTally::addFile(StorageBucket bucket, qint64 allocatedBytes)
 {
     bytes += allocatedBytes;
+    ownBytes += allocatedBytes;
+    byBucket.at(static_cast<size_t>(bucket)) += allocatedBytes;
     unlistedBytes += allocatedBytes;
     ++fileCount;
     ++unlistedFiles;
@@ -19,6 +31,8 @@ void FolderTally::addFile(StorageBucket bucket, qint64 allocatedBytes)
 void FolderTally::addOwnBlocks(StorageBucket bucket, qint64 allocatedBytes)
 {
     bytes += allocatedBytes;
+    ownBytes += allocatedBytes;
+    byBucket.at(static_cast<size_t>(bucket)) += allocatedBytes;
     unlistedBytes += allocatedBytes;
     unlistedByBucket.at(static_cast<size_t>(bucket)) += allocatedBytes;
 }
@@ -34,6 +48,8 @@ void FolderTally::absorb(const FolderTally& child, bool childListed)
     bytes += child.bytes;
     fileCount += child.fileCount;
     smallBytes += child.smallBytes;
+    for (size_t i = 0; i < byBucket.size(); ++i)
+        byBucket[i] += child.byBucket[i];
     if (childListed)
         return;
     unlistedBytes += child.unlistedBytes;
@@ -46,8 +62,10 @@ void FolderTally::absorb(const FolderTally& child, bool childListed)
 
 StorageBucket FolderTally::listedKind() const
 {
-    if (kind)
-        return *kind;
-    const auto largest = std::max_element(unlistedByBucket.begin(), unlistedByBucket.end());
-    return StorageBuckets::allCases().at(static_cast<size_t>(largest - unlistedByBucket.begin()));
+    return kind ? *kind : largest(unlistedByBucket);
+}
+
+StorageBucket FolderTally::treeKind() const
+{
+    return kind ? *kind : largest(byBucket);
 }

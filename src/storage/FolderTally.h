@@ -19,11 +19,13 @@ struct FolderTally {
     qint64 bytes = 0;
     qint64 fileCount = 0;
     qint64 smallBytes = 0;
+    qint64 ownBytes = 0;  // its files and its own blocks, without its sub-folders
     qint64 unlistedBytes = 0;
     qint64 unlistedFiles = 0;
     qint64 unlistedSmallBytes = 0;
     qint64 unlistedSmallFiles = 0;
     std::array<qint64, StorageBuckets::count> unlistedByBucket{};
+    std::array<qint64, StorageBuckets::count> byBucket{};
 
     static bool isSmall(qint64 allocatedBytes) { return allocatedBytes < smallFileLimit; }
 
@@ -37,4 +39,6 @@ struct FolderTally {
     void absorb(const FolderTally& child, bool childListed);
     // The bucket a listing shows: the forced one, else the one holding most unlisted bytes.
     StorageBucket listedKind() const;
+    // The bucket the folder tree shows: the forced one, else the one holding most bytes.
+    StorageBucket treeKind() const;
 };

@@ -3,6 +3,7 @@
 #include "machinery/Concurrency.h"
 #include "storage/BucketRules.h"
 #include "storage/FolderUsageBuilder.h"
+#include "storage/HomeTree.h"
 #include "storage/StorageWalker.h"
 
 #include <QCoreApplication>
@@ -107,13 +108,15 @@ std::vector<QByteArray> roots(const Request& request)
 std::optional<StorageReport> analyze(const Request& request)
 {
     const BucketRules rules(QFile::encodeName(request.home));
-    const StorageWalker walker(rules, request.progress.get(), &request.cancellation);
+    const StorageWalker walker(rules, request.progress.get(), &request.cancellation, request.treeNodes);
     const std::vector<QByteArray> all = roots(request);
     std::vector<StoragePartial> partials = Concurrency::map(all, walksAtOnce, request.cancellation,
                                                             [&walker](const QByteArray& root) { return walker.walk(root); });
     if (request.cancellation.isCancelled())
         return std::nullopt;
+    FolderNode tree = HomeTree::assemble(QFile::encodeName(request.home), all, partials, request.treeNodes);
     StorageReport report = merge(std::move(partials));
+    report.tree = std::move(tree);
     report.measuredWithFullDiskAccess = request.fullDiskAccess;
     if (!request.fullDiskAccess)
         //: Note above the storage breakdown while the app lacks Full Disk Access

@@ -2,6 +2,7 @@
 
 #include "machinery/CancellationToken.h"
 #include "machinery/ScanProgress.h"
+#include "storage/HomeTree.h"
 #include "storage/StoragePartial.h"
 #include "storage/StorageReport.h"
 
@@ -29,6 +30,7 @@ struct Request {
     // unknown. Read once the walks are done.
     std::function<std::optional<qint64>()> diskUsed;
     QString applications = QStringLiteral("/Applications");
+    qsizetype treeNodes = HomeTree::nodesKept;
 };
 
 // The Library entries that need Full Disk Access to be read.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "storage/FolderNode.h"
 #include "storage/StorageBucket.h"
 
 #include <QDateTime>
@@ -55,6 +56,9 @@ struct StorageReport {
     qint64 diskUsed = 0;  // 0 when the volume's figures could not be read
     QStringList notes;
     bool measuredWithFullDiskAccess = true;
+    // The home's folders that hold a fair share of it, bounded (`HomeTree`); the applications
+    // folder lies outside it.
+    FolderNode tree;
 
     qint64 total(StorageBucket bucket) const { return totals.at(static_cast<size_t>(bucket)); }
     const QList<FolderUsage>& foldersOf(StorageBucket bucket) const { return folders.at(static_cast<size_t>(bucket)); }

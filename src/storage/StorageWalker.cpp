@@ -3,6 +3,7 @@
 #include "machinery/ScanProgress.h"
 #include "machinery/TreeWalker.h"
 #include "storage/FolderTally.h"
+#include "storage/FolderTreeBuilder.h"
 #include "storage/FolderUsageBuilder.h"
 
 #include <QFile>
@@ -78,8 +79,8 @@ bool traverse(const QByteArray& root, Visit visit)
 // One walk in progress: the open folders, the root's own usage per bucket and the partial.
 class Walking {
 public:
-    Walking(const BucketRules& rules, ScanProgress* progress, const CancellationToken* cancellation)
-        : m_rules(rules), m_progress(progress), m_cancellation(cancellation) {}
+    Walking(const BucketRules& rules, ScanProgress* progress, const CancellationToken* cancellation, qsizetype nodesKept)
+        : m_rules(rules), m_progress(progress), m_cancellation(cancellation), m_tree(nodesKept) {}
 
     StoragePartial run(const QByteArray& root);
 
@@ -90,6 +91,7 @@ private:
         FolderUsageBuilder* usage = nullptr;  // null: the root's usage of each file's bucket
         std::unique_ptr<FolderUsageBuilder> ownUsage;
         QByteArray group;  // "" directly in the usage's folder
+        qsizetype linkFolder = -1;  // its index in the partial's link folders, once it holds a link
     };
 
     bool visit(const Entry& entry);
@@ -98,7 +100,8 @@ private:
     void leaveFolder(const Entry& entry);
     void addFile(const Entry& entry);
     void addUnreadable(const Entry& entry);
-    bool isRepeatedLink(const struct stat& status, StorageBucket bucket, qint64 bytes);
+    bool isRepeatedLink(const Entry& entry, StorageBucket bucket, qint64 bytes);
+    qsizetype linkFolder(const Entry& entry);
     FolderUsageBuilder& usageFor(StorageBucket bucket);
     void keep(StorageBucket bucket, StorageReport::FolderUsage usage);
     void keep(StorageReport::LargeFolder folder);
@@ -109,7 +112,9 @@ private:
     ScanProgress* m_progress;
     const CancellationToken* m_cancellation;
     QByteArray m_rootUsagePath;
+    QByteArray m_rootParent;
     std::vector<Frame> m_frames;
+    FolderTreeBuilder m_tree;
     std::array<std::unique_ptr<FolderUsageBuilder>, StorageBuckets::count> m_rootUsage;
     StoragePartial m_partial;
     qint64 m_entries = 0;
@@ -118,6 +123,7 @@ private:
 StoragePartial Walking::run(const QByteArray& root)
 {
     m_rootUsagePath = root;
+    m_rootParent = parentOf(root).toByteArray();
     const bool finished = traverse(root, [this](const Entry& entry) { return visit(entry); });
     finish(!finished);
     return std::move(m_partial);
@@ -151,6 +157,7 @@ void Walking::enterFolder(const Entry& entry)
     frame.tally.addOwnBlocks(bucket, bytes);
     (frame.usage ? *frame.usage : usageFor(bucket)).addBytes(bytes);
     m_frames.push_back(std::move(frame));
+    m_tree.enterFolder();
 }
 
 // A folder inherits its parent's bucket, package and usage; a forced bucket of its own (by name
@@ -190,6 +197,8 @@ void Walking::leaveFolder(const Entry& entry)
                                         frame.tally.unlistedFiles, frame.tally.unlistedSmallBytes,
                                         frame.tally.listedKind()});
     }
+    m_tree.leaveFolder(FolderNode{QFile::decodeName(entry.name().toByteArray()), frame.tally.bytes,
+                                  frame.tally.fileCount, frame.tally.ownBytes, 0, frame.tally.treeKind(), {}});
     if (!m_frames.empty())
         m_frames.back().tally.absorb(frame.tally, listed);
     if (frame.ownUsage)
@@ -201,9 +210,10 @@ void Walking::addFile(const Entry& entry)
     const Frame* frame = m_frames.empty() ? nullptr : &m_frames.back();
     const StorageBucket bucket = frame && frame->tally.kind ? *frame->tally.kind : BucketRules::bucket(entry.name());
     const qint64 bytes = allocated(*entry.status);
-    if (isRepeatedLink(*entry.status, bucket, bytes))
+    if (isRepeatedLink(entry, bucket, bytes))
         return;
     if (!frame) {  // the root is a file: it belongs to the folder that holds it
+        m_tree.addRootFile(bytes);
         const QByteArray path = entry.path();
         m_rootUsagePath = parentOf(path).toByteArray();
         usageFor(bucket).addFile(bytes, {}, false, [&] { return QFile::decodeName(path); });
@@ -217,8 +227,9 @@ void Walking::addFile(const Entry& entry)
 
 // A file with more hard links is counted once per walk here and once per report by the merge,
 // which adds its bytes to the totals.
-bool Walking::isRepeatedLink(const struct stat& status, StorageBucket bucket, qint64 bytes)
+bool Walking::isRepeatedLink(const Entry& entry, StorageBucket bucket, qint64 bytes)
 {
+    const struct stat& status = *entry.status;
     if (status.st_nlink < 2) {
         m_partial.totals.at(static_cast<size_t>(bucket)) += bytes;
         return false;
@@ -226,8 +237,24 @@ bool Walking::isRepeatedLink(const struct stat& status, StorageBucket bucket, qi
     const FileKey key{static_cast<qint32>(status.st_dev), static_cast<quint64>(status.st_ino)};
     if (m_partial.links.contains(key))
         return true;
-    m_partial.links.insert(key, {bucket, bytes});
+    m_partial.links.insert(key, {bucket, bytes, linkFolder(entry)});
     return false;
+}
+
+// The folder holding a hard-linked file, named once per folder however many links it holds.
+qsizetype Walking::linkFolder(const Entry& entry)
+{
+    qsizetype* known = m_frames.empty() ? nullptr : &m_frames.back().linkFolder;
+    if (known && *known >= 0)
+        return *known;
+    QByteArray relative = entry.at.folderPathBytes().mid(m_rootParent.size());
+    if (relative.startsWith('/'))
+        relative.remove(0, 1);
+    m_partial.linkFolders.push_back(std::move(relative));
+    const qsizetype index = qsizetype(m_partial.linkFolders.size()) - 1;
+    if (known)
+        *known = index;
+    return index;
 }
 
 // Unreadable folders are skipped; their own blocks are counted where they stand, and what they
@@ -312,17 +339,19 @@ void Walking::finish(bool stopped)
         if (auto& usage = m_rootUsage.at(static_cast<size_t>(bucket)))
             keep(bucket, std::move(*usage).finish());
     }
+    m_partial.tree = std::move(m_tree).finish();
     m_partial.complete = !stopped;
 }
 
 }  // namespace
 
-StorageWalker::StorageWalker(const BucketRules& rules, ScanProgress* progress, const CancellationToken* cancellation)
-    : m_rules(rules), m_progress(progress), m_cancellation(cancellation)
+StorageWalker::StorageWalker(const BucketRules& rules, ScanProgress* progress, const CancellationToken* cancellation,
+                             qsizetype treeNodes)
+    : m_rules(rules), m_progress(progress), m_cancellation(cancellation), m_treeNodes(treeNodes)
 {
 }
 
 StoragePartial StorageWalker::walk(const QByteArray& root) const
 {
-    return Walking(m_rules, m_progress, m_cancellation).run(root);
+    return Walking(m_rules, m_progress, m_cancellation, m_treeNodes).run(root);
 }

@@ -2,6 +2,7 @@
 
 #include "machinery/CancellationToken.h"
 #include "storage/BucketRules.h"
+#include "storage/HomeTree.h"
 #include "storage/StoragePartial.h"
 
 #include <QByteArray>
@@ -12,11 +13,13 @@ class ScanProgress;
 // without changing the working directory, on the root's volume only (a disk mounted inside is
 // not counted). Every entry is counted by its allocated size into the bucket of the folder that
 // forces one, or of its own extension; folders big because of small files are listed on the way
-// up. Only the per-bucket lists stay in memory, not the tree. One walker serves one thread;
-// `progress` and `cancellation` may be null.
+// up. Beside the per-bucket lists only a bounded folder tree stays in memory (about
+// `treeNodes` folders, the largest). One walker serves one thread; `progress` and
+// `cancellation` may be null.
 class StorageWalker {
 public:
-    StorageWalker(const BucketRules& rules, ScanProgress* progress, const CancellationToken* cancellation);
+    StorageWalker(const BucketRules& rules, ScanProgress* progress, const CancellationToken* cancellation,
+                  qsizetype treeNodes = HomeTree::nodesKept);
 
     // A missing or unreadable root gives an empty partial.
     [[nodiscard]] StoragePartial walk(const QByteArray& root) const;
@@ -25,4 +28,5 @@ private:
     const BucketRules& m_rules;
     ScanProgress* m_progress;
     const CancellationToken* m_cancellation;
+    qsizetype m_treeNodes;
 };

@@ -86,7 +86,22 @@ void LargeFoldersPage::refresh()
         row->setSizeHint(folderColumn, QSize(0, fontMetrics().height() + 14));
         for (int column : {sizeColumn, filesColumn, smallColumn})
             row->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
+        row->setToolTip(sizeColumn, sizeNote(*report, folder, home));
     }
+}
+
+// Storage shows a folder whole; this list leaves out the listed folders inside it. Where the two
+// differ, the row says which is which.
+QString LargeFoldersPage::sizeNote(const StorageReport& report, const StorageReport::LargeFolder& folder, const QString& home)
+{
+    if (!folder.path.startsWith(home + QLatin1Char('/')))
+        return {};
+    const FolderNode* whole = report.tree.find(folder.path.mid(home.size() + 1).split(QLatin1Char('/')));
+    if (!whole || whole->bytes == folder.bytes)
+        return {};
+    //: Tooltip of a large folder's size when the whole folder is larger; %1 is the size shown here, %2 the whole folder's size
+    return tr("%1 without the large folders listed inside it; the whole folder holds %2, as Storage shows.")
+        .arg(ByteCount::format(folder.bytes), ByteCount::format(whole->bytes));
 }
 
 void LargeFoldersPage::showMenu(const QPoint& at)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "storage/StorageReport.h"
+
 #include <QWidget>
 
 class AppModel;
@@ -20,6 +22,7 @@ public:
 private:
     void refresh();
     void showMenu(const QPoint& at);
+    static QString sizeNote(const StorageReport& report, const StorageReport::LargeFolder& folder, const QString& home);
 
     AppModel* m_model;
     QTreeWidget* m_list;

@@ -42,6 +42,13 @@ StorageHeader::StorageHeader(AppModel* model, const QString& title, const QStrin
             m_model->startStorageAnalysis();
     });
     connect(m_model, &AppModel::storageChanged, this, &StorageHeader::refresh);
+    // "Measured 5 minutes ago." grows older while the screen stays open.
+    m_ageTimer.setInterval(ageRefresh);
+    connect(&m_ageTimer, &QTimer::timeout, this, [this] {
+        if (!m_model->isAnalyzingStorage())
+            refreshStatus();
+    });
+    m_ageTimer.start();
     refresh();
 }
 
@@ -68,15 +75,23 @@ void StorageHeader::refresh()
         pollProgress();
     } else {
         m_progressTimer.stop();
-        const auto& report = m_model->storageReport();
-        if (report)
-            //: Status line of the storage screens; %1 is a relative date ("5 minutes ago")
-            m_status->setText(tr("Measured %1.").arg(RelativeDate::format(report->date)));
-        else
-            //: Status line of the storage screens before any analysis
-            m_status->setText(tr("Not measured yet. Measuring reads your home folder; it changes nothing."));
+        refreshStatus();
     }
     refreshNotes();
+}
+
+void StorageHeader::refreshStatus()
+{
+    const auto& report = m_model->storageReport();
+    //: Status line of the storage screens; %1 is a relative date ("5 minutes ago")
+    const QString measured = report ? tr("Measured %1.").arg(RelativeDate::format(report->date)) : QString();
+    //: Added to the status line of the storage screens after a cleanup or move changed the disk
+    const QString outdated = tr("Out of date: files were cleaned up or moved since. Measure again to update it.");
+    if (report)
+        m_status->setText(m_model->isStorageOutdated() ? measured + QLatin1Char(' ') + outdated : measured);
+    else
+        //: Status line of the storage screens before any analysis
+        m_status->setText(tr("Not measured yet. Measuring reads your home folder; it changes nothing."));
 }
 
 void StorageHeader::refreshNotes()

@@ -16,6 +16,8 @@ class StorageHeader : public QWidget {
     Q_OBJECT
 
 public:
+    static constexpr int ageRefresh = 30'000;  // milliseconds between redraws of the report's age
+
     StorageHeader(AppModel* model, const QString& title, const QString& explanation, QWidget* parent = nullptr);
 
     QPushButton* button() const { return m_button; }
@@ -29,6 +31,8 @@ protected:
 private:
     void refresh();
     void refreshNotes();
+    // The line under the explanation once no analysis runs: the report's age, or that there is none.
+    void refreshStatus();
     void pollProgress();
 
     AppModel* m_model;
@@ -37,4 +41,5 @@ private:
     QPushButton* m_button;
     QVBoxLayout* m_notes;
     QTimer m_progressTimer;
+    QTimer m_ageTimer;
 };

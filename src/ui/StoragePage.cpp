@@ -10,6 +10,7 @@
 #include "ui/SizeBarDelegate.h"
 #include "ui/StorageBucketStyle.h"
 #include "ui/StorageChange.h"
+#include "ui/StorageFolders.h"
 #include "ui/StorageHeader.h"
 #include "ui/StorageRing.h"
 #include "vocabulary/PathRules.h"
@@ -20,6 +21,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -33,6 +35,9 @@ constexpr int pathRole = Qt::UserRole;
 constexpr int rowKindRole = Qt::UserRole + 1;
 constexpr int bucketRole = Qt::UserRole + 2;
 enum RowKind { folderRow, groupRow, fileRow };
+// The ring leaves out the part the walk can't see when it is more than this many times the rest.
+constexpr qint64 systemShareShownUpTo = 4;
+constexpr int kindsTab = 1;
 
 QTreeWidget* makeList(QWidget* parent, const QStringList& headings)
 {
@@ -83,7 +88,13 @@ StoragePage::StoragePage(AppModel* model, QWidget* parent)
     layout->setSpacing(12);
     layout->addWidget(m_header);
     layout->addWidget(makeOverview());
-    layout->addWidget(makeDrillDown(), 1);
+    m_views = new QTabWidget(this);
+    m_folders = new StorageFolders(model, m_views);
+    //: Tab of the storage screen: the sunburst of the measured folders
+    m_views->addTab(m_folders, tr("Folders"));
+    //: Tab of the storage screen: the folders and files of each kind of data
+    m_views->addTab(makeDrillDown(), tr("Kinds"));
+    layout->addWidget(m_views, 1);
     layout->addWidget(new GrewTheMost(m_model->history(), this));
     connect(m_model, &AppModel::storageChanged, this, &StoragePage::refresh);
     connect(m_model->history(), &HistoryRecorder::changed, this, &StoragePage::refresh);
@@ -175,7 +186,10 @@ void StoragePage::refreshRing()
         segments.append({StorageBucketStyle::colour(bucket), bytes, StorageBuckets::title(bucket) + QStringLiteral(" · ") + ByteCount::format(bytes)});
         m_ringBuckets.append(bucket);
     }
-    if (report->notMeasured() > 0) {
+    // When the part the walk can't see dwarfs the rest, the ring shows only what was measured,
+    // so the kinds stay readable; the middle says so.
+    const bool onlyMeasured = report->notMeasured() > systemShareShownUpTo * report->measured();
+    if (report->notMeasured() > 0 && !onlyMeasured) {
         segments.append({StorageBucketStyle::remainderColour(), report->notMeasured(),
                          StorageBuckets::remainderTitle() + QStringLiteral(" · ") + ByteCount::format(report->notMeasured())});
         m_ringBuckets.append(std::nullopt);
@@ -184,8 +198,16 @@ void StoragePage::refreshRing()
     const QString used = tr("used");
     //: Under the size in the middle of the storage ring when the disk's used space is unknown
     const QString measured = tr("measured");
-    m_ring->setSegments(segments, ByteCount::format(std::max(report->diskUsed, report->measured())),
-                        report->diskUsed > 0 ? used : measured);
+    if (onlyMeasured) {
+        //: Under the measured size in the middle of the storage ring when the system's share is left out of the ring; %1 is the disk's used space
+        m_ring->setSegments(segments, ByteCount::format(report->measured()), tr("measured of %1 used").arg(ByteCount::format(report->diskUsed)));
+        //: Tooltip of the storage ring when it leaves the system's share out; %1 is the name of that share
+        m_ring->setToolTip(tr("The ring shows only what was measured; %1 is too large beside it to leave the kinds readable.").arg(StorageBuckets::remainderTitle()));
+    } else {
+        m_ring->setSegments(segments, ByteCount::format(std::max(report->diskUsed, report->measured())),
+                            report->diskUsed > 0 ? used : measured);
+        m_ring->setToolTip({});
+    }
     m_ring->setHighlighted(m_bucket ? static_cast<int>(m_ringBuckets.indexOf(m_bucket)) : -1);
 }
 
@@ -304,6 +326,7 @@ void StoragePage::showBuckets()
 
 void StoragePage::showBucket(StorageBucket bucket)
 {
+    m_views->setCurrentIndex(kindsTab);
     m_bucket = bucket;
     m_folder.reset();
     refreshRing();

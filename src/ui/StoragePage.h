@@ -13,11 +13,14 @@ class QTreeWidget;
 class QTreeWidgetItem;
 class SizeBarDelegate;
 class StorageHeader;
+class StorageFolders;
 class StorageRing;
+class QTabWidget;
 
 // The Storage screen: the used disk as a ring of the buckets plus the remainder the walk can't
-// see, the buckets largest first beside it, and a drill-down below: a bucket's folders largest
-// first, then one folder's sub-folder groups and largest files. Shows the model's last report
+// see, the buckets largest first beside it, and below either the map of folders (a sunburst)
+// or a drill-down: a bucket's folders largest first, then one folder's sub-folder groups and
+// largest files. Shows the model's last report
 // and follows its storageChanged signal; GUI thread only.
 class StoragePage : public QWidget {
     Q_OBJECT
@@ -34,6 +37,8 @@ public:
     QTreeWidget* details() const { return m_details; }
     QLabel* place() const { return m_place; }
     StorageRing* ring() const { return m_ring; }
+    StorageFolders* folders() const { return m_folders; }
+    QTabWidget* views() const { return m_views; }
 
 private:
     QWidget* makeOverview();
@@ -59,6 +64,8 @@ private:
     QPushButton* m_back;
     QTreeWidget* m_details;
     SizeBarDelegate* m_bars;
+    QTabWidget* m_views = nullptr;
+    StorageFolders* m_folders = nullptr;
     QList<std::optional<StorageBucket>> m_ringBuckets;  // absent: the remainder
     std::optional<StorageBucket> m_bucket;
     std::optional<QString> m_folder;

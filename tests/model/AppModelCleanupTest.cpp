@@ -4,6 +4,7 @@
 #include "support/Wait.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
 
@@ -283,4 +284,34 @@ TEST(AppModelCleanup, NoScanStartsWhileASessionIsOpen)
     EXPECT_TRUE(model.isScanning());
     ASSERT_TRUE(waitUntil([&] { return !model.isBusyScanning(); }));
     EXPECT_EQ(scanner->runs(), 1);
+}
+
+TEST(AppModelCleanup, AStorageReportMeasuredBeforeACleanupIsOutOfDateUntilMeasuredAgain)
+{
+    TempTree tree;
+    tree.file("Downloads/old.zip", 3000);
+    tree.file("Downloads/kept.zip", 3000);
+    ModelFixture fixture({}, tree.root(), [](AppModel::Services& services) {
+        services.analyzeStorage = [](const StorageAnalyzer::Request&) { return std::optional(StorageReport{}); };
+    });
+    AppModel& model = fixture.model();
+    const CleanupItem refused = realRow(CategoryID::largeFiles, tree, "Downloads/kept.zip", 3000);
+    show(model, CategoryID::largeFiles, {refused});
+    model.startStorageAnalysis();
+    ASSERT_TRUE(waitUntil([&] { return model.storageReport().has_value(); }));
+    ASSERT_EQ(std::remove(QFile::encodeName(tree.path("Downloads/kept.zip")).constData()), 0);
+    tree.file("Downloads/kept.zip", 5000);  // another file now: refused, nothing changes
+    model.setSelected(refused, true);
+    ASSERT_TRUE(runCleanup(model));
+    EXPECT_FALSE(model.isStorageOutdated()) << "a cleanup that removed nothing leaves the figures as they were";
+    model.closeCleanup();
+
+    const CleanupItem old = realRow(CategoryID::largeFiles, tree, "Downloads/old.zip", 3000);
+    show(model, CategoryID::largeFiles, {old});
+    model.setSelected(old, true);
+    ASSERT_TRUE(runCleanup(model));
+    EXPECT_TRUE(model.isStorageOutdated());
+    model.startStorageAnalysis();
+    ASSERT_TRUE(waitUntil([&] { return !model.isAnalyzingStorage(); }));
+    EXPECT_FALSE(model.isStorageOutdated());
 }

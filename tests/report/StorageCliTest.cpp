@@ -92,3 +92,49 @@ TEST(StorageCli, StorageTakesOnlyTheHomeAndJson)
     runCli({"storage", "--root", "/tmp"}, &exitCode);
     EXPECT_EQ(exitCode, 2);
 }
+
+namespace {
+
+// The first folder of the printed tree whose children, own files and folded folders do not add
+// up to its bytes ("" when every one does).
+QString firstUnbalanced(const QJsonObject& node, const QString& path)
+{
+    qint64 sum = node[QStringLiteral("ownBytes")].toInteger() + node[QStringLiteral("foldedBytes")].toInteger();
+    for (const QJsonValue& child : node[QStringLiteral("children")].toArray()) {
+        sum += child[QStringLiteral("bytes")].toInteger();
+        const QString failed = firstUnbalanced(child.toObject(), path + '/' + child[QStringLiteral("name")].toString());
+        if (!failed.isEmpty())
+            return failed;
+    }
+    return sum == node[QStringLiteral("bytes")].toInteger() ? QString() : path;
+}
+
+}  // namespace
+
+TEST(StorageCli, TheTreeAddsUpToTheByteAndHoldsTheHome)
+{
+    TempTree tree;
+    const QString home = tree.dir(QStringLiteral("home"));
+    smallFiles(home + "/code/app/node_modules/big", 300, 20'000);
+    tree.file(QStringLiteral("home/Documents/Thesis/draft.pdf"), 2'000'000);
+    tree.hardlink(QStringLiteral("home/Music/draft.pdf"), QStringLiteral("home/Documents/Thesis/draft.pdf"));
+    tree.sparseFile(QStringLiteral("home/Movies/empty.mov"), 3'000'000'000);
+    tree.file(QStringLiteral("home/Library/Caches/c.db"), 50'000);
+    tree.file(QStringLiteral("home/notes.txt"), 7'000);
+
+    int exitCode = -1;
+    const QJsonObject report = QJsonDocument::fromJson(runCli({"storage", "--home", home, "--json"}, &exitCode)).object();
+    ASSERT_EQ(exitCode, 0);
+    const QJsonObject top = report[QStringLiteral("tree")].toObject();
+    EXPECT_EQ(top[QStringLiteral("name")].toString(), "home");
+    EXPECT_EQ(firstUnbalanced(top, QStringLiteral("~")), QString());
+    const QStringList roots = {home + "/Documents", home + "/Library/Caches", home + "/Movies", home + "/Music",
+                               home + "/code", home + "/notes.txt"};
+    EXPECT_EQ(top[QStringLiteral("bytes")].toInteger(), du(roots));
+    EXPECT_EQ(top[QStringLiteral("ownBytes")].toInteger(), du({home + "/notes.txt"}));
+    EXPECT_EQ(top[QStringLiteral("fileCount")].toInteger(), 300 + 1 + 1 + 1 + 1) << "the hard link once";
+    const QJsonArray children = top[QStringLiteral("children")].toArray();
+    ASSERT_FALSE(children.isEmpty());
+    EXPECT_EQ(children[0][QStringLiteral("name")].toString(), "code") << "largest first";
+    EXPECT_EQ(children[0][QStringLiteral("kind")].toString(), "developer");
+}

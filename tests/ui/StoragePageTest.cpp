@@ -116,3 +116,18 @@ TEST_F(StoragePageTest, LargeFoldersListTheReportAndTheHeaderFollowsTheAnalysis)
     EXPECT_EQ(row->text(3), "75%");
     EXPECT_EQ(row->text(4), "Developer");
 }
+
+TEST_F(StoragePageTest, ALargeFolderSaysWhenStorageShowsItWhole)
+{
+    StorageReport withTree = report();
+    withTree.tree = {"a", 0, 0, 0, 0, StorageBucket::other, {{"code", 0, 0, 0, 0, StorageBucket::developer,
+        {{"node_modules", 700'000'000, 9'000, 0, 700'000'000, StorageBucket::developer, {}}}}}};
+    ModelFixture whole({}, QStringLiteral("/Users/a"), [withTree](AppModel::Services& services) {
+        services.analyzeStorage = [withTree](const StorageAnalyzer::Request&) { return std::optional(withTree); };
+    });
+    LargeFoldersPage page(&whole.model());
+    whole.model().startStorageAnalysis();
+    ASSERT_TRUE(waitUntil([&] { return page.list()->topLevelItemCount() == 1; }));
+    EXPECT_EQ(page.list()->topLevelItem(0)->toolTip(1),
+              "400 MB without the large folders listed inside it; the whole folder holds 700 MB, as Storage shows.");
+}

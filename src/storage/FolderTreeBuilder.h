@@ -1,0 +1,38 @@
+#pragma once
+
+#include "storage/FolderNode.h"
+
+#include <vector>
+
+// Builds the folder tree of one walk, bottom-up as folders are left. Memory stays bounded: once
+// twice `nodesKept` folders are held, the smallest are folded into their parents until fewer
+// than `nodesKept` remain, and from then on a folder no larger than the last one folded is
+// folded as it is left; the finished tree holds fewer than `nodesKept`. Not thread-safe; one
+// walk owns it.
+class FolderTreeBuilder {
+public:
+    explicit FolderTreeBuilder(qsizetype nodesKept);
+
+    void enterFolder();
+    // `node` is the folder just left, without children: it gets those kept since it was entered.
+    void leaveFolder(FolderNode node);
+    // The walk's root is a file: it belongs to the folder that holds the root.
+    void addRootFile(qint64 bytes);
+    // The folder that holds the walk's root, with the root as its one child (or the root file
+    // in its own bytes). Folders still open (a stopped walk) are left out.
+    [[nodiscard]] FolderNode finish() &&;
+
+private:
+    struct Level {
+        std::vector<FolderNode> children;
+        qint64 foldedBytes = 0;
+    };
+
+    void fold();
+
+    qsizetype m_nodesKept;
+    qsizetype m_held = 0;
+    qint64 m_floor = -1;  // a folder of at most these bytes is folded
+    std::vector<Level> m_levels;  // the first one holds the root
+    FolderNode m_top;
+};

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QStringList>
+#include <QWidget>
+
+class AppModel;
+class QLabel;
+class QTreeWidget;
+class QTreeWidgetItem;
+class SizeBarDelegate;
+class Sunburst;
+
+// The Storage screen's map of folders: a breadcrumb of where the person is, the sunburst of the
+// measured folders, and beside it what the folder in the middle holds: its sub-folders largest
+// first, then the largest files found below it. Each row has the storage row menu; choosing a
+// sub-folder zooms into it. Follows the model's storage report; GUI thread only.
+class StorageFolders : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit StorageFolders(AppModel* model, QWidget* parent = nullptr);
+
+    Sunburst* sunburst() const { return m_sunburst; }
+    QLabel* breadcrumb() const { return m_breadcrumb; }
+    QTreeWidget* contents() const { return m_contents; }
+    // The full path of the folder in the middle.
+    QString currentPath() const;
+
+private:
+    void refresh();
+    void showZoom(const QStringList& names);
+    void refreshBreadcrumb(const QStringList& names);
+    void refreshContents();
+    void addFileRows(const QString& folder);
+    QTreeWidgetItem* addRow(const QString& name, qint64 bytes, const QString& files, const QString& path, bool folder);
+    void rowChosen(QTreeWidgetItem* item);
+    void showMenu(const QPoint& at);
+
+    AppModel* m_model;
+    QLabel* m_breadcrumb;
+    Sunburst* m_sunburst;
+    QTreeWidget* m_contents;
+    SizeBarDelegate* m_bars;
+};
