@@ -1,5 +1,6 @@
 #pragma once
 
+#include "report/CleanOptions.h"
 #include "vocabulary/CategoryID.h"
 
 #include <QList>
@@ -9,18 +10,21 @@
 #include <optional>
 
 // The report tool's command line: scan [--home DIR] [--root DIR]... [--category RAW]... [--json],
-// or storage [--home DIR] [--json].
+// storage [--home DIR] [--json], or clean with the scan's options and its own (CleanOptions).
 struct ReportOptions {
-    enum class Command { scan, storage };
+    enum class Command { scan, storage, clean };
 
     Command command = Command::scan;
     std::optional<QString> home;
     QStringList roots;
-    QList<CategoryID> categories;  // empty: every category
+    QList<CategoryID> categories;  // empty: every category (clean needs at least one)
     bool json = false;
+    CleanOptions clean;
 
     // Parses the arguments after the program name. On failure returns absent and sets
-    // `error` to a one-line message.
+    // `error` to a one-line message. A --home or --root must be a folder that can be read.
     static std::optional<ReportOptions> parse(const QStringList& arguments, QString* error);
     static QString usage();
+    // Whether the arguments ask for the help page (help, --help or -h anywhere).
+    static bool asksForHelp(const QStringList& arguments);
 };
