@@ -2,6 +2,7 @@
 
 #include "format/ByteCount.h"
 #include "format/WholeNumber.h"
+#include "report/ScanReport.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -10,11 +11,6 @@
 #include <algorithm>
 
 namespace {
-
-QString rowTitle(const CleanupItem& item)
-{
-    return item.badge ? item.title + QStringLiteral("  [") + *item.badge + QLatin1Char(']') : item.title;
-}
 
 }  // namespace
 
@@ -106,7 +102,7 @@ QByteArray CleanReport::toText() const
     QTextStream stream(&out);
     for (const Row& row : rows) {
         stream << ByteCount::format(row.item.size).rightJustified(10) << "  " << rawOutcome(row.outcome).leftJustified(13)
-               << ' ' << Categories::rawValue(row.item.category).leftJustified(13) << ' ' << rowTitle(row.item) << '\n';
+               << ' ' << Categories::rawValue(row.item.category).leftJustified(13) << ' ' << ScanReport::titleWithBadge(row.item) << '\n';
         if (!row.reason.isEmpty())
             stream << QString(40, QLatin1Char(' ')) << row.reason << '\n';
     }

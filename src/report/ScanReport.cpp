@@ -75,6 +75,11 @@ QJsonObject toJson(const Results& results, const QString& home)
     return QJsonObject{{QStringLiteral("version"), 1}, {QStringLiteral("categories"), categories}};
 }
 
+QString titleWithBadge(const CleanupItem& item)
+{
+    return item.badge ? item.title + QStringLiteral("  (") + *item.badge + QLatin1Char(')') : item.title;
+}
+
 QByteArray toText(const Results& results, const QString& home)
 {
     QByteArray out;
@@ -87,10 +92,7 @@ QByteArray toText(const Results& results, const QString& home)
             stream << "  ! " << note << '\n';
         for (const CleanupItem& item : result.items) {
             stream << "  " << ByteCount::format(item.size).rightJustified(10) << "  "
-                   << Safeties::title(item.safety(home)).leftJustified(7) << ' ' << item.title;
-            // Two rows of one title (node_modules of two projects) are told apart by the badge.
-            if (item.badge)
-                stream << "  (" << *item.badge << ')';
+                   << Safeties::title(item.safety(home)).leftJustified(7) << ' ' << titleWithBadge(item);
             if (item.lockedReason)
                 stream << "  [" << *item.lockedReason << ']';
             stream << "\n              " << RelativeDate::expand(item.detail) << '\n';
