@@ -251,6 +251,7 @@ TEST_F(CleanCli, NeverRemovesWhileAnotherCleanupDoes)
     waiting.start(QStringLiteral(DUSTLARK_CLI), clean(arguments + QStringList{"--wait"}));
     for (int second = 0; second < 60 && !waiting.readAllStandardError().contains("Waiting"); ++second)
         waiting.waitForReadyRead(1'000);
+    ASSERT_EQ(waiting.state(), QProcess::Running) << "clean --wait did not wait";
     ::kill(static_cast<pid_t>(waiting.processId()), SIGINT);
     const CliRun stopped = finish(waiting);
     EXPECT_EQ(stopped.exitCode, 1);
