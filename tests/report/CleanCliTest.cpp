@@ -174,6 +174,21 @@ TEST_F(CleanCli, TheDryRunListsExactlyWhatTheRealRunMovesToTheTrash)
     EXPECT_EQ(stats.stats().history.first().movedToTrash, qint64(real.json()[QStringLiteral("freed")].toDouble()));
 }
 
+// The app keeps its statistics open while the tool records a cleanup into them; the app's next
+// record keeps the tool's.
+TEST_F(CleanCli, TheAppsNextRecordKeepsTheToolsCleanup)
+{
+    QSettings settings(QStringLiteral("Dustlark"), QStringLiteral("Dustlark"));
+    StatsStore app(&settings);
+    settings.sync();  // as the app's event loop does soon after every change
+    const qint64 before = app.stats().cleanups;
+    const CliRun run = runCli(clean({"--category", "projects", "--yes"}));
+    ASSERT_EQ(run.exitCode, 0) << run.standardError.constData();
+    app.recordCleanup(1000, 0, 1);
+    EXPECT_EQ(app.stats().cleanups, before + 2);
+    EXPECT_EQ(app.stats().history.value(1).items, 2);
+}
+
 TEST_F(CleanCli, FiltersPickRowsBySizeIdDateAndLabel)
 {
     for (const char* path : {"home/code/web/package.json", "home/code/web/node_modules/left-pad/index.js",
