@@ -69,17 +69,12 @@ TEST(CleanOnAnotherDisk, MovesIntoThatDisksTrash)
     TempTree tree;
     const QString home = tree.dir("home");
     const QString disk = tree.dir("disk");
-    const QString script = QStringLiteral(
-        "mount -t tmpfs dustlark-test \"$1\" || exit 77; echo MOUNTED; "
-        "exec \"$2\" --gtest_also_run_disabled_tests --gtest_filter=MountedCleanFolder.*");
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(homeVariable, home);
     environment.insert(diskVariable, disk);
-    const auto run = runInPrivateMount(script, disk, environment);
-    if (!run)
-        GTEST_SKIP() << "mounting a tmpfs in a private namespace needs root and unshare(1)";
-    if (!run->mounted)
-        GTEST_SKIP() << "this system does not allow a private tmpfs mount: " << qPrintable(run->error);
+    const auto run = runOnPrivateTmpfs(disk, QStringLiteral("MountedCleanFolder.*"), environment);
+    if (const QString why = whyNotMounted(run); !why.isEmpty())
+        GTEST_SKIP() << qPrintable(why);
 
     // The home's row went to the home's trash, the second disk's row to that disk's own.
     EXPECT_EQ(run->report().toStdString(), "exit=0 outcomes=moved:,moved: disk-trash=node_modules home-trash=node_modules")
