@@ -33,6 +33,7 @@ AppModel::Services AppModel::defaultServices()
     services.removeItem = [](const CleanupItem& item, const RemovalEnvironment& environment) {
         return Remover::remove(item, environment);
     };
+    services.cleanupLockPath = CleanupLock::defaultPath();
     services.emptyTrash = [](const FreedesktopTrash::EmptyProgress& progress, const CancellationToken& stop) {
         return SystemAccess::emptyTrash(progress, &stop);
     };

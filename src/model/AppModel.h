@@ -2,6 +2,7 @@
 
 #include "actions/FreedesktopTrash.h"
 #include "actions/Mover.h"
+#include "model/CleanupLock.h"
 #include "model/CleanupSession.h"
 #include "model/MoveSession.h"
 #include "model/ScanTask.h"
@@ -57,6 +58,9 @@ public:
         // Removes one item for good or to the Trash in the environment the cleanup was prepared
         // with; runs on the cleanup's worker thread.
         std::function<CleanupSession::Outcome(const CleanupItem&, const RemovalEnvironment&)> removeItem;
+        // The lock file a cleanup holds while it removes, so the report tool's cleanup and this
+        // one never remove at once.
+        QString cleanupLockPath;
         // Empties the Trash, reporting items removed of the total where the system tells and
         // stopping between items once the token is cancelled; the message to show when it ended
         // early. Runs on a worker thread.
@@ -145,6 +149,8 @@ public:
     CleanupSession* lastRunCleanup() const { return m_lastRunCleanup.get(); }
     // Opens a session over the selection, leaving out items another selected item removes.
     void prepareCleanup();
+    // Starts the confirmed session; while another cleanup removes files (the report tool's), it
+    // stays unconfirmed and a toast says why.
     void startCleanup();
     void stopCleanup();
     // Closes the sheet: a finished session stays readable as lastRunCleanup.
@@ -230,7 +236,6 @@ private:
     QUuid m_fullScanId;                                  // null when no full scan runs
     std::map<QUuid, RunningScan> m_scans;                // the full scan and every rescan
     void runCleanup(CleanupSession* session, QList<CleanupItem> items, QList<CleanupItem> copies, QString home);
-    bool removeOne(CleanupSession* session, const CleanupItem& item, const QList<CleanupItem>& copies);
     void finishCleanup(std::optional<qint64> freeAfter);
     void joinCleanupThread();
     void trashEmptied(const std::optional<QString>& failure);
@@ -251,6 +256,7 @@ private:
     std::unique_ptr<CleanupSession> m_cleanup;
     std::unique_ptr<CleanupSession> m_lastRunCleanup;
     std::thread m_cleanupThread;
+    std::optional<CleanupLock> m_cleanupLock;  // held while the session runs
     std::function<void()> m_quitCompletion;
     TrashState m_trash;
     CancellationToken m_trashStop;    // the running emptying's; a new one for each

@@ -1,8 +1,8 @@
 // The cleanup session of AppModel: one worker thread removes the items one at a time and
 // reports each step back to the GUI thread, where the results and the session change.
-#include "actions/TargetCheck.h"
 #include "machinery/Background.h"
 #include "model/AppModel.h"
+#include "model/CleanupRun.h"
 #include "model/SelectionIndex.h"
 #include "model/SettingsStore.h"
 #include "model/StatsStore.h"
@@ -13,49 +13,11 @@
 #include <algorithm>
 #include <atomic>
 
-namespace {
-
-// Whether the copy's every file is still on disk as the scan saw it.
-bool isOnDisk(const CleanupItem& copy)
-{
-    const auto trash = copy.removal.as<Removal::Trash>();
-    return trash && !trash->targets.isEmpty()
-        && std::all_of(trash->targets.begin(), trash->targets.end(),
-                       [](const FileTarget& target) { return TargetCheck::isAsScanned(target); });
-}
-
-// Why a duplicate copy must stay: no other copy of its group stays listed, or none of those is
-// still on disk as the scan saw it (moved, deleted or rewritten outside the app). Read from the
-// disk right before the copy goes.
-std::optional<QString> lastCopyReason(const CleanupItem& item, const QList<CleanupItem>& copies)
-{
-    if (Selection::wouldLoseLastCopy(item, copies))
-        //: Why a duplicate was not removed: every other copy is gone or being removed
-        return AppModel::tr("It's the last copy of this file, so it was kept.");
-    if (!item.duplicateGroup)
-        return std::nullopt;
-    for (const CleanupItem& other : copies) {
-        if (other.id != item.id && other.duplicateGroup == item.duplicateGroup && isOnDisk(other))
-            return std::nullopt;
-    }
-    //: Why a duplicate was not removed: the other copies were moved or changed outside Dustlark
-    return AppModel::tr("The other copies are gone, so this is the last one. It was kept.");
-}
-
-}  // namespace
-
 void AppModel::prepareCleanup()
 {
     if (isBusyScanning() || m_cleanup || m_move)
         return;
-    const QList<CleanupItem> selected = selectedItems();
-    const SelectionIndex index(selected);
-    QList<CleanupItem> items;
-    for (int i = 0; i < selected.size(); ++i) {
-        if (!index.covering(i))
-            items.append(selected[i]);
-    }
-    m_cleanup = std::make_unique<CleanupSession>(items, RemovalEnvironment::system(m_settings->home(), m_settings->scanRoots()));
+    m_cleanup = std::make_unique<CleanupSession>(SelectionIndex::uncovered(selectedItems()), RemovalEnvironment::system(m_settings->home(), m_settings->scanRoots()));
     emit cleanupChanged();
 }
 
@@ -63,6 +25,12 @@ void AppModel::startCleanup()
 {
     if (!m_cleanup || m_cleanup->phase() != CleanupSession::Phase::confirming)
         return;
+    QString busy;
+    m_cleanupLock = CleanupLock::acquire(m_services.cleanupLockPath, &busy);
+    if (!m_cleanupLock) {
+        showToast(busy);
+        return;
+    }
     joinCleanupThread();
     m_cleanup->setPhase(CleanupSession::Phase::running);
     CleanupSession* session = m_cleanup.get();
@@ -79,39 +47,32 @@ void AppModel::runCleanup(CleanupSession* session, QList<CleanupItem> items, QLi
 {
     const std::optional<qint64> freeBefore = m_services.readSystemState(home).freeBytes;
     QMetaObject::invokeMethod(this, [session, freeBefore] { session->setFreeBefore(freeBefore); }, Qt::QueuedConnection);
-    for (const CleanupItem& item : items) {
-        if (session->stopRequested()) {
-            QMetaObject::invokeMethod(this, [session] { session->setStopped(); }, Qt::QueuedConnection);
-            break;
-        }
-        if (removeOne(session, item, copies))
-            copies.removeIf([&](const CleanupItem& copy) { return copy.id == item.id; });
-    }
+    CleanupRun::Steps steps;
+    steps.stopRequested = [session] { return session->stopRequested(); };
+    steps.starting = [this, session](const CleanupItem& item) {
+        QMetaObject::invokeMethod(this, [session, name = ItemName::of(item, session->environment().home)] { session->setCurrent(name); },
+                                  Qt::QueuedConnection);
+    };
+    steps.finished = [this, session](const CleanupItem& item, const CleanupSession::Outcome& outcome) {
+        QMetaObject::invokeMethod(this, [this, session, item, outcome] {
+            session->record(item, outcome);
+            if (outcome.succeeded())
+                removeFromResults(item);
+            else if (m_selection.remove(item.id))
+                emit selectionChanged();  // a row that stays after its failure is not ticked for the next cleanup
+        }, Qt::QueuedConnection);
+    };
+    if (CleanupRun::run(items, std::move(copies), session->environment(), m_services.removeItem, steps))
+        QMetaObject::invokeMethod(this, [session] { session->setStopped(); }, Qt::QueuedConnection);
     const std::optional<qint64> freeAfter = m_services.readSystemState(home).freeBytes;
     QMetaObject::invokeMethod(this, [this, freeAfter] { finishCleanup(freeAfter); }, Qt::QueuedConnection);
-}
-
-bool AppModel::removeOne(CleanupSession* session, const CleanupItem& item, const QList<CleanupItem>& copies)
-{
-    QMetaObject::invokeMethod(this, [session, name = ItemName::of(item, session->environment().home)] { session->setCurrent(name); },
-                              Qt::QueuedConnection);
-    const std::optional<QString> kept = lastCopyReason(item, copies);
-    const CleanupSession::Outcome outcome = kept ? CleanupSession::Outcome::failed(*kept)
-                                                 : m_services.removeItem(item, session->environment());
-    QMetaObject::invokeMethod(this, [this, session, item, outcome] {
-        session->record(item, outcome);
-        if (outcome.succeeded())
-            removeFromResults(item);
-        else if (m_selection.remove(item.id))
-            emit selectionChanged();  // a row that stays after its failure is not ticked for the next cleanup
-    }, Qt::QueuedConnection);
-    return outcome.succeeded();
 }
 
 void AppModel::finishCleanup(std::optional<qint64> freeAfter)
 {
     CleanupSession* session = m_cleanup.get();
     joinCleanupThread();
+    m_cleanupLock.reset();
     session->setFreeAfter(freeAfter);
     m_stats->recordCleanup(session->movedToTrash(), session->removedByTools(), session->removedCount());
     if (session->removedCount() > 0)

@@ -31,18 +31,14 @@ void AppModel::removeLoneCopies()
     const auto found = m_results.find(CategoryID::duplicates);
     if (found == m_results.end())
         return;
-    QHash<QString, int> counts;
-    for (const CleanupItem& item : found->second.items) {
-        if (item.duplicateGroup)
-            ++counts[*item.duplicateGroup];
-    }
+    const QSet<QString> lone = Selection::loneCopyIds(found->second.items);
     const qsizetype before = found->second.items.size();
     bool selectionChangedHere = false;
     found->second.items.removeIf([&](const CleanupItem& item) {
-        const bool lone = item.duplicateGroup && counts.value(*item.duplicateGroup) < 2;
-        if (lone)
-            selectionChangedHere |= m_selection.remove(item.id);
-        return lone;
+        if (!lone.contains(item.id))
+            return false;
+        selectionChangedHere |= m_selection.remove(item.id);
+        return true;
     });
     if (found->second.items.size() == before)
         return;

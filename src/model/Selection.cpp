@@ -72,16 +72,14 @@ bool Selection::setAll(const QList<CleanupItem>& items, bool selected)
         }
         return m_ids != before;
     }
-    // Rows not yet selected go first, so an already selected copy is what gets skipped when a
-    // group would otherwise lose its last unselected member.
+    // Rows already selected stay so; of the others the oldest copies are taken last, so when a
+    // group would lose its last unselected member, the oldest copy is the one left out.
     QList<CleanupItem> ordered;
-    for (const CleanupItem& item : items) {
-        if (!m_ids.contains(item.id))
-            ordered.append(item);
-    }
-    for (const CleanupItem& item : items) {
-        if (m_ids.contains(item.id))
-            ordered.append(item);
+    for (const bool oldest : {false, true}) {
+        for (const CleanupItem& item : items) {
+            if (!m_ids.contains(item.id) && item.isOldestCopy == oldest)
+                ordered.append(item);
+        }
     }
     for (const CleanupItem& item : ordered) {
         if (canSelect(item) && !isLastUnselectedCopy(item))
@@ -96,6 +94,21 @@ bool Selection::clear()
         return false;
     m_ids.clear();
     return true;
+}
+
+QSet<QString> Selection::loneCopyIds(const QList<CleanupItem>& duplicates)
+{
+    QHash<QString, int> counts;
+    for (const CleanupItem& item : duplicates) {
+        if (item.duplicateGroup)
+            ++counts[*item.duplicateGroup];
+    }
+    QSet<QString> lone;
+    for (const CleanupItem& item : duplicates) {
+        if (item.duplicateGroup && counts.value(*item.duplicateGroup) < 2)
+            lone.insert(item.id);
+    }
+    return lone;
 }
 
 void Selection::indexDuplicates(const QList<CleanupItem>& duplicates)

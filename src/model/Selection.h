@@ -31,11 +31,14 @@ public:
     [[nodiscard]] static bool wouldLoseLastCopy(const CleanupItem& item, const QList<CleanupItem>& remaining);
 
     bool set(const CleanupItem& item, bool selected);
-    // Selects every row it may (the last unselected copy of a group stays out), or deselects
-    // every unlocked row.
+    // Selects every row it may, or deselects every unlocked row. One copy of every duplicate
+    // group stays out: the oldest copy unless the person picked it before, since that is the
+    // one people think of as the original.
     bool setAll(const QList<CleanupItem>& items, bool selected);
     bool remove(const QString& id) { return m_ids.remove(id); }
     bool clear();
+    // The ids of the duplicates rows whose group has no other row left: no longer duplicates.
+    [[nodiscard]] static QSet<QString> loneCopyIds(const QList<CleanupItem>& duplicates);
     // Learns the duplicate groups from the rows of the duplicates list.
     void indexDuplicates(const QList<CleanupItem>& duplicates);
 

@@ -39,3 +39,14 @@ std::optional<int> SelectionIndex::covering(int index) const
     }
     return first;
 }
+
+QList<CleanupItem> SelectionIndex::uncovered(const QList<CleanupItem>& selected)
+{
+    const SelectionIndex index(selected);
+    QList<CleanupItem> items;
+    for (int i = 0; i < selected.size(); ++i) {
+        if (!index.covering(i))
+            items.append(selected[i]);
+    }
+    return items;
+}

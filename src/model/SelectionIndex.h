@@ -18,6 +18,9 @@ public:
     // of those paths or a parent folder of them (walking up, stopping before "/").
     std::optional<int> covering(int index) const;
 
+    // What a cleanup of `selected` removes, in their order: every item no other one covers.
+    [[nodiscard]] static QList<CleanupItem> uncovered(const QList<CleanupItem>& selected);
+
 private:
     std::optional<int> coveringPath(const QString& path, int self) const;
 

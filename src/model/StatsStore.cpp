@@ -196,8 +196,15 @@ void StatsStore::didChange()
     emit statsChanged();
 }
 
+void StatsStore::reload()
+{
+    m_settings->sync();
+    load();
+}
+
 void StatsStore::recordScan(const QDateTime& started, const std::map<CategoryID, CategoryResult>& results)
 {
+    reload();
     ScanSummary scan;
     for (const auto& [category, result] : results) {
         scan.categorySizes.insert(Categories::rawValue(category), result.totalSize());
@@ -213,6 +220,7 @@ void StatsStore::recordCleanup(qint64 movedToTrash, qint64 removedByTools, qint6
 {
     if (items < 1)
         return;
+    reload();
     const CleanupRecord record{QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper(), m_clock(),
                                movedToTrash, removedByTools, items};
     m_stats.cleanedBytes += movedToTrash + removedByTools;
@@ -226,6 +234,7 @@ void StatsStore::recordCleanup(qint64 movedToTrash, qint64 removedByTools, qint6
 
 void StatsStore::recordStorage(const QMap<QString, qint64>& totals, qint64 notMeasured)
 {
+    reload();
     m_stats.lastStorage = StorageSummary{m_clock(), totals, notMeasured};
     didChange();
 }

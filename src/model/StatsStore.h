@@ -93,6 +93,9 @@ signals:
 
 private:
     void load();
+    // Every record starts from what is stored: the report tool's clean records into the same
+    // store while the app runs, and the app's next save must not drop that.
+    void reload();
     void didChange();
 
     QSettings* m_settings;

@@ -5,7 +5,9 @@
 #include "history/HistoryStore.h"
 #include "model/HistoryEntry.h"
 #include "model/SettingsStore.h"
+#include "report/CleanCommand.h"
 #include "report/HistoryReport.h"
+#include "report/ReportHelp.h"
 #include "report/StorageReportOutput.h"
 #include "report/ScanRunner.h"
 #include "scan/ScannerCatalog.h"
@@ -28,6 +30,15 @@ QString standardized(const QString& path)
     return QDir::cleanPath(QDir(path).absolutePath());
 }
 
+QList<CategoryID> askedCategories(const ReportOptions& options)
+{
+    if (!options.categories.isEmpty())
+        return options.categories;
+    return QList<CategoryID>(Categories::allCases().begin(), Categories::allCases().end());
+}
+
+}  // namespace
+
 ScanContext makeContext(const ReportOptions& options, const Protection& protection)
 {
     ScanContext context;
@@ -41,15 +52,6 @@ ScanContext makeContext(const ReportOptions& options, const Protection& protecti
     context.safeFolders = QSet<QString>(protection.safeFolders.begin(), protection.safeFolders.end());
     return context;
 }
-
-QList<CategoryID> askedCategories(const ReportOptions& options)
-{
-    if (!options.categories.isEmpty())
-        return options.categories;
-    return QList<CategoryID>(Categories::allCases().begin(), Categories::allCases().end());
-}
-
-}  // namespace
 
 Protection storedProtection(QSettings* settings)
 {
@@ -124,6 +126,11 @@ int run(const QStringList& arguments)
         std::printf("%s\n", qPrintable(versionLine()));
         return 0;
     }
+    if (ReportOptions::asksForHelp(arguments)) {
+        const QByteArray page = ReportHelp::page().toUtf8();
+        std::fwrite(page.constData(), 1, static_cast<size_t>(page.size()), stdout);
+        return 0;
+    }
     QString error;
     const auto options = ReportOptions::parse(arguments, &error);
     if (!options) {
@@ -136,7 +143,10 @@ int run(const QStringList& arguments)
         return HistoryReport::run(*options, HistoryStore::defaultPath());
     // With --home the fixture home stands alone: the person's Safe List does not apply.
     QSettings settings(QStringLiteral("Dustlark"), QStringLiteral("Dustlark"));
+    settings.setFallbacksEnabled(false);
     const Protection protection = options->home ? Protection{} : storedProtection(&settings);
+    if (options->command == ReportOptions::Command::clean)
+        return CleanCommand::run(*options, protection, &settings);
     const QDateTime started = QDateTime::currentDateTimeUtc();
     const ScanReport::Results results = scan(*options, protection);
     const QString home = standardized(options->home.value_or(QDir::homePath()));

@@ -21,6 +21,10 @@ struct Protection {
 // The person's stored scan folders and Safe List, read through the settings store.
 Protection storedProtection(QSettings* settings);
 
+// The scan's context: the home (--home, else the person's), the --roots (else --home, else the
+// stored scan folders), the stored safe folders.
+ScanContext makeContext(const ReportOptions& options, const Protection& protection);
+
 ScanReport::Results scan(const ReportOptions& options, const Protection& protection);
 
 // The storage analysis of `options.home` (the person's home by default) with the volume's used

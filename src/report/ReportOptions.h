@@ -1,5 +1,6 @@
 #pragma once
 
+#include "report/CleanOptions.h"
 #include "vocabulary/CategoryID.h"
 
 #include <QList>
@@ -9,20 +10,24 @@
 #include <optional>
 
 // The report tool's command line: scan [--home DIR] [--root DIR]... [--category RAW]... [--json],
-// storage [--home DIR] [--json], either with --record, or history [--since DATE|last] [--json].
+// storage [--home DIR] [--json], either with --record; history [--since DATE|last] [--json];
+// or clean with the scan's options and its own (CleanOptions).
 struct ReportOptions {
-    enum class Command { scan, storage, history };
+    enum class Command { scan, storage, history, clean };
 
     Command command = Command::scan;
     std::optional<QString> home;
     QStringList roots;
-    QList<CategoryID> categories;  // empty: every category
+    QList<CategoryID> categories;  // empty: every category (clean needs at least one)
     bool json = false;
     bool record = false;           // scan, storage: add the result to the scan history
     std::optional<QString> since;  // history: "last" or a date; absent lists the kept scans
+    CleanOptions clean;
 
     // Parses the arguments after the program name. On failure returns absent and sets
-    // `error` to a one-line message.
+    // `error` to a one-line message. A --home or --root must be a folder that can be read.
     static std::optional<ReportOptions> parse(const QStringList& arguments, QString* error);
     static QString usage();
+    // Whether the arguments ask for the help page (help, --help or -h anywhere).
+    static bool asksForHelp(const QStringList& arguments);
 };

@@ -2,7 +2,9 @@
 
 #include "format/ByteCount.h"
 #include "format/RelativeDate.h"
+#include "format/WholeNumber.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QTextStream>
 
@@ -19,6 +21,15 @@ CategoryResult resultFor(const Results& results, CategoryID category)
 {
     const auto found = results.find(category);
     return found == results.end() ? CategoryResult{} : found->second;
+}
+
+QString itemCount(qsizetype count)
+{
+    if (count == 1)
+        //: The number of rows of a category in the report tool's table
+        return QCoreApplication::translate("ScanReport", "1 item");
+    //: The number of rows of a category in the report tool's table; %1 is the number
+    return QCoreApplication::translate("ScanReport", "%1 items").arg(WholeNumber::format(count));
 }
 
 }  // namespace
@@ -61,7 +72,12 @@ QJsonObject toJson(const Results& results, const QString& home)
         object[QStringLiteral("items")] = items;
         categories.append(object);
     }
-    return QJsonObject{{QStringLiteral("categories"), categories}};
+    return QJsonObject{{QStringLiteral("version"), 1}, {QStringLiteral("categories"), categories}};
+}
+
+QString titleWithBadge(const CleanupItem& item)
+{
+    return item.badge ? item.title + QStringLiteral("  (") + *item.badge + QLatin1Char(')') : item.title;
 }
 
 QByteArray toText(const Results& results, const QString& home)
@@ -70,13 +86,13 @@ QByteArray toText(const Results& results, const QString& home)
     QTextStream stream(&out);
     for (CategoryID category : Categories::allCases()) {
         const CategoryResult result = resultFor(results, category);
-        stream << Categories::title(category) << "  (" << CategoryResult::rawState(result.state)
-               << ", " << ByteCount::format(result.totalSize()) << ")\n";
+        stream << Categories::title(category) << "  (" << CategoryResult::rawState(result.state) << ", "
+               << itemCount(result.items.size()) << ", " << ByteCount::format(result.totalSize()) << ")\n";
         for (const QString& note : result.notes)
             stream << "  ! " << note << '\n';
         for (const CleanupItem& item : result.items) {
             stream << "  " << ByteCount::format(item.size).rightJustified(10) << "  "
-                   << Safeties::title(item.safety(home)).leftJustified(7) << ' ' << item.title;
+                   << Safeties::title(item.safety(home)).leftJustified(7) << ' ' << titleWithBadge(item);
             if (item.lockedReason)
                 stream << "  [" << *item.lockedReason << ']';
             stream << "\n              " << RelativeDate::expand(item.detail) << '\n';

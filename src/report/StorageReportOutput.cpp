@@ -1,6 +1,7 @@
 #include "report/StorageReportOutput.h"
 
 #include "format/ByteCount.h"
+#include "format/WholeNumber.h"
 
 #include <QJsonArray>
 #include <QTextStream>
@@ -73,7 +74,8 @@ QJsonObject toJson(const StorageReport& report)
     QJsonArray large;
     for (const StorageReport::LargeFolder& folder : report.largeFolders)
         large.append(largeFolderToJson(folder));
-    return {{QStringLiteral("date"), report.date.toUTC().toString(Qt::ISODate)},
+    return {{QStringLiteral("version"), 1},
+            {QStringLiteral("date"), report.date.toUTC().toString(Qt::ISODate)},
             {QStringLiteral("diskUsed"), number(report.diskUsed)},
             {QStringLiteral("measured"), number(report.measured())},
             {QStringLiteral("notMeasured"), number(report.notMeasured())},
@@ -100,7 +102,7 @@ QByteArray toText(const StorageReport& report)
     }
     stream << "\nLarge folders of small files\n";
     for (const StorageReport::LargeFolder& folder : report.largeFolders) {
-        stream << ByteCount::format(folder.bytes).rightJustified(10) << "  " << QString::number(folder.fileCount).rightJustified(8)
+        stream << ByteCount::format(folder.bytes).rightJustified(10) << "  " << WholeNumber::format(folder.fileCount).rightJustified(10)
                << " files  " << StorageBuckets::title(folder.kind) << "  " << folder.path << '\n';
     }
     stream.flush();

@@ -8,7 +8,7 @@
 // How the report tool prints a storage report: one JSON object, or a readable table.
 namespace StorageReportOutput {
 
-// {"date","diskUsed","measured","notMeasured","measuredWithFullDiskAccess","notes",
+// {"version":1,"date","diskUsed","measured","notMeasured","measuredWithFullDiskAccess","notes",
 //  "buckets":[{"id","title","bytes","folders":[{"path","bytes","fileCount","files":[{"path","bytes"}],
 //  "subfolders":{SUBPATH:{"bytes","fileCount"}}}]}], "largeFolders":[{"path","bytes","fileCount","smallBytes","kind"}],
 //  "tree":{"name","bytes","fileCount","ownBytes","foldedBytes","kind","children":[...]}}

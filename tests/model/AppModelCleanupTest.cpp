@@ -1,4 +1,5 @@
 #include "actions/Remover.h"
+#include "model/CleanupLock.h"
 #include "support/ModelFixture.h"
 #include "support/TempTree.h"
 #include "support/Wait.h"
@@ -314,4 +315,34 @@ TEST(AppModelCleanup, AStorageReportMeasuredBeforeACleanupIsOutOfDateUntilMeasur
     model.startStorageAnalysis();
     ASSERT_TRUE(waitUntil([&] { return !model.isAnalyzingStorage(); }));
     EXPECT_FALSE(model.isStorageOutdated());
+}
+
+// The report tool's clean and the app take the same lock: while another cleanup removes files,
+// Clean waits with a sentence and removes nothing; the lock is free again once a cleanup ends.
+TEST(AppModelCleanup, NeverRemovesWhileAnotherCleanupDoes)
+{
+    TempTree tree;
+    tree.file("Projects/app/node_modules/left-pad/index.js", 3000);
+    ModelFixture fixture({}, tree.root());
+    AppModel& model = fixture.model();
+    const CleanupItem folder = realRow(CategoryID::projects, tree, "Projects/app/node_modules", 8000);
+    show(model, CategoryID::projects, {folder});
+    model.setSelected(folder, true);
+    model.prepareCleanup();
+
+    QString reason;
+    auto other = CleanupLock::acquire(CleanupLock::defaultPath(), &reason);
+    ASSERT_TRUE(other) << qPrintable(reason);
+    model.startCleanup();
+    EXPECT_EQ(model.cleanup()->phase(), CleanupSession::Phase::confirming);
+    EXPECT_EQ(model.toast(), CleanupLock::busyReason());
+    EXPECT_TRUE(QFileInfo::exists(folder.id));
+
+    other.reset();
+    model.startCleanup();
+    ASSERT_TRUE(waitUntil([&] { return finished(model); }));
+    EXPECT_FALSE(QFileInfo::exists(folder.id));
+    bool busy = true;
+    EXPECT_TRUE(CleanupLock::acquire(CleanupLock::defaultPath(), &reason, &busy)) << qPrintable(reason);
+    EXPECT_FALSE(busy);
 }

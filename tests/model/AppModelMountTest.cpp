@@ -103,17 +103,12 @@ TEST(ScanFolderOnAnotherDisk, CleansAndMovesIntoThatDisksTrash)
     TempTree tree;
     const QString home = tree.dir("home");
     const QString disk = tree.dir("disk");
-    const QString script = QStringLiteral(
-        "mount -t tmpfs dustlark-test \"$1\" || exit 77; echo MOUNTED; "
-        "exec \"$2\" --gtest_also_run_disabled_tests --gtest_filter=MountedScanFolder.*");
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(homeVariable, home);
     environment.insert(diskVariable, disk);
-    const auto run = runInPrivateMount(script, disk, environment);
-    if (!run)
-        GTEST_SKIP() << "mounting a tmpfs in a private namespace needs root and unshare(1)";
-    if (!run->mounted)
-        GTEST_SKIP() << "this system does not allow a private tmpfs mount: " << qPrintable(run->error);
+    const auto run = runOnPrivateTmpfs(disk, QStringLiteral("MountedScanFolder.*"), environment);
+    if (const QString why = whyNotMounted(run); !why.isEmpty())
+        GTEST_SKIP() << qPrintable(why);
 
     // Both rows went to the second disk's own trash; nothing crossed to the home's.
     EXPECT_EQ(run->report().toStdString(), "offered=1 cleanup=[] move=[] trash=node_modules,node_modules.2 home-trash=")

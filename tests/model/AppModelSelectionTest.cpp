@@ -56,6 +56,33 @@ TEST(AppModelSelection, SelectAllKeepsOneCopyPerGroup)
     EXPECT_TRUE(model.selection().ids().isEmpty());
 }
 
+// The copy a person thinks of as the original is the one Select All leaves, wherever it stands
+// in the list and also when only some copies are shown; a copy picked by hand stays picked.
+TEST(AppModelSelection, SelectAllLeavesTheOldestCopyOfEachGroup)
+{
+    ModelFixture fixture;
+    AppModel& model = fixture.model();
+    QList<CleanupItem> items = {
+        copyAt("/Users/a/1.mov", "g1"), copyAt("/Users/a/2.mov", "g1"), copyAt("/Users/a/3.mov", "g1"),
+        copyAt("/Users/a/x.iso", "g2"), copyAt("/Users/a/y.iso", "g2"),
+        copyAt("/Users/a/p.pdf", "g3"), copyAt("/Users/a/q.pdf", "g3"),
+    };
+    items[1].isOldestCopy = true;
+    items[3].isOldestCopy = true;
+    items[6].isOldestCopy = true;
+    showDuplicates(model, items);
+
+    model.setAll({items[0], items[1], items[2], items[3], items[4], items[5]}, true);
+    EXPECT_EQ(model.selection().ids(), QSet<QString>({items[0].id, items[2].id, items[4].id, items[5].id}));
+
+    model.setAll(items, false);
+    model.setSelected(items[3], true);
+    model.setAll(items, true);
+    EXPECT_TRUE(model.selection().contains(items[3].id));
+    EXPECT_FALSE(model.selection().contains(items[4].id));
+    EXPECT_FALSE(model.selection().contains(items[1].id));
+}
+
 TEST(AppModelSelection, LockedAndEmptyTrashRowsStayUnselected)
 {
     ModelFixture fixture;

@@ -1,5 +1,6 @@
 #include "report/ReportOptions.h"
 #include "report/ScanReport.h"
+#include "format/WholeNumber.h"
 
 #include <QJsonArray>
 
@@ -18,6 +19,7 @@ TEST(ScanReport, EveryCategoryInOrderWithNullOptionals)
     ScanReport::Results results;
     results[CategoryID::packageCaches] = {CategoryResult::State::done, {item}, {"a note"}, std::nullopt};
 
+    EXPECT_EQ(ScanReport::toJson(results, "/h")["version"].toInt(), 1);
     const QJsonArray categories = ScanReport::toJson(results, "/h")["categories"].toArray();
     ASSERT_EQ(categories.size(), 22);
     for (int i = 0; i < 22; ++i)
@@ -36,14 +38,34 @@ TEST(ScanReport, EveryCategoryInOrderWithNullOptionals)
     EXPECT_FALSE(row["isOldestCopy"].toBool());
 }
 
+// Two rows of one title are told apart by their badges; counts carry the thousands separator
+// also in the plain C locale the tests run in.
+TEST(ScanReport, TheTableShowsBadgesAndCountsWithSeparators)
+{
+    CleanupItem web;
+    web.id = "/h/code/web/node_modules";
+    web.title = "node_modules";
+    web.badge = "web";
+    CleanupItem shop = web;
+    shop.id = "/h/code/shop/node_modules";
+    shop.badge = "shop";
+    ScanReport::Results results;
+    results[CategoryID::projects] = {CategoryResult::State::done, {web, shop}, {}, std::nullopt};
+    const QString text = QString::fromUtf8(ScanReport::toText(results, "/h"));
+    EXPECT_TRUE(text.contains("node_modules  (web)\n")) << qPrintable(text);
+    EXPECT_TRUE(text.contains("node_modules  (shop)\n")) << qPrintable(text);
+    EXPECT_TRUE(text.startsWith("Project Builds  (done, 2 items, ")) << qPrintable(text);
+    EXPECT_EQ(WholeNumber::format(1'234'567), "1,234,567");
+}
+
 TEST(ReportOptions, ParsesRepeatedOptionsAndRejectsBadInput)
 {
     QString error;
-    const auto options = ReportOptions::parse({"scan", "--home", "/h", "--root", "/a", "--root", "/b",
+    const auto options = ReportOptions::parse({"scan", "--home", "/tmp", "--root", "/", "--root", "/usr",
                                                "--category", "logs", "--json"}, &error);
     ASSERT_TRUE(options.has_value()) << error.toStdString();
-    EXPECT_EQ(options->home, "/h");
-    EXPECT_EQ(options->roots, QStringList({"/a", "/b"}));
+    EXPECT_EQ(options->home, "/tmp");
+    EXPECT_EQ(options->roots, QStringList({"/", "/usr"}));
     EXPECT_EQ(options->categories, QList<CategoryID>{CategoryID::logs});
     EXPECT_TRUE(options->json);
 

@@ -64,6 +64,7 @@ TEST(StorageCli, BucketTotalsMatchDuAndTheSmallFilesFolderIsListedOnce)
     int exitCode = -1;
     const QJsonObject report = QJsonDocument::fromJson(runCli({"storage", "--home", home, "--json"}, &exitCode)).object();
     ASSERT_EQ(exitCode, 0);
+    EXPECT_EQ(report[QStringLiteral("version")].toInt(), 1);
     qint64 sum = 0;
     qint64 previous = std::numeric_limits<qint64>::max();
     for (const QJsonValue& bucket : report[QStringLiteral("buckets")].toArray()) {

@@ -34,3 +34,21 @@ std::optional<PrivateMountRun> runInPrivateMount(const QString& script, const QS
     run.mounted = run.output.contains(QLatin1String("MOUNTED"));
     return run;
 }
+
+std::optional<PrivateMountRun> runOnPrivateTmpfs(const QString& mountPoint, const QString& innerFilter,
+                                                 const QProcessEnvironment& environment)
+{
+    const QString script = QStringLiteral("mount -t tmpfs dustlark-test \"$1\" || exit 77; echo MOUNTED; "
+                                          "exec \"$2\" --gtest_also_run_disabled_tests --gtest_filter=%1")
+                               .arg(innerFilter);
+    return runInPrivateMount(script, mountPoint, environment);
+}
+
+QString whyNotMounted(const std::optional<PrivateMountRun>& run)
+{
+    if (!run)
+        return QStringLiteral("mounting a tmpfs in a private namespace needs root and unshare(1)");
+    if (!run->mounted)
+        return QStringLiteral("this system does not allow a private tmpfs mount: ") + run->error;
+    return {};
+}

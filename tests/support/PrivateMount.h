@@ -21,3 +21,11 @@ struct PrivateMountRun {
 // Absent when this is not root or unshare(1) is missing.
 std::optional<PrivateMountRun> runInPrivateMount(const QString& script, const QString& argument,
                                                  const QProcessEnvironment& environment);
+
+// A tmpfs mounted at `mountPoint` in a private namespace, where this test program runs its
+// disabled tests that match `innerFilter` with `environment`.
+std::optional<PrivateMountRun> runOnPrivateTmpfs(const QString& mountPoint, const QString& innerFilter,
+                                                 const QProcessEnvironment& environment);
+
+// Why a test that needed the mount must skip; empty when it was mounted.
+QString whyNotMounted(const std::optional<PrivateMountRun>& run);
