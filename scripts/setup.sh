@@ -9,6 +9,9 @@ DEBIAN_PACKAGES=(qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-
     qt6-base-private-dev trash-cli exfatprogs exfat-fuse)  # trash-cli: the trash round trip; exFAT: a real exFAT disk for the mover tests
 # flatpak: the leftovers tests install and uninstall real Flatpak apps that the scan then reads
 DEBIAN_PACKAGES+=(flatpak)
+# dbus-daemon: a private session bus (dbus-run-session) for the notification tests; systemd:
+# systemd-analyze, which verifies the scheduled scan's timer and service
+DEBIAN_PACKAGES+=(dbus-daemon systemd)
 # clang: the stub compile check of the macOS code (scripts/check-mac.sh)
 DEBIAN_PACKAGES+=(clang)
 BREW_PACKAGES=(qt openssl@3 libplist googletest cmake pkg-config)
