@@ -4,6 +4,7 @@
 #include "actions/SystemAccess.h"
 #include "model/SettingsStore.h"
 #include "report/StorageReportOutput.h"
+#include "report/ScanNotices.h"
 #include "report/ScanRunner.h"
 #include "scan/ScannerCatalog.h"
 #include "update/UpdateChecker.h"
@@ -135,6 +136,9 @@ int run(const QStringList& arguments)
         ? QJsonDocument(ScanReport::toJson(results, home)).toJson(QJsonDocument::Indented)
         : ScanReport::toText(results, home);
     std::fwrite(out.constData(), 1, static_cast<size_t>(out.size()), stdout);
+    std::fflush(stdout);  // the report is out before a notification can take its seconds
+    if (options->notify)
+        ScanNotices::tellAfterScan(results, home, &settings);
     return 0;
 }
 

@@ -4,7 +4,7 @@
 
 QString ReportOptions::usage()
 {
-    return QStringLiteral("usage: dustlark-cli scan [--home DIR] [--root DIR]... [--category RAW]... [--json]"
+    return QStringLiteral("usage: dustlark-cli scan [--home DIR] [--root DIR]... [--category RAW]... [--json] [--notify]"
                           " | storage [--home DIR] [--json] | --version");
 }
 
@@ -21,6 +21,10 @@ std::optional<ReportOptions> ReportOptions::parse(const QStringList& arguments, 
         const QString& argument = arguments.at(i);
         if (argument == QLatin1String("--json")) {
             options.json = true;
+            continue;
+        }
+        if (argument == QLatin1String("--notify") && options.command == Command::scan) {
+            options.notify = true;
             continue;
         }
         // The storage analysis walks the whole home: scan folders and categories don't apply.

@@ -8,7 +8,7 @@
 
 #include <optional>
 
-// The report tool's command line: scan [--home DIR] [--root DIR]... [--category RAW]... [--json],
+// The report tool's command line: scan [--home DIR] [--root DIR]... [--category RAW]... [--json] [--notify],
 // or storage [--home DIR] [--json].
 struct ReportOptions {
     enum class Command { scan, storage };
@@ -18,6 +18,7 @@ struct ReportOptions {
     QStringList roots;
     QList<CategoryID> categories;  // empty: every category
     bool json = false;
+    bool notify = false;  // scan: tell the person what was found, and when the disk runs low
 
     // Parses the arguments after the program name. On failure returns absent and sets
     // `error` to a one-line message.
