@@ -5,11 +5,13 @@
 #include "ui/MainWindow.h"
 #include "ui/SettingsPage.h"
 #include "ui/SingleInstance.h"
+#include "ui/StatusItem.h"
 #include "update/UpdateChecker.h"
 #include "vocabulary/AppLanguage.h"
 
 #include <QApplication>
 #include <QSettings>
+#include <QStandardPaths>
 
 int main(int argc, char* argv[])
 {
@@ -46,6 +48,12 @@ int main(int argc, char* argv[])
     auto* settingsPage = new SettingsPage(&settingsStore, &settings);
     settingsPage->showUpdates(&model);
     window.setSettingsPage(settingsPage);
+    StatusItem statusItem(&model, NoticeLog(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)), Notifier::Delivery{});
+    QObject::connect(&statusItem, &StatusItem::openRequested, &window, [&window] {
+        window.choose(SidebarDestination::screen(SidebarDestination::Kind::overview));
+        window.bringToFront();
+    });
+    QObject::connect(&statusItem, &StatusItem::quitRequested, &window, &MainWindow::requestQuit);
     window.show();
     QObject::connect(&instance, &SingleInstance::activationRequested, &window, &MainWindow::bringToFront);
     return app.exec();
