@@ -11,6 +11,9 @@ DEBIAN_PACKAGES=(qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-
 DEBIAN_PACKAGES+=(flatpak)
 # the scan history: Qt SQL's SQLite driver (Qt's Sql headers come with qt6-base-dev)
 DEBIAN_PACKAGES+=(libqt6sql6-sqlite)
+# dbus-daemon: a private session bus (dbus-run-session) for the notification tests; systemd:
+# systemd-analyze, which verifies the scheduled scan's timer and service
+DEBIAN_PACKAGES+=(dbus-daemon systemd)
 # clang: the stub compile check of the macOS code (scripts/check-mac.sh)
 DEBIAN_PACKAGES+=(clang)
 BREW_PACKAGES=(qt openssl@3 libplist googletest cmake pkg-config)

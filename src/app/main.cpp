@@ -5,8 +5,10 @@
 #include "ui/MainWindow.h"
 #include "ui/SettingsPage.h"
 #include "ui/SingleInstance.h"
+#include "ui/StatusItem.h"
 #include "update/UpdateChecker.h"
 #include "vocabulary/AppLanguage.h"
+#include "vocabulary/SystemPlaces.h"
 
 #include <QApplication>
 #include <QSettings>
@@ -46,6 +48,12 @@ int main(int argc, char* argv[])
     auto* settingsPage = new SettingsPage(&settingsStore, &settings);
     settingsPage->showUpdates(&model);
     window.setSettingsPage(settingsPage);
+    StatusItem statusItem(&model, NoticeLog(SystemPlaces::appDataFolder()), Notifier::Delivery{});
+    QObject::connect(&statusItem, &StatusItem::openRequested, &window, [&window] {
+        window.choose(SidebarDestination::screen(SidebarDestination::Kind::overview));
+        window.bringToFront();
+    });
+    QObject::connect(&statusItem, &StatusItem::quitRequested, &window, &MainWindow::requestQuit);
     window.show();
     QObject::connect(&instance, &SingleInstance::activationRequested, &window, &MainWindow::bringToFront);
     return app.exec();

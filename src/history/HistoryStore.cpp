@@ -2,6 +2,7 @@
 
 #include "history/HistorySchema.h"
 #include "history/HistoryThinning.h"
+#include "vocabulary/SystemPlaces.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -9,7 +10,6 @@
 #include <QFileInfo>
 #include <QSqlError>
 #include <QSqlQuery>
-#include <QStandardPaths>
 #include <QUuid>
 #include <QVariant>
 
@@ -70,7 +70,7 @@ HistoryStore::~HistoryStore()
 
 QString HistoryStore::defaultPath()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QStringLiteral("/history.sqlite");
+    return SystemPlaces::appDataFolder() + QStringLiteral("/history.sqlite");
 }
 
 QSqlDatabase HistoryStore::database() const

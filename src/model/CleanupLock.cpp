@@ -1,11 +1,11 @@
 #include "model/CleanupLock.h"
 
 #include "vocabulary/SystemError.h"
+#include "vocabulary/SystemPlaces.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QStandardPaths>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -35,10 +35,7 @@ std::optional<CleanupLock> CleanupLock::acquire(const QString& path, QString* re
 
 QString CleanupLock::defaultPath()
 {
-    // Named here rather than by the asking program's name, so the app, the report tool and
-    // the test programs all meet at the same file.
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
-        + QStringLiteral("/Dustlark/Dustlark/cleanup.lock");
+    return SystemPlaces::appDataFolder() + QStringLiteral("/cleanup.lock");
 }
 
 QString CleanupLock::busyReason()

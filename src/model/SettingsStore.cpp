@@ -13,6 +13,8 @@ const QString safeItemsKey = QStringLiteral("ignoredItems");
 const QString safeFoldersKey = QStringLiteral("safeFolders");
 const QString safeItemInfoKey = QStringLiteral("safeItemInfo");
 const QString sizeFilterKey = QStringLiteral("sizeFilter");
+const QString freeSpaceWarningKey = QStringLiteral("freeSpaceWarning");
+const QString scanScheduleKey = QStringLiteral("scheduledScan");
 
 std::optional<QStringList> stringsOnly(const QVariantList& values)
 {
@@ -40,6 +42,12 @@ std::optional<int> wholeNumber(const QVariant& value)
     return static_cast<int>(number);
 }
 
+// A value that is text, else empty: a list holding one text is not that text.
+QString textOnly(const QVariant& value)
+{
+    return value.typeId() == QMetaType::QString ? value.toString() : QString();
+}
+
 }  // namespace
 
 SettingsStore::SettingsStore(QSettings* settings, const QString& home, QObject* parent)
@@ -61,6 +69,8 @@ void SettingsStore::load()
     if (info.typeId() == QMetaType::QByteArray)
         m_safeItemInfo = SafeItemInfo::decodeAll(info.toByteArray());
     m_sizeFilter = wholeNumber(m_settings->value(sizeFilterKey)).value_or(0);
+    m_freeSpaceWarning = FreeSpaceWarnings::fromRawValue(textOnly(m_settings->value(freeSpaceWarningKey)));
+    m_scanSchedule = ScanSchedules::fromRawValue(textOnly(m_settings->value(scanScheduleKey)));
 }
 
 // QSettings hands back what the store holds: a native list, a list of variants, or, from an
@@ -167,6 +177,24 @@ void SettingsStore::setSizeFilterRaw(int raw)
     m_sizeFilter = raw;
     m_settings->setValue(sizeFilterKey, raw);
     emit sizeFilterChanged();
+}
+
+void SettingsStore::setFreeSpaceWarning(FreeSpaceWarning warning)
+{
+    if (warning == m_freeSpaceWarning)
+        return;
+    m_freeSpaceWarning = warning;
+    m_settings->setValue(freeSpaceWarningKey, FreeSpaceWarnings::rawValue(warning));
+    emit watchChanged();
+}
+
+void SettingsStore::setScanSchedule(ScanSchedule schedule)
+{
+    if (schedule == m_scanSchedule)
+        return;
+    m_scanSchedule = schedule;
+    m_settings->setValue(scanScheduleKey, ScanSchedules::rawValue(schedule));
+    emit watchChanged();
 }
 
 void SettingsStore::safeListDidChange()

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "vocabulary/CleanupItem.h"
+#include "vocabulary/FreeSpaceWarning.h"
 #include "vocabulary/SafeItemInfo.h"
+#include "vocabulary/ScanSchedule.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -39,6 +41,9 @@ public:
     const QMap<QString, SafeItemInfo>& safeItemInfo() const { return m_safeItemInfo; }
     // The raw "sizeFilter" value (see SizeFilter); 0 when absent or not a whole number.
     int sizeFilterRaw() const { return m_sizeFilter; }
+    // "Warn me when free space falls below" and "Scan for me"; both off unless chosen.
+    FreeSpaceWarning freeSpaceWarning() const { return m_freeSpaceWarning; }
+    ScanSchedule scanSchedule() const { return m_scanSchedule; }
 
     // Dates new Safe List entries; the current time unless a test replaces it.
     void setClock(Clock clock) { m_clock = std::move(clock); }
@@ -54,6 +59,8 @@ public:
     void addSafeFolder(const QString& path);
     void removeSafeFolder(const QString& path);
     void setSizeFilterRaw(int raw);
+    void setFreeSpaceWarning(FreeSpaceWarning warning);
+    void setScanSchedule(ScanSchedule schedule);
 
     // True when the item is on the Safe List, or its project or any of its paths is at or
     // below a protected path.
@@ -66,6 +73,7 @@ signals:
     void scanRootsChanged();
     void safeListChanged();
     void sizeFilterChanged();
+    void watchChanged();  // the free-space warning or the scan schedule
 
 private:
     void load();
@@ -84,5 +92,7 @@ private:
     QStringList m_safeFolders;
     QMap<QString, SafeItemInfo> m_safeItemInfo;
     int m_sizeFilter = 0;
+    FreeSpaceWarning m_freeSpaceWarning = FreeSpaceWarning::off;
+    ScanSchedule m_scanSchedule = ScanSchedule::never;
     mutable std::optional<QStringList> m_protectedCache;
 };

@@ -1,7 +1,9 @@
 #include "platform/Platform.h"
+#include "platform/DesktopNotification.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QUuid>
 #include <QDir>
 #include <QFile>
 #include <QSysInfo>
@@ -403,6 +405,41 @@ bool showItemInFileManager(const QString& path)
         QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("ShowItems"));
     call << QStringList{QUrl::fromLocalFile(path).toString()} << QString();
     return bus.call(call, QDBus::Block, 3000).type() == QDBusMessage::ReplyMessage;
+}
+
+namespace {
+
+QDBusMessage notifyCall(const DesktopNotification& notification)
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("/org/freedesktop/Notifications"),
+        QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("Notify"));
+    QVariantMap hints;
+    hints.insert(QStringLiteral("desktop-entry"), notification.desktopEntry);
+    // "default" is the click on the notification itself; the desktop entry says what it opens.
+    const QStringList actions{QStringLiteral("default"), QString()};
+    call << notification.appName << quint32(0) << notification.desktopEntry << notification.summary
+         << notification.body << actions << hints << qint32(-1);
+    return call;
+}
+
+}  // namespace
+
+bool postDesktopNotification(const QString& busAddress, const DesktopNotification& notification)
+{
+    if (busAddress.isEmpty()) {
+        QDBusConnection bus = QDBusConnection::sessionBus();
+        return bus.isConnected() && bus.call(notifyCall(notification), QDBus::Block, 3000).type() == QDBusMessage::ReplyMessage;
+    }
+    // A private connection of its own, so concurrent callers never share one by name.
+    const QString name = QStringLiteral("dustlark-notify-") + QUuid::createUuid().toString(QUuid::WithoutBraces);
+    bool answered = false;
+    {
+        QDBusConnection bus = QDBusConnection::connectToBus(busAddress, name);
+        answered = bus.isConnected() && bus.call(notifyCall(notification), QDBus::Block, 3000).type() == QDBusMessage::ReplyMessage;
+    }
+    QDBusConnection::disconnectFromBus(name);
+    return answered;
 }
 
 }  // namespace Platform

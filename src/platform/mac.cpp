@@ -1,4 +1,5 @@
 #include "platform/Platform.h"
+#include "platform/DesktopNotification.h"
 
 #include <QFile>
 #include <QTimeZone>
@@ -362,6 +363,11 @@ Desktop desktop()
 bool showItemInFileManager(const QString&)
 {
     return false;  // Finder is asked with `open -R` (SystemAccess::revealCommand)
+}
+
+bool postDesktopNotification(const QString&, const DesktopNotification&)
+{
+    return false;  // osascript's `display notification` (Notifier::appleScriptCommand)
 }
 
 }  // namespace Platform

@@ -9,6 +9,7 @@
 #include "report/HistoryReport.h"
 #include "report/ReportHelp.h"
 #include "report/StorageReportOutput.h"
+#include "report/ScanNotices.h"
 #include "report/ScanRunner.h"
 #include "scan/ScannerCatalog.h"
 #include "update/UpdateChecker.h"
@@ -154,9 +155,11 @@ int run(const QStringList& arguments)
         ? QJsonDocument(ScanReport::toJson(results, home)).toJson(QJsonDocument::Indented)
         : ScanReport::toText(results, home);
     std::fwrite(out.constData(), 1, static_cast<size_t>(out.size()), stdout);
-    std::fflush(stdout);
+    std::fflush(stdout);  // the report is out before a notification can take its seconds
     if (options->record)
         HistoryReport::record(HistoryEntry::fromScan(started, results, DiskSpace::current(home)), HistoryStore::defaultPath());
+    if (options->notify)
+        ScanNotices::tellAfterScan(results, home, &settings);
     return 0;
 }
 

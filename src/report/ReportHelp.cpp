@@ -27,6 +27,7 @@ QString categories()
 QString page()
 {
     QString text = QStringLiteral("dustlark-cli scan [--home DIR] [--root DIR]... [--category RAW]... [--json] [--record]\n"
+                                  "                  [--notify]\n"
                                   "dustlark-cli storage [--home DIR] [--json] [--record]\n"
                                   "dustlark-cli history [--since DATE|last] [--json]\n"
                                   "dustlark-cli clean --category RAW... (--dry-run | --yes) [--permanent] [--wait] [--json]\n"
@@ -57,6 +58,8 @@ QString page()
     text += entry(QStringLiteral("--json"), QCoreApplication::translate("ReportHelp", "Print one JSON object instead of a table."));
     //: Report tool help: the --record option of scan and storage
     text += entry(QStringLiteral("--record"), QCoreApplication::translate("ReportHelp", "scan, storage: add the result to the scan history, as the app does."));
+    //: Report tool help: the --notify option of scan
+    text += entry(QStringLiteral("--notify"), QCoreApplication::translate("ReportHelp", "scan: tell the desktop what was found, and when free space runs low."));
     //: Report tool help: the --since option of history; keep "last" as it is
     text += entry(QStringLiteral("--since DATE|last"), QCoreApplication::translate("ReportHelp", "history: what grew since the scan of that date (YYYY-MM-DD), or since the one before the newest (last)."));
     //: Report tool help: the --dry-run option of clean

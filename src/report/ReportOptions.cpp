@@ -108,7 +108,7 @@ bool isComplete(const ReportOptions& options, QString* error)
 QString ReportOptions::usage()
 {
     return QStringLiteral("usage: dustlark-cli scan [--home DIR] [--root DIR]... [--category RAW]... [--json]"
-                          " [--record] | storage [--home DIR] [--json] [--record] | history [--since DATE|last] [--json]"
+                          " [--record] [--notify] | storage [--home DIR] [--json] [--record] | history [--since DATE|last] [--json]"
                           " | clean --category RAW... (--dry-run | --yes) [OPTIONS]"
                           " | help | --version");
 }
@@ -132,6 +132,10 @@ std::optional<ReportOptions> ReportOptions::parse(const QStringList& arguments, 
         const QString& argument = arguments.at(i);
         if (argument == QLatin1String("--json")) {
             options.json = true;
+            continue;
+        }
+        if (argument == QLatin1String("--notify") && options.command == Command::scan) {
+            options.notify = true;
             continue;
         }
         if (takesFlagRecord(options.command, argument)) {

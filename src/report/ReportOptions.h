@@ -9,7 +9,7 @@
 
 #include <optional>
 
-// The report tool's command line: scan [--home DIR] [--root DIR]... [--category RAW]... [--json],
+// The report tool's command line: scan [--home DIR] [--root DIR]... [--category RAW]... [--json] [--notify],
 // storage [--home DIR] [--json], either with --record; history [--since DATE|last] [--json];
 // or clean with the scan's options and its own (CleanOptions).
 struct ReportOptions {

@@ -3,10 +3,12 @@
 #include "model/SettingsStore.h"
 #include "ui/PageLabels.h"
 #include "ui/UpdateBox.h"
+#include "ui/WatchSection.h"
 #include "ui/WindowRoom.h"
 
 #include <QAction>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -39,6 +41,9 @@ SettingsPage::SettingsPage(SettingsStore* settings, QSettings* preferences, QLis
     layout->addWidget(m_scanFolders);
     layout->addSpacing(12);
     layout->addWidget(makeLanguageSection());
+    layout->addSpacing(12);
+    m_watch = new WatchSection(settings, ScheduledScan::Place::current(QCoreApplication::applicationDirPath() + QStringLiteral("/dustlark-cli")), this);
+    layout->addWidget(m_watch);
     layout->addStretch(1);
 
     fillLanguagePicker(std::move(languages));

@@ -13,9 +13,11 @@ class QLabel;
 class QPushButton;
 class QSettings;
 class SettingsStore;
+class WatchSection;
 
 // The settings: the scan folders (never empty: the store falls back to the home folder) and
-// the interface language, which takes effect after a relaunch. GUI thread only.
+// the interface language, which takes effect after a relaunch; the free-space warning and the
+// scheduled scan. GUI thread only.
 class SettingsPage : public QWidget {
     Q_OBJECT
 
@@ -32,6 +34,7 @@ public:
     FolderListEditor* scanFolders() const { return m_scanFolders; }
     QComboBox* languagePicker() const { return m_languagePicker; }
     QPushButton* relaunchButton() const { return m_relaunchButton; }
+    WatchSection* watch() const { return m_watch; }
 
     // Adds the update check, which needs the model the page itself does not otherwise use.
     void showUpdates(AppModel* model);
@@ -57,5 +60,6 @@ private:
     QComboBox* m_languagePicker;
     QLabel* m_relaunchNote;
     QPushButton* m_relaunchButton;
+    WatchSection* m_watch = nullptr;
     std::function<bool()> m_relaunch = AppLanguage::relaunch;
 };

@@ -3,6 +3,7 @@
 #include "platform/Platform.h"
 
 #include <QFile>
+#include <QStandardPaths>
 
 namespace SystemPlaces {
 
@@ -29,6 +30,11 @@ QStringList systemTempFolders()
     if (!chosen.isEmpty())
         folders.append(QFile::decodeName(chosen));
     return folders;
+}
+
+QString appDataFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/Dustlark");
 }
 
 }  // namespace SystemPlaces

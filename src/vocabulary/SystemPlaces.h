@@ -16,4 +16,10 @@ namespace SystemPlaces {
 // (when set) on Linux.
 [[nodiscard]] QStringList systemTempFolders();
 
+// Where Dustlark keeps its own files (the scan history, the cleanup lock, the notices):
+// "~/Library/Application Support/Dustlark" on macOS, "$XDG_DATA_HOME/Dustlark" on Linux. Named
+// here, not by the asking program's name, so the app, the report tool and the tests all meet
+// at the same folder.
+[[nodiscard]] QString appDataFolder();
+
 }  // namespace SystemPlaces

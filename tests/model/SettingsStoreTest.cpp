@@ -202,4 +202,28 @@ TEST_F(SettingsStoreTest, AbsentAndWrongTypedKeysReadAsDefaults)
     EXPECT_EQ(reopened()->sizeFilterRaw(), 1000);
 }
 
+TEST_F(SettingsStoreTest, WatchSettingsStayOffUnlessChosenAndSurviveARelaunch)
+{
+    auto settings = store(file.settings());
+    EXPECT_EQ(settings->freeSpaceWarning(), FreeSpaceWarning::off);
+    EXPECT_EQ(settings->scanSchedule(), ScanSchedule::never);
+
+    settings->setFreeSpaceWarning(FreeSpaceWarning::fivePercent);
+    settings->setScanSchedule(ScanSchedule::monthly);
+    settings = reopened();
+    EXPECT_EQ(settings->freeSpaceWarning(), FreeSpaceWarning::fivePercent);
+    EXPECT_EQ(settings->scanSchedule(), ScanSchedule::monthly);
+
+    // A value this build does not know, or a one-text list from a native store, turns nothing on.
+    settings = store(file.withText("[General]\nfreeSpaceWarning=3%\nscheduledScan=hourly\n"));
+    EXPECT_EQ(settings->freeSpaceWarning(), FreeSpaceWarning::off);
+    EXPECT_EQ(settings->scanSchedule(), ScanSchedule::never);
+    QSettings* typed = file.withText(QByteArray());
+    typed->setValue(QStringLiteral("freeSpaceWarning"), QStringList{QStringLiteral("10%")});
+    typed->setValue(QStringLiteral("scheduledScan"), QStringList{QStringLiteral("weekly")});
+    settings = store(typed);
+    EXPECT_EQ(settings->freeSpaceWarning(), FreeSpaceWarning::off);
+    EXPECT_EQ(settings->scanSchedule(), ScanSchedule::never);
+}
+
 }  // namespace

@@ -100,12 +100,12 @@ TEST(HistoryCli, AGarbageHistoryFileIsKeptAsideAndANewOneStarted)
     TempTree tree;
     const QString home = tree.dir("home");
     const QString data = tree.dir("data");
-    tree.file("data/Dustlark/Dustlark/history.sqlite", QByteArray(4096, '\x07'));
+    tree.file("data/Dustlark/history.sqlite", QByteArray(4096, '\x07'));
 
     const CliRun run = cli({"scan", "--home", home, "--category", "trash", "--record"}, data);
     EXPECT_EQ(run.exitCode, 0);
     EXPECT_TRUE(run.error.contains(QStringLiteral("history.sqlite.damaged-"))) << qPrintable(run.error);
-    EXPECT_EQ(QDir(data + "/Dustlark/Dustlark").entryList({"history.sqlite.damaged-*"}, QDir::Files).size(), 1);
+    EXPECT_EQ(QDir(data + "/Dustlark").entryList({"history.sqlite.damaged-*"}, QDir::Files).size(), 1);
     const QJsonArray kept = QJsonDocument::fromJson(cli({"history", "--json"}, data).out).object()[QStringLiteral("scans")].toArray();
     EXPECT_EQ(kept.size(), 1);
 }
@@ -118,7 +118,7 @@ TEST(HistoryCli, AFullDiskPrintsTheScanAndSaysTheHistoryWasNotSaved)
     tree.dir("data");
     const QString script = QStringLiteral(
         "mount -t tmpfs -o size=64k dustlark-test \"$1/data\" || exit 77; echo MOUNTED; "
-        "mkdir -p \"$1/data/Dustlark/Dustlark\"; head -c 1000000 /dev/zero > \"$1/data/fill\" 2>/dev/null; "
+        "mkdir -p \"$1/data/Dustlark\"; head -c 1000000 /dev/zero > \"$1/data/fill\" 2>/dev/null; "
         "XDG_DATA_HOME=\"$1/data\" \"$DUSTLARK_TEST_CLI\" scan --home \"$1/home\" --category trash --record --json "
         "> \"$1/out\" 2> \"$1/err\"; status=$?; "
         "echo \"REPORT exit=$status json=$(head -c 1 \"$1/out\") $(cat \"$1/err\")\"");

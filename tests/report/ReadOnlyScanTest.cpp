@@ -4,42 +4,15 @@
 // its folders into the home (flatpak made ~/.local/share/flatpak and ~/.cache) is caught.
 #include "scan/ProjectScannerGit.h"
 #include "support/TempTree.h"
+#include "support/TreeSnapshot.h"
 
-#include <QDirIterator>
 #include <QFile>
 #include <QMap>
 #include <QProcess>
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 namespace {
-
-// Every entry under `root` (the root too, links not followed) with what a write would change:
-// kind and mode, size, modification and status-change times, inode and link count.
-QMap<QString, QString> entriesOf(const QString& root)
-{
-    QMap<QString, QString> entries;
-    QStringList paths{root};
-    QDirIterator it(root, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
-                    QDirIterator::Subdirectories);
-    while (it.hasNext())
-        paths.append(it.next());
-    for (const QString& path : paths) {
-        const QString relative = path.mid(root.size());
-        struct stat info {};
-        if (::lstat(QFile::encodeName(path).constData(), &info) != 0) {
-            entries.insert(relative, QStringLiteral("unreadable"));
-            continue;
-        }
-        entries.insert(relative, QStringLiteral("mode %1 size %2 mtime %3.%4 ctime %5.%6 inode %7 links %8")
-                                                  .arg(info.st_mode, 0, 8).arg(info.st_size)
-                                                  .arg(info.st_mtim.tv_sec).arg(info.st_mtim.tv_nsec)
-                                                  .arg(info.st_ctim.tv_sec).arg(info.st_ctim.tv_nsec)
-                                                  .arg(info.st_ino).arg(info.st_nlink));
-    }
-    return entries;
-}
 
 // Runs a full scan of `home` as the person's session would run it.
 void scanAsTheSession(const QString& home)
@@ -91,9 +64,9 @@ TEST(ReadOnlyScan, AFullScanLeavesAFixtureHomeAndAnEmptyHomeAsTheyWere)
     buildFixtureHome(tree);
     const QString empty = tree.dir("empty");
     for (const QString& home : {tree.path("home"), empty}) {
-        const QMap<QString, QString> before = entriesOf(home);
+        const QMap<QString, QString> before = treeSnapshot(home);
         scanAsTheSession(home);
-        const QMap<QString, QString> after = entriesOf(home);
+        const QMap<QString, QString> after = treeSnapshot(home);
         for (auto it = after.cbegin(); it != after.cend(); ++it)
             EXPECT_EQ(before.value(it.key(), "(new)").toStdString(), it.value().toStdString()) << qPrintable(home + it.key());
         for (auto it = before.cbegin(); it != before.cend(); ++it)

@@ -1,0 +1,56 @@
+#include "ui/WatchSection.h"
+
+#include "machinery/Background.h"
+#include "model/SettingsStore.h"
+#include "ui/PageLabels.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+WatchSection::WatchSection(SettingsStore* settings, ScheduledScan::Place place, QWidget* parent)
+    : QWidget(parent), m_settings(settings), m_place(std::move(place)), m_warningPicker(new QComboBox(this)),
+      m_schedulePicker(new QComboBox(this)), m_scheduleNote(PageLabels::note({}, this))
+{
+    for (FreeSpaceWarning warning : FreeSpaceWarnings::allCases())
+        m_warningPicker->addItem(FreeSpaceWarnings::title(warning), FreeSpaceWarnings::rawValue(warning));
+    m_warningPicker->setCurrentIndex(m_warningPicker->findData(FreeSpaceWarnings::rawValue(settings->freeSpaceWarning())));
+    for (ScanSchedule schedule : ScanSchedules::allCases())
+        m_schedulePicker->addItem(ScanSchedules::title(schedule), ScanSchedules::rawValue(schedule));
+    m_schedulePicker->setCurrentIndex(m_schedulePicker->findData(ScanSchedules::rawValue(settings->scanSchedule())));
+    m_scheduleNote->hide();
+
+    auto* rows = new QFormLayout;
+    //: Settings row: a notification when the disk's free space drops below the chosen amount
+    rows->addRow(tr("Warn me when free space falls below:"), m_warningPicker);
+    //: Settings row: a background scan on a schedule that only reports, never removes
+    rows->addRow(tr("Scan for me:"), m_schedulePicker);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    //: Heading of the free-space warning and the scheduled scan in the settings
+    layout->addWidget(PageLabels::heading(tr("Watch Quietly"), this));
+    //: Explanation of the free-space warning and the scheduled scan in the settings
+    layout->addWidget(PageLabels::note(tr("Dustlark tells you what it found or that space runs low. "
+                                          "It never selects or removes anything on its own."), this));
+    layout->addLayout(rows);
+    layout->addWidget(m_scheduleNote);
+
+    connect(m_warningPicker, &QComboBox::activated, this, [this](int index) {
+        m_settings->setFreeSpaceWarning(FreeSpaceWarnings::fromRawValue(m_warningPicker->itemData(index).toString()));
+    });
+    connect(m_schedulePicker, &QComboBox::activated, this, [this](int index) {
+        chooseSchedule(ScanSchedules::fromRawValue(m_schedulePicker->itemData(index).toString()));
+    });
+}
+
+void WatchSection::chooseSchedule(ScanSchedule schedule)
+{
+    m_settings->setScanSchedule(schedule);
+    Background::run(this, [schedule, place = m_place] { return ScheduledScan::apply(schedule, place).value_or(QString()); },
+                    [this](const QString& said) {
+                        m_scheduleNote->setText(said);
+                        m_scheduleNote->setVisible(!said.isEmpty());
+                        emit scheduleApplied(said);
+                    });
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "actions/ScheduledScan.h"
+
+#include <QWidget>
+
+class QComboBox;
+class QLabel;
+class SettingsStore;
+
+// The settings' "Watch quietly" rows: "Warn me when free space falls below" and "Scan for me",
+// both off until the person chooses. Choosing a schedule writes or removes the system's timer
+// for it off the GUI thread and shows what the system said. GUI thread only.
+class WatchSection : public QWidget {
+    Q_OBJECT
+
+public:
+    // `place` says where the schedule's files go and which report tool they run.
+    WatchSection(SettingsStore* settings, ScheduledScan::Place place, QWidget* parent = nullptr);
+
+    QComboBox* warningPicker() const { return m_warningPicker; }
+    QComboBox* schedulePicker() const { return m_schedulePicker; }
+    QLabel* scheduleNote() const { return m_scheduleNote; }
+
+signals:
+    // The system's timer was written or removed; `said` is empty when all went well.
+    void scheduleApplied(const QString& said);
+
+private:
+    void chooseSchedule(ScanSchedule schedule);
+
+    SettingsStore* m_settings;
+    ScheduledScan::Place m_place;
+    QComboBox* m_warningPicker;
+    QComboBox* m_schedulePicker;
+    QLabel* m_scheduleNote;
+};
