@@ -169,6 +169,21 @@
         <extracomment>AI prompt: what the answer about a list of rows should look like</extracomment>
         <translation>Antworte als Tabelle: Nummer, Objekt, Urteil (Entfernen / Behalten / Prüfen) und ein kurzer Grund. Bei „Prüfen“ sag genau, was zu prüfen ist (zum Beispiel, ob gespeicherte Passwörter anderswo synchronisiert sind). Liste danach die Nummern auf, die entfernt werden sollen.</translation>
     </message>
+    <message>
+        <source>Computer: %1</source>
+        <extracomment>AI prompt line on Linux. %1 names the distribution and the processor, e.g. &quot;Debian GNU/Linux 12 on Intel Core i5&quot;</extracomment>
+        <translation>Computer: %1</translation>
+    </message>
+    <message>
+        <source>I&apos;m cleaning up my Linux computer with Dustlark and want to know whether it&apos;s safe to remove this item.</source>
+        <extracomment>AI prompt&apos;s first line, about one row, on Linux</extracomment>
+        <translation>Ich räume meinen Linux-Computer mit Dustlark auf und möchte wissen, ob ich dieses Element gefahrlos entfernen kann.</translation>
+    </message>
+    <message>
+        <source>I&apos;m cleaning up my Linux computer with Dustlark. For each item below, tell me whether it&apos;s safe to remove.</source>
+        <extracomment>AI prompt&apos;s first line, about a list of rows, on Linux</extracomment>
+        <translation>Ich räume meinen Linux-Computer mit Dustlark auf. Sag mir zu jedem Element unten, ob ich es gefahrlos entfernen kann.</translation>
+    </message>
 </context>
 <context>
     <name>AIQuestions</name>
@@ -798,6 +813,51 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <extracomment>Explanation above the Trash list</extracomment>
         <translation>Dateien im Papierkorb belegen weiter Platz, bis der Papierkorb entleert wird.</translation>
     </message>
+    <message>
+        <source>Xcode runs only on Apple&apos;s own system, so this computer has none of its data. Its build data, archives and device support files would be listed here.</source>
+        <extracomment>Explanation above the Xcode list on Linux, where Xcode can&apos;t be installed</extracomment>
+        <translation>Xcode läuft nur auf Apples eigenem System, daher hat dieser Computer keine seiner Daten. Seine Build-Daten, Archive und Gerätesupport-Dateien würden hier stehen.</translation>
+    </message>
+    <message>
+        <source>iPhone and iPad simulators come with Xcode, which doesn&apos;t run on Linux, so this computer has none.</source>
+        <extracomment>Explanation above the Simulators list on Linux, where Xcode&apos;s simulators can&apos;t be installed</extracomment>
+        <translation>iPhone- und iPad-Simulatoren kommen mit Xcode, das nicht unter Linux läuft, daher hat dieser Computer keine.</translation>
+    </message>
+    <message>
+        <source>iPhone and iPad backups and downloaded iOS updates are made by Apple&apos;s own tools, which don&apos;t run on Linux, so this computer has none.</source>
+        <extracomment>Explanation above the iPhone &amp; iPad list on Linux, where no Apple tool makes device backups</extracomment>
+        <translation>iPhone- und iPad-Backups und geladene iOS-Updates machen Apples eigene Werkzeuge, die nicht unter Linux laufen, daher hat dieser Computer keine.</translation>
+    </message>
+    <message>
+        <source>Download caches of npm, Yarn, pip, Cargo and other tools, and the Rust toolchains and Python versions installed with rustup and pyenv. Caches are downloaded again when needed; a toolchain or Python comes back when you install it again. The Maven repository, pnpm store and browser test downloads take longer to get back.</source>
+        <extracomment>Explanation above the Package Caches list on Linux</extracomment>
+        <translation>Download-Caches von npm, Yarn, pip, Cargo und anderen Werkzeugen sowie die mit rustup und pyenv installierten Rust-Toolchains und Python-Versionen. Caches werden bei Bedarf erneut geladen; eine Toolchain oder ein Python kommt zurück, wenn du sie erneut installierst. Das Maven-Repository, der pnpm-Store und Browser-Test-Downloads brauchen länger, bis sie wieder da sind.</translation>
+    </message>
+    <message>
+        <source>What AI coding agents keep on this computer: Claude, ChatGPT and Codex, Cursor, Antigravity and Gemini, Qwen, Windsurf, Kiro, Trae, Cline and others. Session histories are what &quot;resume&quot; uses; anything changed in the last day is locked. Live databases and settings are never offered.</source>
+        <extracomment>Explanation above the AI Agents list on Linux; &quot;resume&quot; is the agents&apos; command to continue a session</extracomment>
+        <translation>Was KI-Coding-Agenten auf diesem Computer ablegen: Claude, ChatGPT und Codex, Cursor, Antigravity und Gemini, Qwen, Windsurf, Kiro, Trae, Cline und andere. Sitzungsverläufe nutzt „Fortsetzen“; alles, was sich am letzten Tag geändert hat, ist gesperrt. Laufende Datenbanken und Einstellungen werden nie angeboten.</translation>
+    </message>
+    <message>
+        <source>Apps kept as bundles in an Applications folder, removed together with their own data in your home folder, matched by the app&apos;s identifier. Running apps aren&apos;t offered. Apps from your distribution&apos;s packages or from Flatpak aren&apos;t listed here: remove those with your package manager or software centre.</source>
+        <extracomment>Explanation above the Applications list on Linux</extracomment>
+        <translation>Apps, die als Bundle in einem Programme-Ordner liegen, werden zusammen mit ihren eigenen Daten in deinem Benutzerordner entfernt, zugeordnet über die Kennung der App. Laufende Apps werden nicht angeboten. Apps aus den Paketen deiner Distribution oder aus Flatpak stehen nicht hier: Entferne sie mit deiner Paketverwaltung oder deinem Software-Center.</translation>
+    </message>
+    <message>
+        <source>Settings, caches and data in ~/.var/app from Flatpak apps that are no longer installed, grouped by app ID. If you plan to install an app again and want its settings back, keep its row. Not shown: anything changed in the last %1 days (something still uses it).</source>
+        <extracomment>Explanation above the leftovers list on Linux; %1 is a number of days</extracomment>
+        <translation>Einstellungen, Caches und Daten in ~/.var/app von Flatpak-Apps, die nicht mehr installiert sind, nach App-ID gruppiert. Wenn du eine App wieder installieren willst und ihre Einstellungen zurückhaben möchtest, behalte ihre Zeile. Nicht gezeigt: alles, was sich in den letzten %1 Tagen geändert hat (etwas nutzt es noch).</translation>
+    </message>
+    <message>
+        <source>Temporary data apps keep in ~/.cache and beside their settings in ~/.config to work faster. Apps recreate it; quit them before cleaning.</source>
+        <extracomment>Explanation above the App Caches list on Linux</extracomment>
+        <translation>Temporäre Daten, die Apps in ~/.cache und neben ihren Einstellungen in ~/.config ablegen, um schneller zu arbeiten. Apps legen sie neu an; beende sie vor dem Aufräumen.</translation>
+    </message>
+    <message>
+        <source>Temporary files apps and tools left in /tmp and /var/tmp, plus your own temp folders (~/tmp, ~/temp). Only items where nothing changed for days are shown, so running builds and agent sessions stay out.</source>
+        <extracomment>Explanation above the Temporary Files list on Linux</extracomment>
+        <translation>Temporäre Dateien, die Apps und Werkzeuge in /tmp und /var/tmp hinterlassen haben, dazu deine eigenen Temp-Ordner (~/tmp, ~/temp). Gezeigt wird nur, was sich seit Tagen nicht geändert hat, damit laufende Builds und Agent-Sitzungen draußen bleiben.</translation>
+    </message>
 </context>
 <context>
     <name>CategoryItemDelegate</name>
@@ -925,6 +985,90 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     </message>
 </context>
 <context>
+    <name>CleanCommand</name>
+    <message>
+        <source>Waiting for the other cleanup to finish…</source>
+        <extracomment>Said by clean --yes --wait while the app or another clean removes files</extracomment>
+        <translation>Warte, bis die andere Bereinigung fertig ist …</translation>
+    </message>
+    <message>
+        <source>Stopped before anything was removed.</source>
+        <extracomment>Said by clean --yes after Ctrl-C while it waited for another cleanup</extracomment>
+        <translation>Gestoppt, bevor etwas entfernt wurde.</translation>
+    </message>
+    <message>
+        <source>Stopped after the current item.</source>
+        <extracomment>Said by clean --yes after Ctrl-C; what was done is listed above</extracomment>
+        <translation>Nach dem aktuellen Element gestoppt.</translation>
+    </message>
+    <message>
+        <source>No item with the id &quot;%1&quot; was found.</source>
+        <extracomment>Said by clean when an --id names no row of the scanned categories; %1 is that id</extracomment>
+        <translation>Kein Element mit der ID „%1“ gefunden.</translation>
+    </message>
+    <message>
+        <source>Nothing to clean: no item passes the filters.</source>
+        <extracomment>Said by clean when no row of the asked categories passes the filters</extracomment>
+        <translation>Nichts zu bereinigen: Kein Element besteht die Filter.</translation>
+    </message>
+</context>
+<context>
+    <name>CleanPlan</name>
+    <message>
+        <source>Docker or Xcode would remove it for good, without the Trash. Add --permanent to include it.</source>
+        <extracomment>Why clean left a row out; keep the option as it is</extracomment>
+        <translation>Docker oder Xcode würde es endgültig entfernen, ohne Papierkorb. Gib --permanent an, um es einzuschließen.</translation>
+    </message>
+</context>
+<context>
+    <name>CleanReport</name>
+    <message>
+        <source>The cleanup was stopped before it got to this item.</source>
+        <extracomment>Why clean did not remove a row: the person stopped it (Ctrl-C) before it got there</extracomment>
+        <translation>Die Bereinigung wurde gestoppt, bevor sie bei diesem Element ankam.</translation>
+    </message>
+    <message>
+        <source>Would free %1 from 1 item.</source>
+        <extracomment>Last line of clean --dry-run; %1 is a size such as &quot;1.2 GB&quot;</extracomment>
+        <translation>Würde %1 aus 1 Element freigeben.</translation>
+    </message>
+    <message>
+        <source>Would free %1 from %2 items.</source>
+        <extracomment>Last line of clean --dry-run; %1 is a size such as &quot;1.2 GB&quot;, %2 the number of items</extracomment>
+        <translation>Würde %1 aus %2 Elementen freigeben.</translation>
+    </message>
+    <message>
+        <source>Freed %1 from 1 item.</source>
+        <extracomment>Last line of clean --yes; %1 is a size such as &quot;1.2 GB&quot;</extracomment>
+        <translation>%1 aus 1 Element freigegeben.</translation>
+    </message>
+    <message>
+        <source>Freed %1 from %2 items.</source>
+        <extracomment>Last line of clean --yes; %1 is a size such as &quot;1.2 GB&quot;, %2 the number of items</extracomment>
+        <translation>%1 aus %2 Elementen freigegeben.</translation>
+    </message>
+    <message>
+        <source>1 item couldn&apos;t be removed.</source>
+        <extracomment>Last lines of clean --yes, when one item failed (its reason is above)</extracomment>
+        <translation>1 Element konnte nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>%1 items couldn&apos;t be removed.</source>
+        <extracomment>Last lines of clean --yes; %1 is the number of items that failed (their reasons are above)</extracomment>
+        <translation>%1 Elemente konnten nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>1 item was left where it is.</source>
+        <extracomment>Last lines of clean, when one item stays (its reason is above)</extracomment>
+        <translation>1 Element blieb, wo es ist.</translation>
+    </message>
+    <message>
+        <source>%1 items were left where they are.</source>
+        <extracomment>Last lines of clean; %1 is the number of items that stay (their reasons are above)</extracomment>
+        <translation>%1 Elemente blieben, wo sie sind.</translation>
+    </message>
+</context>
+<context>
     <name>CleanerGroup</name>
     <message>
         <source>Developer</source>
@@ -951,7 +1095,7 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     <name>CleanupConfirmation</name>
     <message>
         <source>Move “%1” to the Trash?</source>
-        <extracomment>Title of the cleanup confirmation for one item that goes to the Trash; %1 is its name</extracomment>
+        <extracomment>Title of the cleanup confirmation for one item that goes to the Trash; %1 is its name, like &quot;node_modules in ~/Projects/app&quot;</extracomment>
         <translation>„%1“ in den Papierkorb legen?</translation>
     </message>
     <message numerus="yes">
@@ -981,6 +1125,19 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <source>Cancel</source>
         <extracomment>Button that closes the cleanup sheet without removing anything</extracomment>
         <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>CleanupLock</name>
+    <message>
+        <source>Dustlark couldn&apos;t open %1 (%2).</source>
+        <extracomment>Why a cleanup didn&apos;t start; %1 is the path of the lock file, %2 the system&apos;s reason</extracomment>
+        <translation>Dustlark konnte %1 nicht öffnen (%2).</translation>
+    </message>
+    <message>
+        <source>Another cleanup is removing files right now. Try again when it has finished.</source>
+        <extracomment>Why a cleanup didn&apos;t start: the app or the command-line tool is already removing files</extracomment>
+        <translation>Gerade entfernt eine andere Bereinigung Dateien. Versuche es erneut, wenn sie fertig ist.</translation>
     </message>
 </context>
 <context>
@@ -1033,7 +1190,7 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     </message>
     <message>
         <source>Free space after</source>
-        <extracomment>Results of a cleanup: free disk space after it ran</extracomment>
+        <extracomment>Results of a cleanup: free disk space after it ran (and after the Trash was emptied, once it is)</extracomment>
         <translation>Freier Platz danach</translation>
     </message>
     <message numerus="yes">
@@ -1064,6 +1221,16 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <extracomment>Results of a cleanup when files went to the Trash (Linux: the desktop&apos;s file manager)</extracomment>
         <translation>Dateien im Papierkorb belegen weiter Platz. Entleere den Papierkorb, um ihn freizugeben, oder prüfe sie vorher im Dateimanager.</translation>
     </message>
+    <message>
+        <source>Freed</source>
+        <extracomment>Results of a cleanup: the free space it gained, measured; what went to the Trash counts only once the Trash is emptied</extracomment>
+        <translation>Freigegeben</translation>
+    </message>
+    <message>
+        <source>None yet: the space comes back when the Trash is emptied</source>
+        <extracomment>Results of a cleanup, the freed space when everything went to the Trash on the same disk</extracomment>
+        <translation>Noch nichts: Der Platz kommt zurück, wenn der Papierkorb geleert wird</translation>
+    </message>
 </context>
 <context>
     <name>CleanupSession</name>
@@ -1082,7 +1249,7 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     </message>
     <message numerus="yes">
         <source>%n selected items are marked Risky: %1. They may hold data that exists nowhere else.</source>
-        <extracomment>Cleanup confirmation line; %n is the number of Risky items, %1 the first three titles, comma-separated</extracomment>
+        <extracomment>Cleanup confirmation line; %n is the number of Risky items, %1 the first three names, comma-separated</extracomment>
         <translation>
             <numerusform>%n ausgewähltes Objekt ist als „Riskant“ markiert: %1. Es kann Daten enthalten, die es sonst nirgends gibt.</numerusform>
             <numerusform>%n ausgewählte Objekte sind als „Riskant“ markiert: %1. Sie können Daten enthalten, die es sonst nirgends gibt.</numerusform>
@@ -1277,6 +1444,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <extracomment>Badge of a Docker volume</extracomment>
         <translation>Volume</translation>
     </message>
+    <message>
+        <source>Docker is set to use another computer. Dustlark cleans only Docker on this computer.</source>
+        <extracomment>Note in the Docker category on Linux</extracomment>
+        <translation>Docker ist auf einen anderen Computer eingestellt. Dustlark bereinigt nur Docker auf diesem Computer.</translation>
+    </message>
 </context>
 <context>
     <name>DuplicateFinder</name>
@@ -1318,6 +1490,184 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     </message>
 </context>
 <context>
+    <name>FreeSpaceWarning</name>
+    <message>
+        <source>Off</source>
+        <extracomment>Settings, &quot;Warn me when free space falls below&quot;: never warn</extracomment>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>5% of the disk</source>
+        <extracomment>Settings, &quot;Warn me when free space falls below&quot;: 5 percent of the disk</extracomment>
+        <translation>5 % des Laufwerks</translation>
+    </message>
+    <message>
+        <source>10% of the disk</source>
+        <extracomment>Settings, &quot;Warn me when free space falls below&quot;: 10 percent of the disk</extracomment>
+        <translation>10 % des Laufwerks</translation>
+    </message>
+    <message>
+        <source>20 GB</source>
+        <extracomment>Settings, &quot;Warn me when free space falls below&quot;: 20 gigabytes</extracomment>
+        <translation>20 GB</translation>
+    </message>
+    <message>
+        <source>50 GB</source>
+        <extracomment>Settings, &quot;Warn me when free space falls below&quot;: 50 gigabytes</extracomment>
+        <translation>50 GB</translation>
+    </message>
+</context>
+<context>
+    <name>GrewTheMost</name>
+    <message>
+        <source>Grew the most</source>
+        <extracomment>Heading of the list of folders that grew most since an earlier storage analysis</extracomment>
+        <translation>Am stärksten gewachsen</translation>
+    </message>
+    <message>
+        <source>since</source>
+        <extracomment>Before the choice of the earlier storage analysis to compare with</extracomment>
+        <translation>seit</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <extracomment>Column header of the &quot;Grew the most&quot; list: the folder</extracomment>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <extracomment>Column header of the &quot;Grew the most&quot; list: the kind of data the folder holds</extracomment>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <extracomment>Column header of the &quot;Grew the most&quot; list: how much it grew, such as &quot;+1.2 GB&quot;</extracomment>
+        <translation>Änderung</translation>
+    </message>
+    <message>
+        <source>No folder grew since then.</source>
+        <extracomment>The &quot;Grew the most&quot; list when no folder grew since the chosen analysis</extracomment>
+        <translation>Seitdem ist kein Ordner gewachsen.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>A choice of earlier storage analysis; %1 how long ago (&quot;3 days ago&quot;), %2 its date and time</extracomment>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryChart</name>
+    <message>
+        <source>Found to review: %1</source>
+        <extracomment>Legend of the Overview&apos;s chart; %1 the bytes found to review by the newest scan</extracomment>
+        <translation>Zum Prüfen gefunden: %1</translation>
+    </message>
+    <message>
+        <source>Disk used: %1</source>
+        <extracomment>Legend of the Overview&apos;s chart; %1 the disk&apos;s used space at the newest scan</extracomment>
+        <translation>Belegt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryDigest</name>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>One category in the Overview&apos;s change since the last scan: %1 its name, %2 its growth (&quot;Docker +900 MB&quot;)</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 since %2</source>
+        <extracomment>The Overview&apos;s change since the last scan; %1 the change (&quot;+3.2 GB&quot;), %2 when that scan was (&quot;3 days ago&quot;)</extracomment>
+        <translation>%1 seit %2</translation>
+    </message>
+    <message>
+        <source>%1 since %2: %3</source>
+        <extracomment>The Overview&apos;s change since the last scan; %1 the change (&quot;+3.2 GB&quot;), %2 when that scan was (&quot;3 days ago&quot;), %3 the categories that grew most</extracomment>
+        <translation>%1 seit %2: %3</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryReport</name>
+    <message>
+        <source>&quot;%1&quot; is neither &quot;last&quot; nor a date such as 2026-11-01.</source>
+        <extracomment>Error of the report tool; %1 is what followed --since</extracomment>
+        <translation>„%1“ ist weder „last“ noch ein Datum wie 2026-11-01.</translation>
+    </message>
+    <message>
+        <source>No scans are kept yet.</source>
+        <extracomment>The report tool&apos;s history when nothing was recorded yet</extracomment>
+        <translation>Noch sind keine Scans gespeichert.</translation>
+    </message>
+    <message>
+        <source>%1  scan     found %2, disk used %3</source>
+        <extracomment>A line of the report tool&apos;s history; %1 date, %2 bytes found to review, %3 disk used</extracomment>
+        <translation>%1  Scan     gefunden %2, belegt %3</translation>
+    </message>
+    <message>
+        <source>%1  storage  measured %2, disk used %3</source>
+        <extracomment>A line of the report tool&apos;s history; %1 date, %2 bytes measured, %3 disk used</extracomment>
+        <translation>%1  Speicher gemessen %2, belegt %3</translation>
+    </message>
+    <message>
+        <source>Fewer than two scans are kept, so there is nothing to compare yet.</source>
+        <extracomment>The report tool&apos;s history comparison with fewer than two kept scans</extracomment>
+        <translation>Weniger als zwei Scans sind gespeichert, daher gibt es noch nichts zu vergleichen.</translation>
+    </message>
+    <message>
+        <source>Scans of %1 and %2: %3</source>
+        <extracomment>Heading of the report tool&apos;s comparison; %1 and %2 are the two scans&apos; dates, %3 the change of the disk&apos;s used space</extracomment>
+        <translation>Scans vom %1 und %2: %3</translation>
+    </message>
+    <message>
+        <source>Categories:</source>
+        <extracomment>Heading of the categories in the report tool&apos;s comparison</extracomment>
+        <translation>Kategorien:</translation>
+    </message>
+    <message>
+        <source>Storage analyses of %1 and %2:</source>
+        <extracomment>Heading of the report tool&apos;s comparison of two storage analyses; %1 and %2 are their dates</extracomment>
+        <translation>Speicheranalysen vom %1 und %2:</translation>
+    </message>
+    <message>
+        <source>Kinds:</source>
+        <extracomment>Heading of the storage kinds in the report tool&apos;s comparison</extracomment>
+        <translation>Arten:</translation>
+    </message>
+    <message>
+        <source>Folders:</source>
+        <extracomment>Heading of the folders in the report tool&apos;s comparison</extracomment>
+        <translation>Ordner:</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryStore</name>
+    <message>
+        <source>The disk is full.</source>
+        <extracomment>Why the scan history could not be saved</extracomment>
+        <translation>Das Laufwerk ist voll.</translation>
+    </message>
+    <message>
+        <source>The scan history couldn&apos;t be opened.</source>
+        <extracomment>Shown when the scan history file can&apos;t be used at all</extracomment>
+        <translation>Der Scan-Verlauf konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The scan history was written by a newer version of Dustlark. It was kept as “%1” and a new history was started.</source>
+        <extracomment>Note after the scan history file turned out to come from a newer app; %1 is the name it was kept under</extracomment>
+        <translation>Der Scan-Verlauf wurde von einer neueren Version von Dustlark geschrieben. Er wurde als „%1“ behalten und ein neuer Verlauf begonnen.</translation>
+    </message>
+    <message>
+        <source>The scan history couldn&apos;t be read. It was kept as “%1” and a new history was started.</source>
+        <extracomment>Note after the scan history file turned out to be damaged; %1 is the name it was kept under</extracomment>
+        <translation>Der Scan-Verlauf konnte nicht gelesen werden. Er wurde als „%1“ behalten und ein neuer Verlauf begonnen.</translation>
+    </message>
+    <message>
+        <source>The scan history couldn&apos;t be saved. %1</source>
+        <extracomment>Shown beside the scan&apos;s results when its summary could not be added to the history; %1 says why</extracomment>
+        <translation>Der Scan-Verlauf konnte nicht gespeichert werden. %1</translation>
+    </message>
+</context>
+<context>
     <name>ImageInstall</name>
     <message>
         <source>the disk image holds no app</source>
@@ -1341,6 +1691,19 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <source>Some folders couldn&apos;t be read. Allow access when macOS asks.</source>
         <extracomment>Note above Installers when some folders of Downloads or Desktop can&apos;t be read</extracomment>
         <translation>Einige Ordner konnten nicht gelesen werden. Erlaube den Zugriff, wenn macOS fragt.</translation>
+    </message>
+    <message>
+        <source>Some folders couldn&apos;t be read: their permissions don&apos;t let you open them.</source>
+        <extracomment>Note above Installers on Linux when some folders of Downloads or Desktop can&apos;t be read</extracomment>
+        <translation>Einige Ordner konnten nicht gelesen werden: Ihre Zugriffsrechte erlauben dir nicht, sie zu öffnen.</translation>
+    </message>
+</context>
+<context>
+    <name>ItemName</name>
+    <message>
+        <source>%1 in %2</source>
+        <extracomment>How a sheet names a folder inside a project; %1 is the folder&apos;s name, %2 where it is, like &quot;~/Projects/app&quot;</extracomment>
+        <translation>%1 in %2</translation>
     </message>
 </context>
 <context>
@@ -1710,6 +2073,36 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <extracomment>Row title in the logs list: logs npm writes when a command fails</extracomment>
         <translation>npm-Debug-Protokolle</translation>
     </message>
+    <message>
+        <source>Cargo unpacked sources</source>
+        <extracomment>Row title in the package caches list: crate sources Cargo unpacked from its downloads</extracomment>
+        <translation>Entpackte Cargo-Quellen</translation>
+    </message>
+    <message>
+        <source>Unpacked again from Cargo&apos;s downloads on the next build</source>
+        <extracomment>Detail line of the Cargo unpacked sources row</extracomment>
+        <translation>Werden beim nächsten Build erneut aus Cargos Downloads entpackt</translation>
+    </message>
+    <message>
+        <source>Rust toolchain · </source>
+        <extracomment>Prefix of a row title in the package caches list; a Rust toolchain such as stable-x86_64-unknown-linux-gnu follows</extracomment>
+        <translation>Rust-Toolchain · </translation>
+    </message>
+    <message>
+        <source>Installed with rustup; `rustup toolchain install` brings it back</source>
+        <extracomment>Detail line of a Rust toolchain row; the command stays as it is</extracomment>
+        <translation>Mit rustup installiert; `rustup toolchain install` bringt sie zurück</translation>
+    </message>
+    <message>
+        <source>Python · </source>
+        <extracomment>Prefix of a row title in the package caches list; a Python version such as 3.11.4 follows</extracomment>
+        <translation>Python · </translation>
+    </message>
+    <message>
+        <source>Installed with pyenv, with the packages installed into it; `pyenv install` brings the Python back</source>
+        <extracomment>Detail line of a pyenv Python version row; the command stays as it is</extracomment>
+        <translation>Mit pyenv installiert, samt der darin installierten Pakete; `pyenv install` bringt das Python zurück</translation>
+    </message>
 </context>
 <context>
     <name>LargeFoldersPage</name>
@@ -1747,6 +2140,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <source>Folders that are big because they hold thousands of small files (each under 1 MB), such as package folders and caches. A folder inside a listed one is counted only once.</source>
         <extracomment>Explanation on the large folders screen</extracomment>
         <translation>Ordner, die groß sind, weil sie Tausende kleiner Dateien enthalten (jede unter 1 MB), etwa Paketordner und Caches. Ein Ordner in einem aufgeführten Ordner zählt nur einmal.</translation>
+    </message>
+    <message>
+        <source>%1 without the large folders listed inside it; the whole folder holds %2, as Storage shows.</source>
+        <extracomment>Tooltip of a large folder&apos;s size when the whole folder is larger; %1 is the size shown here, %2 the whole folder&apos;s size</extracomment>
+        <translation>%1 ohne die darin aufgeführten großen Ordner; der ganze Ordner enthält %2, wie „Speicher“ zeigt.</translation>
     </message>
 </context>
 <context>
@@ -1817,6 +2215,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <extracomment>Note above a category&apos;s list when some folders could not be read</extracomment>
         <translation>Einige Ordner konnten nicht gelesen werden. Gib Dustlark in den Einstellungen Festplattenvollzugriff, um sie einzubeziehen.</translation>
     </message>
+    <message>
+        <source>Some folders couldn&apos;t be read: their permissions don&apos;t let you open them.</source>
+        <extracomment>Note above a category&apos;s list on Linux when some folders could not be read</extracomment>
+        <translation>Einige Ordner konnten nicht gelesen werden: Ihre Zugriffsrechte erlauben dir nicht, sie zu öffnen.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1842,7 +2245,7 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     </message>
     <message>
         <source>Quit while Dustlark is working?</source>
-        <extracomment>Question when the app is asked to quit while a cleanup or a move changes files</extracomment>
+        <extracomment>Question when the app is asked to quit while a cleanup, a move or emptying the Trash changes files</extracomment>
         <translation>Beenden, während Dustlark arbeitet?</translation>
     </message>
     <message>
@@ -1864,11 +2267,6 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <source>Clean the selected items?</source>
         <extracomment>Question when another screen is chosen while items are selected</extracomment>
         <translation>Die ausgewählten Objekte bereinigen?</translation>
-    </message>
-    <message>
-        <source>%1 is selected here. Clean it now, or clear the selection and go on.</source>
-        <extracomment>Under &quot;Clean the selected items?&quot;; %1 names the selection, e.g. &quot;1.2 GB in 3 items&quot;</extracomment>
-        <translation>%1 ist hier ausgewählt. Bereinige es jetzt oder hebe die Auswahl auf und mach weiter.</translation>
     </message>
     <message>
         <source>Clean…</source>
@@ -1913,12 +2311,28 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <extracomment>Free space on the disk, in the toolbar; %1 is a size such as &quot;120.5 GB&quot;</extracomment>
         <translation>%1 verfügbar</translation>
     </message>
+    <message>
+        <source>File</source>
+        <comment>Linux menu</comment>
+        <extracomment>Menu of the app&apos;s commands on Linux, named as Linux desktops name it (German: &quot;Datei&quot;)</extracomment>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>You selected 1 item here (%1). Clean it now, or clear the selection and go on.</source>
+        <extracomment>Under &quot;Clean the selected items?&quot; with one item selected; %1 is its size, e.g. &quot;43 MB&quot;</extracomment>
+        <translation>Du hast hier 1 Element ausgewählt (%1). Bereinige es jetzt oder hebe die Auswahl auf und mach weiter.</translation>
+    </message>
+    <message>
+        <source>You selected %1 items here (%2). Clean them now, or clear the selection and go on.</source>
+        <extracomment>Under &quot;Clean the selected items?&quot;; %1 is the number of items, %2 their size, e.g. &quot;43 MB&quot;</extracomment>
+        <translation>Du hast hier %1 Elemente ausgewählt (%2). Bereinige sie jetzt oder hebe die Auswahl auf und mach weiter.</translation>
+    </message>
 </context>
 <context>
     <name>MoveDestinationPage</name>
     <message>
         <source>Move “%1” to another disk?</source>
-        <extracomment>Heading of the move sheet; %1 is the row&apos;s title</extracomment>
+        <extracomment>Heading of the move sheet; %1 names the row, like &quot;node_modules in ~/Projects/app&quot;</extracomment>
         <translation>„%1“ auf ein anderes Laufwerk bewegen?</translation>
     </message>
     <message>
@@ -1971,13 +2385,8 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     <name>MoveOutcomePage</name>
     <message>
         <source>“%1” was moved</source>
-        <extracomment>Heading of the move sheet after a move; %1 is the row&apos;s title</extracomment>
+        <extracomment>Heading of the move sheet after a move; %1 names the row, like &quot;node_modules in ~/Projects/app&quot;</extracomment>
         <translation>„%1“ wurde bewegt</translation>
-    </message>
-    <message>
-        <source>It is now at %1. The original is in the Trash.</source>
-        <extracomment>After a move: %1 is the new location; the original went to the Trash</extracomment>
-        <translation>Es liegt jetzt in %1. Das Original ist im Papierkorb.</translation>
     </message>
     <message>
         <source>The move didn&apos;t finish</source>
@@ -1989,12 +2398,17 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <extracomment>Button that closes the move sheet</extracomment>
         <translation>Fertig</translation>
     </message>
+    <message>
+        <source>It is now at %1. The original is in the Trash; its space comes back once the Trash is emptied.</source>
+        <extracomment>After a move: %1 is the new location; the original went to the Trash, which still holds its space</extracomment>
+        <translation>Es liegt jetzt unter %1. Das Original ist im Papierkorb; sein Platz kommt zurück, sobald der Papierkorb geleert wird.</translation>
+    </message>
 </context>
 <context>
     <name>MoveProgressPage</name>
     <message>
         <source>Moving “%1”…</source>
-        <extracomment>Heading of the move sheet while the copy runs; %1 is the row&apos;s title</extracomment>
+        <extracomment>Heading of the move sheet while the copy runs; %1 names the row, like &quot;node_modules in ~/Projects/app&quot;</extracomment>
         <translation>„%1“ wird bewegt …</translation>
     </message>
     <message>
@@ -2014,7 +2428,7 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     </message>
     <message>
         <source>%1 of %2</source>
-        <extracomment>Progress of a move; %1 bytes copied so far, %2 in all, e.g. &quot;1.2 GB of 4.5 GB&quot;</extracomment>
+        <extracomment>Progress of a move; %1 is how much of the item is copied, %2 its size, e.g. &quot;1.2 GB of 4.5 GB&quot;</extracomment>
         <translation>%1 von %2</translation>
     </message>
     <message>
@@ -2130,6 +2544,34 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     </message>
 </context>
 <context>
+    <name>Notice</name>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>Part of a notification: a category and its size, e.g. &quot;Docker 3.2 GB&quot;</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>Space you can review</source>
+        <extracomment>Title of the notification after a scheduled scan</extracomment>
+        <translation>Platz zum Prüfen</translation>
+    </message>
+    <message>
+        <source>Dustlark found %1 you can review: %2</source>
+        <extracomment>Notification after a scheduled scan; %1 is the total size, %2 the largest categories with their sizes, joined by &quot;, &quot;</extracomment>
+        <translation>Dustlark hat %1 zum Prüfen gefunden: %2</translation>
+    </message>
+    <message>
+        <source>Your disk is almost full</source>
+        <extracomment>Title of the notification when the disk runs low</extracomment>
+        <translation>Dein Laufwerk ist fast voll</translation>
+    </message>
+    <message>
+        <source>Only %1 (%2%) is left on your disk. Dustlark can show you what takes the space.</source>
+        <extracomment>Notification when the disk runs low; %1 is the free space (&quot;8.2 GB&quot;), %2 the whole percent of the disk it is</extracomment>
+        <translation>Nur noch %1 (%2 %) sind auf deinem Laufwerk frei. Dustlark kann dir zeigen, was den Platz belegt.</translation>
+    </message>
+</context>
+<context>
     <name>OldDownloadsScanner</name>
     <message>
         <source>last changed %1</source>
@@ -2145,6 +2587,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <source>Downloads couldn&apos;t be read. Allow access when macOS asks.</source>
         <extracomment>Note above Old Downloads when the Downloads folder can&apos;t be read</extracomment>
         <translation>„Downloads“ konnte nicht gelesen werden. Erlaube den Zugriff, wenn macOS fragt.</translation>
+    </message>
+    <message>
+        <source>Downloads couldn&apos;t be read: its permissions don&apos;t let you open it.</source>
+        <extracomment>Note above Old Downloads on Linux when the Downloads folder can&apos;t be read</extracomment>
+        <translation>Downloads konnte nicht gelesen werden: Seine Zugriffsrechte erlauben dir nicht, ihn zu öffnen.</translation>
     </message>
 </context>
 <context>
@@ -2218,11 +2665,6 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <translation>Datenschutz-Einstellungen öffnen …</translation>
     </message>
     <message>
-        <source>Cleaned in total</source>
-        <extracomment>Statistics caption under the bytes freed by all cleanups so far</extracomment>
-        <translation>Insgesamt bereinigt</translation>
-    </message>
-    <message>
         <source>Cleanups</source>
         <extracomment>Statistics caption under the number of cleanups so far</extracomment>
         <translation>Bereinigungen</translation>
@@ -2256,6 +2698,16 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <source>No full scan yet.</source>
         <extracomment>Overview statistics line before the first finished full scan</extracomment>
         <translation>Noch kein vollständiger Scan.</translation>
+    </message>
+    <message>
+        <source>Sent to the Trash or removed</source>
+        <extracomment>Statistics caption under the bytes all cleanups so far moved to the Trash or had Docker and Xcode remove</extracomment>
+        <translation>In den Papierkorb gelegt oder entfernt</translation>
+    </message>
+    <message>
+        <source>What cleanups moved to the Trash takes its space until the Trash is emptied; what Docker and Xcode removed is gone for good.</source>
+        <extracomment>Tooltip of the statistics figure of all cleanups so far</extracomment>
+        <translation>Was Bereinigungen in den Papierkorb gelegt haben, belegt Platz, bis der Papierkorb geleert wird; was Docker und Xcode entfernt haben, ist endgültig weg.</translation>
     </message>
 </context>
 <context>
@@ -2306,6 +2758,19 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <source>opened %1</source>
         <extracomment>Fact in a Large Files row&apos;s detail line; %1 is a relative date like &apos;3 months ago&apos;</extracomment>
         <translation>geöffnet %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders couldn&apos;t be read: their permissions don&apos;t let you open them.</source>
+        <extracomment>Note above Project Builds and Large Files on Linux; %n is the number of folders that couldn&apos;t be read</extracomment>
+        <translation>
+            <numerusform>%n Ordner konnte nicht gelesen werden: Seine Zugriffsrechte erlauben dir nicht, ihn zu öffnen.</numerusform>
+            <numerusform>%n Ordner konnten nicht gelesen werden: Ihre Zugriffsrechte erlauben dir nicht, sie zu öffnen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>changed %1</source>
+        <extracomment>Fact in a Large Files row&apos;s detail line when it was never opened after its last change; %1 is a relative date like &apos;3 months ago&apos;</extracomment>
+        <translation>geändert %1</translation>
     </message>
 </context>
 <context>
@@ -2490,6 +2955,134 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     </message>
 </context>
 <context>
+    <name>ReportHelp</name>
+    <message>
+        <source>Commands:</source>
+        <extracomment>Heading of the report tool&apos;s help page</extracomment>
+        <translation>Befehle:</translation>
+    </message>
+    <message>
+        <source>List what the scanners find, as the app shows it. Changes nothing.</source>
+        <extracomment>Report tool help: what the scan command does</extracomment>
+        <translation>Listet, was die Scanner finden, wie die App es zeigt. Ändert nichts.</translation>
+    </message>
+    <message>
+        <source>Show what takes the space of the home folder. Changes nothing.</source>
+        <extracomment>Report tool help: what the storage command does</extracomment>
+        <translation>Zeigt, was den Platz des Benutzerordners belegt. Ändert nichts.</translation>
+    </message>
+    <message>
+        <source>List the recorded scans, or with --since what grew since one of them.</source>
+        <extracomment>Report tool help: what the history command does</extracomment>
+        <translation>Listet die gespeicherten Scans oder mit --since, was seit einem davon gewachsen ist.</translation>
+    </message>
+    <message>
+        <source>Scan the categories, then move the rows that pass the filters to the Trash.</source>
+        <extracomment>Report tool help: what the clean command does</extracomment>
+        <translation>Scannt die Kategorien und legt dann die Zeilen, die die Filter bestehen, in den Papierkorb.</translation>
+    </message>
+    <message>
+        <source>Show this page.</source>
+        <extracomment>Report tool help: what the help command does</extracomment>
+        <translation>Zeigt diese Seite.</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <extracomment>Heading of the report tool&apos;s help page</extracomment>
+        <translation>Optionen:</translation>
+    </message>
+    <message>
+        <source>Scan DIR as the home folder, without the stored Safe List.</source>
+        <extracomment>Report tool help: the --home option</extracomment>
+        <translation>DIR als Benutzerordner scannen, ohne die gespeicherte Schutzliste.</translation>
+    </message>
+    <message>
+        <source>Scan DIR as a scan folder (repeat for more).</source>
+        <extracomment>Report tool help: the --root option</extracomment>
+        <translation>DIR als Scan-Ordner scannen (für mehr wiederholen).</translation>
+    </message>
+    <message>
+        <source>Only this category (repeat for more; names below).</source>
+        <extracomment>Report tool help: the --category option</extracomment>
+        <translation>Nur diese Kategorie (für mehr wiederholen; Namen unten).</translation>
+    </message>
+    <message>
+        <source>Print one JSON object instead of a table.</source>
+        <extracomment>Report tool help: the --json option</extracomment>
+        <translation>Ein JSON-Objekt statt einer Tabelle ausgeben.</translation>
+    </message>
+    <message>
+        <source>scan, storage: add the result to the scan history, as the app does.</source>
+        <extracomment>Report tool help: the --record option of scan and storage</extracomment>
+        <translation>scan, storage: das Ergebnis dem Scan-Verlauf hinzufügen, wie die App es tut.</translation>
+    </message>
+    <message>
+        <source>scan: tell the desktop what was found, and when free space runs low.</source>
+        <extracomment>Report tool help: the --notify option of scan</extracomment>
+        <translation>scan: dem Desktop sagen, was gefunden wurde und wann der freie Platz knapp wird.</translation>
+    </message>
+    <message>
+        <source>history: what grew since the scan of that date (YYYY-MM-DD), or since the one before the newest (last).</source>
+        <extracomment>Report tool help: the --since option of history; keep &quot;last&quot; as it is</extracomment>
+        <translation>history: was seit dem Scan dieses Datums (JJJJ-MM-TT) gewachsen ist, oder seit dem vor dem neuesten (last).</translation>
+    </message>
+    <message>
+        <source>clean: list what would go and change nothing.</source>
+        <extracomment>Report tool help: the --dry-run option of clean</extracomment>
+        <translation>clean: auflisten, was gehen würde, und nichts ändern.</translation>
+    </message>
+    <message>
+        <source>clean: remove exactly that list, each row checked again first.</source>
+        <extracomment>Report tool help: the --yes option of clean</extracomment>
+        <translation>clean: genau diese Liste entfernen, jede Zeile vorher erneut geprüft.</translation>
+    </message>
+    <message>
+        <source>clean: include rows Docker and Xcode remove for good.</source>
+        <extracomment>Report tool help: the --permanent option of clean</extracomment>
+        <translation>clean: Zeilen einschließen, die Docker und Xcode endgültig entfernen.</translation>
+    </message>
+    <message>
+        <source>clean: wait while another cleanup removes files, instead of refusing.</source>
+        <extracomment>Report tool help: the --wait option of clean</extracomment>
+        <translation>clean: warten, während eine andere Bereinigung Dateien entfernt, statt abzulehnen.</translation>
+    </message>
+    <message>
+        <source>clean: only the row with this id (repeat for more).</source>
+        <extracomment>Report tool help: the --id option of clean</extracomment>
+        <translation>clean: nur die Zeile mit dieser ID (für mehr wiederholen).</translation>
+    </message>
+    <message>
+        <source>clean: only rows dated at least DAYS days ago.</source>
+        <extracomment>Report tool help: the --older-than option of clean</extracomment>
+        <translation>clean: nur Zeilen, die mindestens DAYS Tage alt sind.</translation>
+    </message>
+    <message>
+        <source>clean: only rows of at least BYTES bytes.</source>
+        <extracomment>Report tool help: the --min-size option of clean</extracomment>
+        <translation>clean: nur Zeilen mit mindestens BYTES Bytes.</translation>
+    </message>
+    <message>
+        <source>clean: only rows labelled safe, askAI or risky (repeat for more).</source>
+        <extracomment>Report tool help: the --safety option of clean; keep the three names as they are</extracomment>
+        <translation>clean: nur Zeilen mit der Einstufung safe, askAI oder risky (für mehr wiederholen).</translation>
+    </message>
+    <message>
+        <source>Print the version and build.</source>
+        <extracomment>Report tool help: the --version option</extracomment>
+        <translation>Version und Build ausgeben.</translation>
+    </message>
+    <message>
+        <source>Categories:</source>
+        <extracomment>Heading of the report tool&apos;s help page, above the list of category names</extracomment>
+        <translation>Kategorien:</translation>
+    </message>
+    <message>
+        <source>clean exits with 0 when everything listed was removed (or would be), 1 when some failed or it was stopped, 2 for bad arguments and 3 when nothing passed the filters.</source>
+        <extracomment>Report tool help: the exit statuses of clean</extracomment>
+        <translation>clean endet mit 0, wenn alles Aufgeführte entfernt wurde (oder würde), mit 1, wenn etwas fehlschlug oder es gestoppt wurde, mit 2 bei falschen Argumenten und mit 3, wenn nichts die Filter bestand.</translation>
+    </message>
+</context>
+<context>
     <name>ReportOptions</name>
     <message>
         <source>Unknown argument &quot;%1&quot;.</source>
@@ -2502,9 +3095,49 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <translation>%1 braucht einen Wert.</translation>
     </message>
     <message>
-        <source>Unknown category &quot;%1&quot;.</source>
-        <extracomment>Error of the report tool; %1 is the category name it did not know</extracomment>
-        <translation>Unbekannte Kategorie „%1“.</translation>
+        <source>Unknown safety label &quot;%1&quot;. Use safe, askAI or risky.</source>
+        <extracomment>Error of the report tool; %1 is what was given after --safety. Keep the three names as they are</extracomment>
+        <translation>Unbekannte Einstufung „%1“. Verwende safe, askAI oder risky.</translation>
+    </message>
+    <message>
+        <source>%1 needs a whole number of 0 or more, not &quot;%2&quot;.</source>
+        <extracomment>Error of the report tool; %1 is an option such as --older-than, %2 the value given</extracomment>
+        <translation>%1 braucht eine ganze Zahl ab 0, nicht „%2“.</translation>
+    </message>
+    <message>
+        <source>Give either --dry-run or --yes, not both.</source>
+        <extracomment>Error of the report tool&apos;s clean command; keep the options as they are</extracomment>
+        <translation>Gib entweder --dry-run oder --yes an, nicht beides.</translation>
+    </message>
+    <message>
+        <source>clean needs --dry-run to list what would go, or --yes to remove it.</source>
+        <extracomment>Error of the report tool&apos;s clean command; keep the options as they are</extracomment>
+        <translation>clean braucht --dry-run, um aufzulisten, was gehen würde, oder --yes, um es zu entfernen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not exist.</source>
+        <extracomment>Error of the report tool; %1 is the path given after --home or --root</extracomment>
+        <translation>„%1“ existiert nicht.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a folder.</source>
+        <extracomment>Error of the report tool; %1 is the path given after --home or --root</extracomment>
+        <translation>„%1“ ist kein Ordner.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be read: no permission.</source>
+        <extracomment>Error of the report tool; %1 is the path given after --home or --root</extracomment>
+        <translation>„%1“ kann nicht gelesen werden: keine Berechtigung.</translation>
+    </message>
+    <message>
+        <source>Unknown category &quot;%1&quot;. The categories are: %2.</source>
+        <extracomment>Error of the report tool; %1 is the category name it did not know, %2 the list of valid names</extracomment>
+        <translation>Unbekannte Kategorie „%1“. Die Kategorien sind: %2.</translation>
+    </message>
+    <message>
+        <source>clean needs at least one --category.</source>
+        <extracomment>Error of the report tool&apos;s clean command; keep the option as it is</extracomment>
+        <translation>clean braucht mindestens eine --category.</translation>
     </message>
 </context>
 <context>
@@ -2630,6 +3263,60 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     </message>
 </context>
 <context>
+    <name>ScanReport</name>
+    <message>
+        <source>1 item</source>
+        <extracomment>The number of rows of a category in the report tool&apos;s table</extracomment>
+        <translation>1 Element</translation>
+    </message>
+    <message>
+        <source>%1 items</source>
+        <extracomment>The number of rows of a category in the report tool&apos;s table; %1 is the number</extracomment>
+        <translation>%1 Elemente</translation>
+    </message>
+</context>
+<context>
+    <name>ScanSchedule</name>
+    <message>
+        <source>Never</source>
+        <extracomment>Settings, &quot;Scan for me&quot;: no scheduled scan</extracomment>
+        <translation>Nie</translation>
+    </message>
+    <message>
+        <source>Every week</source>
+        <extracomment>Settings, &quot;Scan for me&quot;: a background scan once a week</extracomment>
+        <translation>Jede Woche</translation>
+    </message>
+    <message>
+        <source>Every month</source>
+        <extracomment>Settings, &quot;Scan for me&quot;: a background scan once a month</extracomment>
+        <translation>Jeden Monat</translation>
+    </message>
+</context>
+<context>
+    <name>ScheduledScan</name>
+    <message>
+        <source>Dustlark couldn&apos;t write %1: %2</source>
+        <extracomment>Settings, &quot;Scan for me&quot;; %1 is a file path, %2 the system&apos;s reason</extracomment>
+        <translation>Dustlark konnte %1 nicht schreiben: %2</translation>
+    </message>
+    <message>
+        <source>Dustlark couldn&apos;t write %1.</source>
+        <extracomment>Settings, &quot;Scan for me&quot;; %1 is a file path</extracomment>
+        <translation>Dustlark konnte %1 nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>macOS didn&apos;t start the background scan. It starts after your next login.</source>
+        <extracomment>Settings, &quot;Scan for me&quot;, when macOS refused to load the background scan</extracomment>
+        <translation>macOS hat den Scan im Hintergrund nicht gestartet. Er startet nach deiner nächsten Anmeldung.</translation>
+    </message>
+    <message>
+        <source>The scan is scheduled, but no systemd user manager is running now, so it starts with your next login that runs one.</source>
+        <extracomment>Settings, &quot;Scan for me&quot;, on Linux without a running systemd user manager</extracomment>
+        <translation>Der Scan ist geplant, aber gerade läuft kein systemd-Benutzerdienst, daher startet er mit deiner nächsten Anmeldung, die einen startet.</translation>
+    </message>
+</context>
+<context>
     <name>SelectionBar</name>
     <message>
         <source>Clean…</source>
@@ -2702,6 +3389,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <extracomment>Shown when the app could not start itself again</extracomment>
         <translation>Dustlark konnte nicht neu starten. Beende es und öffne es erneut.</translation>
     </message>
+    <message>
+        <source>Dustlark Settings</source>
+        <extracomment>Title of the settings window</extracomment>
+        <translation>Dustlark-Einstellungen</translation>
+    </message>
 </context>
 <context>
     <name>Sidebar</name>
@@ -2729,6 +3421,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <source>About</source>
         <extracomment>Sidebar entry of the About screen</extracomment>
         <translation>Über</translation>
+    </message>
+    <message>
+        <source>Not on This Computer</source>
+        <extracomment>Sidebar heading of the categories (Xcode, Simulators, iPhone &amp; iPad) that can&apos;t fill on Linux</extracomment>
+        <translation>Nicht auf diesem Computer</translation>
     </message>
 </context>
 <context>
@@ -2858,6 +3555,29 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     </message>
 </context>
 <context>
+    <name>StatusItem</name>
+    <message>
+        <source>Scan Now</source>
+        <extracomment>Status item menu: starts a full scan and shows the window</extracomment>
+        <translation>Jetzt scannen</translation>
+    </message>
+    <message>
+        <source>Open Dustlark</source>
+        <extracomment>Status item menu: shows the app&apos;s window on the Overview</extracomment>
+        <translation>Dustlark öffnen</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <extracomment>Status item menu: quits the app</extracomment>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>%1 free</source>
+        <extracomment>Status item menu: the disk&apos;s free space, e.g. &quot;24 GB free&quot;; %1 is the size</extracomment>
+        <translation>%1 frei</translation>
+    </message>
+</context>
+<context>
     <name>StorageAnalyzer</name>
     <message>
         <source>1 folder couldn&apos;t be read; what it holds counts as %1.</source>
@@ -2949,6 +3669,47 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     </message>
 </context>
 <context>
+    <name>StorageChange</name>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>A size change on the Storage screen; %1 is an arrow (up or down), %2 the change (&quot;+1.2 GB&quot;)</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>StorageFolders</name>
+    <message>
+        <source>1 file</source>
+        <extracomment>Number of files below a folder in the storage map, singular</extracomment>
+        <translation>1 Datei</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <extracomment>Number of files below a folder in the storage map; %1 is the number</extracomment>
+        <translation>%1 Dateien</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <extracomment>Column heading of the storage map&apos;s list: a folder&apos;s or file&apos;s name</extracomment>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <extracomment>Column heading of the storage map&apos;s list: its size on disk</extracomment>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <extracomment>Column heading of the storage map&apos;s list: how many files a folder holds</extracomment>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Smaller folders</source>
+        <extracomment>Row of the storage map&apos;s list: the sub-folders too small to show one by one</extracomment>
+        <translation>Kleinere Ordner</translation>
+    </message>
+</context>
+<context>
     <name>StorageHeader</name>
     <message>
         <source>Stop</source>
@@ -2979,6 +3740,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <source>Measuring… %1 items looked at · %2</source>
         <extracomment>Status line while the disk is measured; %1 is a number of files and folders, %2 the folder being read</extracomment>
         <translation>Messen … %1 Objekte angesehen · %2</translation>
+    </message>
+    <message>
+        <source>Out of date: files were cleaned up or moved since. Measure again to update it.</source>
+        <extracomment>Added to the status line of the storage screens after a cleanup or move changed the disk</extracomment>
+        <translation>Veraltet: Seitdem wurden Dateien bereinigt oder bewegt. Miss erneut, um es zu aktualisieren.</translation>
     </message>
 </context>
 <context>
@@ -3065,6 +3831,51 @@ Column heading of the storage drill-down: its size</extracomment>
         <extracomment>Storage drill-down: the files that lie directly in the folder, not in a sub-folder</extracomment>
         <translation>Dateien in diesem Ordner</translation>
     </message>
+    <message>
+        <source>Folders</source>
+        <extracomment>Tab of the storage screen: the sunburst of the measured folders</extracomment>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Kinds</source>
+        <extracomment>Tab of the storage screen: the folders and files of each kind of data</extracomment>
+        <translation>Arten</translation>
+    </message>
+    <message>
+        <source>measured of %1 used</source>
+        <extracomment>Under the measured size in the middle of the storage ring when the system&apos;s share is left out of the ring; %1 is the disk&apos;s used space</extracomment>
+        <translation>gemessen von %1 belegt</translation>
+    </message>
+    <message>
+        <source>The ring shows only what was measured; %1 is too large beside it to leave the kinds readable.</source>
+        <extracomment>Tooltip of the storage ring when it leaves the system&apos;s share out; %1 is the name of that share</extracomment>
+        <translation>Der Ring zeigt nur, was gemessen wurde; %1 ist daneben zu groß, um die Arten lesbar zu lassen.</translation>
+    </message>
+</context>
+<context>
+    <name>Sunburst</name>
+    <message>
+        <source>%1
+%2 · click to go back</source>
+        <extracomment>Tooltip of the sunburst&apos;s centre when zoomed in; %1 is the folder&apos;s name, %2 its size</extracomment>
+        <translation>%1
+%2 · klicken, um zurückzugehen</translation>
+    </message>
+    <message>
+        <source>Files in %1</source>
+        <extracomment>Sunburst segment of the files that lie directly in a folder; %1 is the folder&apos;s name</extracomment>
+        <translation>Dateien in %1</translation>
+    </message>
+    <message>
+        <source>Smaller items in %1</source>
+        <extracomment>Sunburst segment that merges the sub-folders too small to show; %1 is the folder&apos;s name</extracomment>
+        <translation>Kleinere Elemente in %1</translation>
+    </message>
+    <message>
+        <source>%1 · %2 of %3</source>
+        <extracomment>Second line of a sunburst tooltip; %1 is a size, %2 a percentage, %3 the folder in the middle</extracomment>
+        <translation>%1 · %2 von %3</translation>
+    </message>
 </context>
 <context>
     <name>SystemAccess</name>
@@ -3117,6 +3928,11 @@ Column heading of the storage drill-down: its size</extracomment>
         <source>Nothing was removed: %1 can&apos;t be opened (%2).</source>
         <extracomment>Why Empty Trash removed nothing; %1 is a folder of the Trash, %2 the system&apos;s reason (such as &quot;Permission denied&quot;)</extracomment>
         <translation>Es wurde nichts entfernt: %1 lässt sich nicht öffnen (%2).</translation>
+    </message>
+    <message>
+        <source>Emptying the Trash was stopped. What was already removed is gone.</source>
+        <extracomment>Empty Trash status after the person pressed Stop</extracomment>
+        <translation>Das Leeren des Papierkorbs wurde gestoppt. Was schon entfernt wurde, ist weg.</translation>
     </message>
 </context>
 <context>
@@ -3207,6 +4023,11 @@ Column heading of the storage drill-down: its size</extracomment>
         <extracomment>Summary of Temporary Files; %1 and %2 are numbers of days (3 and 30)</extracomment>
         <translation>Gezeigt: System-Temp-Objekte, die seit mindestens %1 Tagen unberührt sind (macOS leert /tmp auch beim Neustart), und Objekte in deinen eigenen Temp-Ordnern, die seit mindestens %2 Tagen unberührt sind.</translation>
     </message>
+    <message>
+        <source>Shown: system temp items untouched for %1+ days (many systems also clear /tmp when they restart) and items in your own temp folders untouched for %2+ days.</source>
+        <extracomment>Summary of Temporary Files on Linux; %1 and %2 are numbers of days (3 and 30)</extracomment>
+        <translation>Gezeigt: System-Temp-Elemente, die seit %1+ Tagen unberührt sind (viele Systeme leeren /tmp auch beim Neustart), und Elemente in deinen eigenen Temp-Ordnern, die seit %2+ Tagen unberührt sind.</translation>
+    </message>
 </context>
 <context>
     <name>TrashEmptier</name>
@@ -3239,6 +4060,37 @@ Column heading of the storage drill-down: its size</extracomment>
         <source>OK</source>
         <extracomment>Button that closes the message that the Trash could not be emptied</extracomment>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>TrashProgress</name>
+    <message>
+        <source>Empty Trash</source>
+        <extracomment>Window title of the sheet shown while the Trash is being emptied (where sheets have a title bar)</extracomment>
+        <translation>Papierkorb leeren</translation>
+    </message>
+    <message>
+        <source>Emptying the Trash…</source>
+        <extracomment>Heading of the sheet shown while the Trash is being emptied</extracomment>
+        <translation>Papierkorb wird geleert …</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <extracomment>Button that stops emptying the Trash after the item being removed</extracomment>
+        <translation>Stoppen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n items</source>
+        <extracomment>Progress of emptying the Trash; %1 items removed so far, %n items in all</extracomment>
+        <translation>
+            <numerusform>%1 von %n Element</numerusform>
+            <numerusform>%1 von %n Elementen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stopping…</source>
+        <extracomment>The Stop button after it was pressed, until the item being removed is gone</extracomment>
+        <translation>Wird gestoppt …</translation>
     </message>
 </context>
 <context>
@@ -3339,6 +4191,29 @@ Column heading of the storage drill-down: its size</extracomment>
         <source>the download is larger than %1, more than any update</source>
         <extracomment>Install and Relaunch error, inside &quot;Couldn&apos;t install the update (...)&quot;; %1 is a size like &quot;1 GB&quot;</extracomment>
         <translation>der Download ist größer als %1, mehr als jedes Update</translation>
+    </message>
+</context>
+<context>
+    <name>WatchSection</name>
+    <message>
+        <source>Warn me when free space falls below:</source>
+        <extracomment>Settings row: a notification when the disk&apos;s free space drops below the chosen amount</extracomment>
+        <translation>Warnen, wenn der freie Platz fällt unter:</translation>
+    </message>
+    <message>
+        <source>Scan for me:</source>
+        <extracomment>Settings row: a background scan on a schedule that only reports, never removes</extracomment>
+        <translation>Für mich scannen:</translation>
+    </message>
+    <message>
+        <source>Watch Quietly</source>
+        <extracomment>Heading of the free-space warning and the scheduled scan in the settings</extracomment>
+        <translation>Still im Blick</translation>
+    </message>
+    <message>
+        <source>Dustlark tells you what it found or that space runs low. It never selects or removes anything on its own.</source>
+        <extracomment>Explanation of the free-space warning and the scheduled scan in the settings</extracomment>
+        <translation>Dustlark sagt dir, was es gefunden hat oder dass der Platz knapp wird. Es wählt nie von selbst etwas aus und entfernt nie etwas von selbst.</translation>
     </message>
 </context>
 <context>

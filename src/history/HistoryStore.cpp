@@ -154,11 +154,12 @@ void HistoryStore::moveAside(Check why)
     }
     closeConnection();
     const QString name = QFileInfo(aside).fileName();
-    m_notes.append(why == Check::newer
+    if (why == Check::newer)
         //: Note after the scan history file turned out to come from a newer app; %1 is the name it was kept under
-        ? QCoreApplication::translate("HistoryStore", "The scan history was written by a newer version of Dustlark. It was kept as “%1” and a new history was started.").arg(name)
+        m_notes.append(QCoreApplication::translate("HistoryStore", "The scan history was written by a newer version of Dustlark. It was kept as “%1” and a new history was started.").arg(name));
+    else
         //: Note after the scan history file turned out to be damaged; %1 is the name it was kept under
-        : QCoreApplication::translate("HistoryStore", "The scan history couldn't be read. It was kept as “%1” and a new history was started.").arg(name));
+        m_notes.append(QCoreApplication::translate("HistoryStore", "The scan history couldn't be read. It was kept as “%1” and a new history was started.").arg(name));
 }
 
 std::optional<QString> HistoryStore::record(const HistoryRecord& record)

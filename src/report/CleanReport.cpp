@@ -12,6 +12,40 @@
 
 namespace {
 
+// The last lines of the table: what was or would be freed, what failed, what stayed.
+QString freedLine(bool dryRun, int removed, const QString& freedText)
+{
+    if (dryRun && removed == 1)
+        //: Last line of clean --dry-run; %1 is a size such as "1.2 GB"
+        return QCoreApplication::translate("CleanReport", "Would free %1 from 1 item.").arg(freedText);
+    if (dryRun)
+        //: Last line of clean --dry-run; %1 is a size such as "1.2 GB", %2 the number of items
+        return QCoreApplication::translate("CleanReport", "Would free %1 from %2 items.").arg(freedText, WholeNumber::format(removed));
+    if (removed == 1)
+        //: Last line of clean --yes; %1 is a size such as "1.2 GB"
+        return QCoreApplication::translate("CleanReport", "Freed %1 from 1 item.").arg(freedText);
+    //: Last line of clean --yes; %1 is a size such as "1.2 GB", %2 the number of items
+    return QCoreApplication::translate("CleanReport", "Freed %1 from %2 items.").arg(freedText, WholeNumber::format(removed));
+}
+
+QString failedLine(int failed)
+{
+    if (failed == 1)
+        //: Last lines of clean --yes, when one item failed (its reason is above)
+        return QCoreApplication::translate("CleanReport", "1 item couldn't be removed.");
+    //: Last lines of clean --yes; %1 is the number of items that failed (their reasons are above)
+    return QCoreApplication::translate("CleanReport", "%1 items couldn't be removed.").arg(WholeNumber::format(failed));
+}
+
+QString skippedLine(int skipped)
+{
+    if (skipped == 1)
+        //: Last lines of clean, when one item stays (its reason is above)
+        return QCoreApplication::translate("CleanReport", "1 item was left where it is.");
+    //: Last lines of clean; %1 is the number of items that stay (their reasons are above)
+    return QCoreApplication::translate("CleanReport", "%1 items were left where they are.").arg(WholeNumber::format(skipped));
+}
+
 }  // namespace
 
 CleanReport CleanReport::dryRunOf(const CleanPlan& plan)
@@ -107,35 +141,11 @@ QByteArray CleanReport::toText() const
             stream << QString(40, QLatin1Char(' ')) << row.reason << '\n';
     }
     const int removed = count(dryRun ? Outcome::wouldMove : Outcome::moved) + count(Outcome::removedByTool);
-    const QString freedText = ByteCount::format(freed());
-    if (dryRun)
-        stream << (removed == 1
-                       //: Last line of clean --dry-run; %1 is a size such as "1.2 GB"
-                       ? QCoreApplication::translate("CleanReport", "Would free %1 from 1 item.").arg(freedText)
-                       //: Last line of clean --dry-run; %1 is a size such as "1.2 GB", %2 the number of items
-                       : QCoreApplication::translate("CleanReport", "Would free %1 from %2 items.").arg(freedText, WholeNumber::format(removed)))
-               << '\n';
-    else
-        stream << (removed == 1
-                       //: Last line of clean --yes; %1 is a size such as "1.2 GB"
-                       ? QCoreApplication::translate("CleanReport", "Freed %1 from 1 item.").arg(freedText)
-                       //: Last line of clean --yes; %1 is a size such as "1.2 GB", %2 the number of items
-                       : QCoreApplication::translate("CleanReport", "Freed %1 from %2 items.").arg(freedText, WholeNumber::format(removed)))
-               << '\n';
+    stream << freedLine(dryRun, removed, ByteCount::format(freed())) << '\n';
     if (const int failed = count(Outcome::failed))
-        stream << (failed == 1
-                       //: Last lines of clean --yes, when one item failed (its reason is above)
-                       ? QCoreApplication::translate("CleanReport", "1 item couldn't be removed.")
-                       //: Last lines of clean --yes; %1 is the number of items that failed (their reasons are above)
-                       : QCoreApplication::translate("CleanReport", "%1 items couldn't be removed.").arg(WholeNumber::format(failed)))
-               << '\n';
+        stream << failedLine(failed) << '\n';
     if (const int skipped = count(Outcome::skipped))
-        stream << (skipped == 1
-                       //: Last lines of clean, when one item stays (its reason is above)
-                       ? QCoreApplication::translate("CleanReport", "1 item was left where it is.")
-                       //: Last lines of clean; %1 is the number of items that stay (their reasons are above)
-                       : QCoreApplication::translate("CleanReport", "%1 items were left where they are.").arg(WholeNumber::format(skipped)))
-               << '\n';
+        stream << skippedLine(skipped) << '\n';
     stream.flush();
     return out;
 }

@@ -22,6 +22,7 @@ struct ReportOptions {
     bool json = false;
     bool record = false;           // scan, storage: add the result to the scan history
     std::optional<QString> since;  // history: "last" or a date; absent lists the kept scans
+    bool notify = false;           // scan: tell the person what was found, and when the disk runs low
     CleanOptions clean;
 
     // Parses the arguments after the program name. On failure returns absent and sets

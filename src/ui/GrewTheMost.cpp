@@ -24,8 +24,13 @@ GrewTheMost::GrewTheMost(HistoryRecorder* history, QWidget* parent)
     //: Before the choice of the earlier storage analysis to compare with
     top->addWidget(PageLabels::note(tr("since"), this));
     top->addWidget(m_earlier);
-    //: Column headers of the "Grew the most" list
-    m_folders->setHeaderLabels({tr("Folder"), tr("Kind"), tr("Change")});
+    //: Column header of the "Grew the most" list: the folder
+    const QString folder = tr("Folder");
+    //: Column header of the "Grew the most" list: the kind of data the folder holds
+    const QString kind = tr("Kind");
+    //: Column header of the "Grew the most" list: how much it grew, such as "+1.2 GB"
+    const QString change = tr("Change");
+    m_folders->setHeaderLabels({folder, kind, change});
     m_folders->setRootIsDecorated(false);
     m_folders->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     m_folders->setMaximumHeight(220);

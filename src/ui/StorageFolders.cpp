@@ -45,8 +45,13 @@ StorageFolders::StorageFolders(AppModel* model, QWidget* parent)
     m_contents->setRootIsDecorated(false);
     m_contents->setUniformRowHeights(true);
     m_contents->setAlternatingRowColors(true);
-    //: Column headings of the storage map's list: a folder or file, its size, the files it holds
-    m_contents->setHeaderLabels({tr("Name"), tr("Size"), tr("Files")});
+    //: Column heading of the storage map's list: a folder's or file's name
+    const QString name = tr("Name");
+    //: Column heading of the storage map's list: its size on disk
+    const QString size = tr("Size");
+    //: Column heading of the storage map's list: how many files a folder holds
+    const QString files = tr("Files");
+    m_contents->setHeaderLabels({name, size, files});
     m_contents->setItemDelegateForColumn(sizeColumn, m_bars);
     m_contents->setContextMenuPolicy(Qt::CustomContextMenu);
     m_contents->header()->setStretchLastSection(false);

@@ -167,18 +167,20 @@ TEST(CategoryPage, AskAIQuestionsGoToTheClipboard)
     const CleanupItem model = fixture.addFile(CategoryID::aiModels, ".ollama/models/blobs/sha256-1");
     CategoryPage* page = fixture.open(CategoryID::aiModels, {model});
     ASSERT_TRUE(page);
+    const QString opening = Platform::desktop() == Platform::Desktop::finder ? QStringLiteral("I'm cleaning up my Mac with Dustlark")
+                                                                            : QStringLiteral("I'm cleaning up my Linux computer with Dustlark");
     QGuiApplication::clipboard()->clear();
     QTest::mouseClick(page->list()->viewport(), Qt::LeftButton, {}, fixture.geometryOf(fixture.rowOf(model.id)).safety.center());
-    EXPECT_TRUE(waitUntil([] {
+    EXPECT_TRUE(waitUntil([&] {
         const QString question = QGuiApplication::clipboard()->text();
-        return question.startsWith("I'm cleaning up my Mac with Dustlark and want to know") && question.contains("sha256-1");
+        return question.startsWith(opening + " and want to know") && question.contains("sha256-1");
     }));
     EXPECT_FALSE(fixture.model().selection().contains(model.id)) << "clicking the label doesn't tick the row";
 
     QGuiApplication::clipboard()->clear();
     page->askAboutShownButton()->click();
-    EXPECT_TRUE(waitUntil([] {
-        return QGuiApplication::clipboard()->text().startsWith("I'm cleaning up my Mac with Dustlark. For each item below");
+    EXPECT_TRUE(waitUntil([&] {
+        return QGuiApplication::clipboard()->text().startsWith(opening + ". For each item below");
     }));
     EXPECT_EQ(fixture.window().toast()->text(), "Question copied. Paste it into your AI assistant.");
 }
