@@ -1,6 +1,7 @@
 // The projects list with a selection, and the cleanup sheets over it.
 #include "Scenes.h"
 #include "format/RelativeDate.h"
+#include "scan/ProjectScanner.h"
 #include "support/Wait.h"
 #include "ui/CategoryPage.h"
 #include "ui/CleanupConfirmation.h"
@@ -78,9 +79,7 @@ public:
         m_xip = fileRow(m_fixture.home(), CategoryID::largeFiles, "Downloads/Xcode_15.2.xip");
         m_xip.size = 3'050'000'000;
         m_xip.detail = "~/Downloads";
-        m_fixture.start({scannerOf(CategoryID::projects, m_rows, {QCoreApplication::translate("ProjectScanner",
-                             "%n folders couldn't be read. Allow access when macOS asks, or give Dustlark Full Disk Access.",
-                             nullptr, 2)}),
+        m_fixture.start({scannerOf(CategoryID::projects, m_rows, {ProjectScanner::unreadableNote(2)}),
                          scannerOf(CategoryID::largeFiles, {m_movie, m_xip})});
         m_fixture.window().resize(1280, 800);
         m_scanned = m_fixture.scan();
