@@ -4215,6 +4215,11 @@ Column heading of the storage drill-down: its size</extracomment>
         <extracomment>Explanation of the free-space warning and the scheduled scan in the settings</extracomment>
         <translation>Dustlark sagt dir, was es gefunden hat oder dass der Platz knapp wird. Es wählt nie von selbst etwas aus und entfernt nie etwas von selbst.</translation>
     </message>
+    <message>
+        <source>Keep watching when the window is closed</source>
+        <extracomment>Settings check box: closing the window leaves the status item running the watch</extracomment>
+        <translation>Weiter im Blick behalten, wenn das Fenster geschlossen ist</translation>
+    </message>
 </context>
 <context>
     <name>WorktreeFinder</name>

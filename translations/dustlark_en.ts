@@ -4214,6 +4214,11 @@ Column heading of the storage drill-down: its size</extracomment>
         <extracomment>Explanation of the free-space warning and the scheduled scan in the settings</extracomment>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Keep watching when the window is closed</source>
+        <extracomment>Settings check box: closing the window leaves the status item running the watch</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>WorktreeFinder</name>

@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QSettings>
+#include <QSystemTrayIcon>
 
 int main(int argc, char* argv[])
 {
@@ -54,6 +55,10 @@ int main(int argc, char* argv[])
         window.bringToFront();
     });
     QObject::connect(&statusItem, &StatusItem::quitRequested, &window, &MainWindow::requestQuit);
+    // Hidden, the window comes back through the status item, so that item must be showing.
+    window.setKeepsRunningWhenClosed([&statusItem, &settingsStore] {
+        return settingsStore.isWatching() && settingsStore.keepsWatchingWhenClosed() && statusItem.icon()->isVisible();
+    });
     window.show();
     QObject::connect(&instance, &SingleInstance::activationRequested, &window, &MainWindow::bringToFront);
     return app.exec();

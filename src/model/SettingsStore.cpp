@@ -15,6 +15,7 @@ const QString safeItemInfoKey = QStringLiteral("safeItemInfo");
 const QString sizeFilterKey = QStringLiteral("sizeFilter");
 const QString freeSpaceWarningKey = QStringLiteral("freeSpaceWarning");
 const QString scanScheduleKey = QStringLiteral("scheduledScan");
+const QString keepWatchingKey = QStringLiteral("keepWatchingWhenClosed");
 
 std::optional<QStringList> stringsOnly(const QVariantList& values)
 {
@@ -48,6 +49,12 @@ QString textOnly(const QVariant& value)
     return value.typeId() == QMetaType::QString ? value.toString() : QString();
 }
 
+// Only a stored true turns a choice on: the native store's boolean, or an INI file's "true".
+bool storedTrue(const QVariant& value)
+{
+    return value.typeId() == QMetaType::Bool ? value.toBool() : textOnly(value) == QLatin1String("true");
+}
+
 }  // namespace
 
 SettingsStore::SettingsStore(QSettings* settings, const QString& home, QObject* parent)
@@ -71,6 +78,7 @@ void SettingsStore::load()
     m_sizeFilter = wholeNumber(m_settings->value(sizeFilterKey)).value_or(0);
     m_freeSpaceWarning = FreeSpaceWarnings::fromRawValue(textOnly(m_settings->value(freeSpaceWarningKey)));
     m_scanSchedule = ScanSchedules::fromRawValue(textOnly(m_settings->value(scanScheduleKey)));
+    m_keepsWatchingWhenClosed = storedTrue(m_settings->value(keepWatchingKey));
 }
 
 // QSettings hands back what the store holds: a native list, a list of variants, or, from an
@@ -194,6 +202,15 @@ void SettingsStore::setScanSchedule(ScanSchedule schedule)
         return;
     m_scanSchedule = schedule;
     m_settings->setValue(scanScheduleKey, ScanSchedules::rawValue(schedule));
+    emit watchChanged();
+}
+
+void SettingsStore::setKeepsWatchingWhenClosed(bool keeps)
+{
+    if (keeps == m_keepsWatchingWhenClosed)
+        return;
+    m_keepsWatchingWhenClosed = keeps;
+    m_settings->setValue(keepWatchingKey, keeps);
     emit watchChanged();
 }
 

@@ -44,6 +44,10 @@ public:
     // "Warn me when free space falls below" and "Scan for me"; both off unless chosen.
     FreeSpaceWarning freeSpaceWarning() const { return m_freeSpaceWarning; }
     ScanSchedule scanSchedule() const { return m_scanSchedule; }
+    // Whether either of those is on, so there is something to watch.
+    bool isWatching() const { return m_freeSpaceWarning != FreeSpaceWarning::off || m_scanSchedule != ScanSchedule::never; }
+    // Whether closing the window leaves Dustlark watching from the status item (off unless chosen).
+    bool keepsWatchingWhenClosed() const { return m_keepsWatchingWhenClosed; }
 
     // Dates new Safe List entries; the current time unless a test replaces it.
     void setClock(Clock clock) { m_clock = std::move(clock); }
@@ -61,6 +65,7 @@ public:
     void setSizeFilterRaw(int raw);
     void setFreeSpaceWarning(FreeSpaceWarning warning);
     void setScanSchedule(ScanSchedule schedule);
+    void setKeepsWatchingWhenClosed(bool keeps);
 
     // True when the item is on the Safe List, or its project or any of its paths is at or
     // below a protected path.
@@ -73,7 +78,7 @@ signals:
     void scanRootsChanged();
     void safeListChanged();
     void sizeFilterChanged();
-    void watchChanged();  // the free-space warning or the scan schedule
+    void watchChanged();  // the free-space warning, the scan schedule or watching when closed
 
 private:
     void load();
@@ -94,5 +99,6 @@ private:
     int m_sizeFilter = 0;
     FreeSpaceWarning m_freeSpaceWarning = FreeSpaceWarning::off;
     ScanSchedule m_scanSchedule = ScanSchedule::never;
+    bool m_keepsWatchingWhenClosed = false;
     mutable std::optional<QStringList> m_protectedCache;
 };

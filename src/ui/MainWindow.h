@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QTimer>
 
+#include <functional>
 #include <map>
 
 class AppModel;
@@ -39,6 +40,9 @@ public:
     void setSettingsPage(QWidget* page);
     // Replaces the writer of AI questions (AIQuestions::standard() by default).
     void setQuestions(const AIQuestions& questions);
+    // Asked when the window is closed: true hides it and keeps the app running (the person chose
+    // to keep watching and a status item can bring it back). By default closing quits.
+    void setKeepsRunningWhenClosed(std::function<bool()> keepsRunning) { m_keepsRunningWhenClosed = std::move(keepsRunning); }
 
     // What choosing a sidebar entry does: nothing for the shown screen, a question while
     // something is selected, otherwise the switch.
@@ -105,4 +109,5 @@ private:
     QPointer<QMessageBox> m_question;
     QPointer<QMessageBox> m_quitQuestion;
     bool m_quitApproved = false;
+    std::function<bool()> m_keepsRunningWhenClosed;
 };

@@ -63,6 +63,11 @@ void MainWindow::quitNow()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
+    if (!m_quitApproved && m_keepsRunningWhenClosed && m_keepsRunningWhenClosed()) {
+        event->ignore();
+        hide();
+        return;
+    }
     if (!m_quitApproved && m_model->isChangingFiles()) {
         event->ignore();
         askBeforeQuitting();

@@ -48,7 +48,7 @@ StatusItem::~StatusItem() = default;
 void StatusItem::refresh()
 {
     const SettingsStore* settings = m_model->settings();
-    m_icon->setVisible(settings->freeSpaceWarning() != FreeSpaceWarning::off || settings->scanSchedule() != ScanSchedule::never);
+    m_icon->setVisible(settings->isWatching());
     const auto free = m_model->systemState().freeBytes;
     //: Status item menu: the disk's free space, e.g. "24 GB free"; %1 is the size
     const QString text = free ? tr("%1 free").arg(ByteCount::format(*free)) : QString();

@@ -4,14 +4,19 @@
 #include "model/SettingsStore.h"
 #include "ui/PageLabels.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 WatchSection::WatchSection(SettingsStore* settings, ScheduledScan::Place place, QWidget* parent)
     : QWidget(parent), m_settings(settings), m_place(std::move(place)), m_warningPicker(new QComboBox(this)),
-      m_schedulePicker(new QComboBox(this)), m_scheduleNote(PageLabels::note({}, this))
+      m_schedulePicker(new QComboBox(this)),
+      //: Settings check box: closing the window leaves the status item running the watch
+      m_keepWatching(new QCheckBox(tr("Keep watching when the window is closed"), this)),
+      m_scheduleNote(PageLabels::note({}, this))
 {
     for (FreeSpaceWarning warning : FreeSpaceWarnings::allCases())
         m_warningPicker->addItem(FreeSpaceWarnings::title(warning), FreeSpaceWarnings::rawValue(warning));
@@ -34,6 +39,7 @@ WatchSection::WatchSection(SettingsStore* settings, ScheduledScan::Place place, 
     layout->addWidget(PageLabels::note(tr("Dustlark tells you what it found or that space runs low. "
                                           "It never selects or removes anything on its own."), this));
     layout->addLayout(rows);
+    layout->addWidget(m_keepWatching);
     layout->addWidget(m_scheduleNote);
 
     connect(m_warningPicker, &QComboBox::activated, this, [this](int index) {
@@ -42,6 +48,18 @@ WatchSection::WatchSection(SettingsStore* settings, ScheduledScan::Place place, 
     connect(m_schedulePicker, &QComboBox::activated, this, [this](int index) {
         chooseSchedule(ScanSchedules::fromRawValue(m_schedulePicker->itemData(index).toString()));
     });
+    connect(m_keepWatching, &QCheckBox::toggled, m_settings, &SettingsStore::setKeepsWatchingWhenClosed);
+    connect(m_settings, &SettingsStore::watchChanged, this, &WatchSection::refreshKeepWatching);
+    refreshKeepWatching();
+}
+
+// Only a watch keeps the app running once the window is closed: with nothing to watch the
+// choice has no meaning and closing quits.
+void WatchSection::refreshKeepWatching()
+{
+    const QSignalBlocker blocker(m_keepWatching);
+    m_keepWatching->setChecked(m_settings->keepsWatchingWhenClosed());
+    m_keepWatching->setEnabled(m_settings->isWatching());
 }
 
 void WatchSection::chooseSchedule(ScanSchedule schedule)

@@ -4,12 +4,13 @@
 
 #include <QWidget>
 
+class QCheckBox;
 class QComboBox;
 class QLabel;
 class SettingsStore;
 
 // The settings' "Watch quietly" rows: "Warn me when free space falls below" and "Scan for me",
-// both off until the person chooses. Choosing a schedule writes or removes the system's timer
+// both off until the person chooses, and whether closing the window keeps Dustlark watching. Choosing a schedule writes or removes the system's timer
 // for it off the GUI thread and shows what the system said. GUI thread only.
 class WatchSection : public QWidget {
     Q_OBJECT
@@ -20,6 +21,7 @@ public:
 
     QComboBox* warningPicker() const { return m_warningPicker; }
     QComboBox* schedulePicker() const { return m_schedulePicker; }
+    QCheckBox* keepWatchingBox() const { return m_keepWatching; }
     QLabel* scheduleNote() const { return m_scheduleNote; }
 
 signals:
@@ -28,10 +30,12 @@ signals:
 
 private:
     void chooseSchedule(ScanSchedule schedule);
+    void refreshKeepWatching();
 
     SettingsStore* m_settings;
     ScheduledScan::Place m_place;
     QComboBox* m_warningPicker;
     QComboBox* m_schedulePicker;
+    QCheckBox* m_keepWatching;
     QLabel* m_scheduleNote;
 };

@@ -207,23 +207,31 @@ TEST_F(SettingsStoreTest, WatchSettingsStayOffUnlessChosenAndSurviveARelaunch)
     auto settings = store(file.settings());
     EXPECT_EQ(settings->freeSpaceWarning(), FreeSpaceWarning::off);
     EXPECT_EQ(settings->scanSchedule(), ScanSchedule::never);
+    EXPECT_FALSE(settings->isWatching());
+    EXPECT_FALSE(settings->keepsWatchingWhenClosed());
 
     settings->setFreeSpaceWarning(FreeSpaceWarning::fivePercent);
     settings->setScanSchedule(ScanSchedule::monthly);
+    settings->setKeepsWatchingWhenClosed(true);
     settings = reopened();
     EXPECT_EQ(settings->freeSpaceWarning(), FreeSpaceWarning::fivePercent);
     EXPECT_EQ(settings->scanSchedule(), ScanSchedule::monthly);
+    EXPECT_TRUE(settings->isWatching());
+    EXPECT_TRUE(settings->keepsWatchingWhenClosed());
 
     // A value this build does not know, or a one-text list from a native store, turns nothing on.
-    settings = store(file.withText("[General]\nfreeSpaceWarning=3%\nscheduledScan=hourly\n"));
+    settings = store(file.withText("[General]\nfreeSpaceWarning=3%\nscheduledScan=hourly\nkeepWatchingWhenClosed=yes\n"));
     EXPECT_EQ(settings->freeSpaceWarning(), FreeSpaceWarning::off);
     EXPECT_EQ(settings->scanSchedule(), ScanSchedule::never);
+    EXPECT_FALSE(settings->keepsWatchingWhenClosed());
     QSettings* typed = file.withText(QByteArray());
     typed->setValue(QStringLiteral("freeSpaceWarning"), QStringList{QStringLiteral("10%")});
     typed->setValue(QStringLiteral("scheduledScan"), QStringList{QStringLiteral("weekly")});
+    typed->setValue(QStringLiteral("keepWatchingWhenClosed"), QStringList{QStringLiteral("true")});
     settings = store(typed);
     EXPECT_EQ(settings->freeSpaceWarning(), FreeSpaceWarning::off);
     EXPECT_EQ(settings->scanSchedule(), ScanSchedule::never);
+    EXPECT_FALSE(settings->keepsWatchingWhenClosed());
 }
 
 }  // namespace

@@ -158,3 +158,32 @@ TEST(MainWindow, ChoosingAnotherScreenWithASelectionAsksFirst)
     EXPECT_TRUE(fixture.model().selection().ids().isEmpty());
 }
 
+
+// Closing the window quits unless the person chose to keep watching (asked of the window's
+// owner); then it only hides. Quit closes it for good even then.
+TEST(MainWindow, ClosingHidesTheWindowOnlyWhileItKeepsRunning)
+{
+    WindowFixture fixture;
+    fixture.start({});
+    MainWindow& window = fixture.window();
+    bool keepsRunning = true;
+    window.setKeepsRunningWhenClosed([&keepsRunning] { return keepsRunning; });
+    const bool quitsOnLastClose = QGuiApplication::quitOnLastWindowClosed();
+    QGuiApplication::setQuitOnLastWindowClosed(false);  // the test's own loop must go on
+
+    window.show();
+    EXPECT_FALSE(window.close()) << "the close was turned into a hide";
+    EXPECT_FALSE(window.isVisible());
+
+    window.bringToFront();
+    keepsRunning = false;
+    EXPECT_TRUE(window.close());
+
+    window.show();
+    keepsRunning = true;
+    window.requestQuit();
+    EXPECT_FALSE(window.isVisible());
+    window.show();
+    EXPECT_TRUE(window.close()) << "once Quit was chosen, closing no longer hides";
+    QGuiApplication::setQuitOnLastWindowClosed(quitsOnLastClose);
+}

@@ -2,6 +2,7 @@
 #include "support/Wait.h"
 #include "ui/WatchSection.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
@@ -61,4 +62,22 @@ TEST(WatchSection, TurningScanForMeOnWritesTheTimerAndOffRemovesIt)
     ASSERT_TRUE(waitUntil([&] { return applied.size() == 2; }));
     EXPECT_FALSE(QFile::exists(timer));
     EXPECT_FALSE(section.scheduleNote()->isVisibleTo(&section));
+}
+
+TEST(WatchSection, KeepWatchingCanBeChosenOnlyWhileSomethingIsWatched)
+{
+    WatchFixture fixture;
+    WatchSection section(&fixture.settings, fixture.place);
+    QCheckBox* keep = section.keepWatchingBox();
+    EXPECT_FALSE(keep->isChecked());
+    EXPECT_FALSE(keep->isEnabled()) << "nothing is watched, so closing quits";
+
+    fixture.choose(section.warningPicker(), "10%");
+    ASSERT_TRUE(keep->isEnabled());
+    keep->click();
+    EXPECT_TRUE(fixture.settings.keepsWatchingWhenClosed());
+
+    fixture.choose(section.warningPicker(), "off");
+    EXPECT_FALSE(keep->isEnabled());
+    EXPECT_TRUE(keep->isChecked()) << "the choice is kept for when a watch is on again";
 }
