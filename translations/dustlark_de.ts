@@ -3680,12 +3680,12 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     <name>StorageFolders</name>
     <message>
         <source>1 file</source>
-        <extracomment>Number of files below a folder in the storage map, singular</extracomment>
+        <extracomment>Number of files below a folder in the storage lists, singular</extracomment>
         <translation>1 Datei</translation>
     </message>
     <message>
         <source>%1 files</source>
-        <extracomment>Number of files below a folder in the storage map; %1 is the number</extracomment>
+        <extracomment>Number of files below a folder in the storage lists; %1 is the number</extracomment>
         <translation>%1 Dateien</translation>
     </message>
     <message>
@@ -3749,16 +3749,6 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
 </context>
 <context>
     <name>StoragePage</name>
-    <message>
-        <source>1 file</source>
-        <extracomment>Number of files in a storage folder, singular</extracomment>
-        <translation>1 Datei</translation>
-    </message>
-    <message>
-        <source>%1 files</source>
-        <extracomment>Number of files in a storage folder; %1 is the number</extracomment>
-        <translation>%1 Dateien</translation>
-    </message>
     <message>
         <source>Storage</source>
         <extracomment>Heading of the storage screen</extracomment>

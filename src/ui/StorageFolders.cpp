@@ -25,16 +25,16 @@ constexpr int pathRole = Qt::UserRole;
 constexpr int folderRole = Qt::UserRole + 1;
 constexpr qsizetype filesShown = 30;
 
-QString fileCount(qint64 count)
+}  // namespace
+
+QString StorageFolders::fileCount(qint64 count)
 {
     if (count == 1)
-        //: Number of files below a folder in the storage map, singular
-        return StorageFolders::tr("1 file");
-    //: Number of files below a folder in the storage map; %1 is the number
-    return StorageFolders::tr("%1 files").arg(QLocale().toString(count));
+        //: Number of files below a folder in the storage lists, singular
+        return tr("1 file");
+    //: Number of files below a folder in the storage lists; %1 is the number
+    return tr("%1 files").arg(QLocale().toString(count));
 }
-
-}  // namespace
 
 StorageFolders::StorageFolders(AppModel* model, QWidget* parent)
     : QWidget(parent), m_model(model), m_breadcrumb(new QLabel(this)), m_sunburst(new Sunburst(this)),

@@ -18,6 +18,9 @@ class StorageFolders : public QWidget {
     Q_OBJECT
 
 public:
+    // "1 file", "1,234 files": how many files a folder holds, in Storage's lists.
+    static QString fileCount(qint64 count);
+
     explicit StorageFolders(AppModel* model, QWidget* parent = nullptr);
 
     Sunburst* sunburst() const { return m_sunburst; }

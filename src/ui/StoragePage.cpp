@@ -61,15 +61,6 @@ QString share(qint64 bytes, qint64 total)
     return percent < 1 ? QStringLiteral("<1%") : QStringLiteral("%1%").arg(qRound(percent));
 }
 
-QString fileCount(qint64 count)
-{
-    if (count == 1)
-        //: Number of files in a storage folder, singular
-        return StoragePage::tr("1 file");
-    //: Number of files in a storage folder; %1 is the number
-    return StoragePage::tr("%1 files").arg(QLocale().toString(count));
-}
-
 }  // namespace
 
 StoragePage::StoragePage(AppModel* model, QWidget* parent)
@@ -267,7 +258,7 @@ void StoragePage::fillFolders(const StorageReport& report, StorageBucket bucket)
     const QList<StorageReport::FolderUsage>& folders = report.foldersOf(bucket);
     m_bars->setMaximum(folders.isEmpty() ? 0 : folders.first().bytes);
     for (const StorageReport::FolderUsage& folder : folders) {
-        QTreeWidgetItem* row = addDetail(shortPath(folder.path), folder.bytes, fileCount(folder.fileCount), bucket);
+        QTreeWidgetItem* row = addDetail(shortPath(folder.path), folder.bytes, StorageFolders::fileCount(folder.fileCount), bucket);
         row->setData(detailName, pathRole, folder.path);
         row->setData(detailName, rowKindRole, folderRow);
         row->setText(detailSize, StorageChange::withSize(row->text(detailSize), StorageChange::ofFolder(
@@ -290,7 +281,7 @@ void StoragePage::fillFolder(const StorageReport::FolderUsage& folder, StorageBu
     for (const auto& [name, usage] : groups) {
         //: Storage drill-down: the files that lie directly in the folder, not in a sub-folder
         QTreeWidgetItem* row = addDetail(name.isEmpty() ? tr("Files in this folder") : name + QLatin1Char('/'),
-                                         usage.bytes, fileCount(usage.fileCount), bucket);
+                                         usage.bytes, StorageFolders::fileCount(usage.fileCount), bucket);
         row->setData(detailName, pathRole, name.isEmpty() ? folder.path : folder.path + QLatin1Char('/') + name);
         row->setData(detailName, rowKindRole, groupRow);
         row->setIcon(detailName, style()->standardIcon(QStyle::SP_DirIcon));
