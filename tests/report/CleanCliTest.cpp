@@ -3,6 +3,7 @@
 
 #include "model/CleanupLock.h"
 #include "model/StatsStore.h"
+#include "support/ProgramRun.h"
 #include "support/TempTree.h"
 
 #include <QDir>
@@ -19,30 +20,19 @@
 
 namespace {
 
-struct CliRun {
-    int exitCode = -1;
-    QByteArray standardOutput;
-    QByteArray standardError;
-
+struct CliRun : ProgramRun {
     QJsonObject json() const { return QJsonDocument::fromJson(standardOutput).object(); }
     QJsonArray items() const { return json()[QStringLiteral("items")].toArray(); }
 };
 
 CliRun finish(QProcess& process)
 {
-    if (!process.waitForFinished(120'000)) {
-        process.kill();
-        process.waitForFinished();
-    }
-    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1, process.readAllStandardOutput(),
-            process.readAllStandardError()};
+    return {ProgramRun::finish(process)};
 }
 
 CliRun runCli(const QStringList& arguments)
 {
-    QProcess process;
-    process.start(QStringLiteral(DUSTLARK_CLI), arguments);
-    return finish(process);
+    return {ProgramRun::run(QStringLiteral(DUSTLARK_CLI), arguments)};
 }
 
 QByteArray idsOf(const QJsonArray& items)

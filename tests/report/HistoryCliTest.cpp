@@ -2,6 +2,7 @@
 // recorded scans show what grew, a damaged history file is kept aside, and a full disk leaves
 // the scan's report whole.
 #include "support/PrivateMount.h"
+#include "support/ProgramRun.h"
 #include "support/TempTree.h"
 
 #include <QDir>
@@ -16,22 +17,12 @@
 
 namespace {
 
-struct CliRun {
-    int exitCode = -1;
-    QByteArray out;
-    QString error;
-};
-
-CliRun cli(const QStringList& arguments, const QString& dataHome)
+// The report tool with its data folder in `dataHome`.
+ProgramRun cli(const QStringList& arguments, const QString& dataHome)
 {
-    QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("XDG_DATA_HOME"), dataHome);
-    process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(DUSTLARK_CLI), arguments);
-    process.waitForFinished(300'000);
-    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1, process.readAllStandardOutput(),
-            QString::fromUtf8(process.readAllStandardError())};
+    return ProgramRun::run(QStringLiteral(DUSTLARK_CLI), arguments, 300'000, environment);
 }
 
 // Allocated bytes of the file, as the scan counts them.
@@ -63,10 +54,10 @@ TEST(HistoryCli, TwoRecordedScansReportWhatGrewInBetween)
     tree.file("home/code/web/node_modules/left-pad/index.js", 4000);
     tree.file("home/.npm/_cacache/index-v5/aa", 4000);
 
-    const CliRun first = cli({"scan", "--home", home, "--record"}, data);
-    ASSERT_EQ(first.exitCode, 0) << qPrintable(first.error);
-    EXPECT_TRUE(first.error.isEmpty()) << qPrintable(first.error);
-    const CliRun unrecorded = cli({"scan", "--home", home, "--category", "trash"}, data);
+    const ProgramRun first = cli({"scan", "--home", home, "--record"}, data);
+    ASSERT_EQ(first.exitCode, 0) << first.standardError.constData();
+    EXPECT_TRUE(first.standardError.isEmpty()) << first.standardError.constData();
+    const ProgramRun unrecorded = cli({"scan", "--home", home, "--category", "trash"}, data);
     ASSERT_EQ(unrecorded.exitCode, 0);
 
     const QString builds = tree.path("home/code/web/node_modules");
@@ -76,12 +67,12 @@ TEST(HistoryCli, TwoRecordedScansReportWhatGrewInBetween)
     tree.file("home/.npm/_cacache/content-v2/blob", 100'000'000);
     ASSERT_EQ(cli({"scan", "--home", home, "--record"}, data).exitCode, 0);
 
-    const CliRun history = cli({"history", "--since", "last", "--json"}, data);
-    ASSERT_EQ(history.exitCode, 0) << qPrintable(history.error);
-    const QJsonObject growth = QJsonDocument::fromJson(history.out).object();
+    const ProgramRun history = cli({"history", "--since", "last", "--json"}, data);
+    ASSERT_EQ(history.exitCode, 0) << history.standardError.constData();
+    const QJsonObject growth = QJsonDocument::fromJson(history.standardOutput).object();
     EXPECT_EQ(growth[QStringLiteral("scans")].toArray().size(), 2) << "the unrecorded scan is not kept";
     const QJsonArray categories = growth[QStringLiteral("categories")].toArray();
-    ASSERT_GE(categories.size(), 2) << history.out.toStdString();
+    ASSERT_GE(categories.size(), 2) << history.standardOutput.toStdString();
     const qint64 projects = change(categories, QStringLiteral("projects"))[QStringLiteral("growth")].toInteger();
     const qint64 caches = change(categories, QStringLiteral("packageCaches"))[QStringLiteral("growth")].toInteger();
     EXPECT_GE(projects, 300'000'000);
@@ -90,7 +81,7 @@ TEST(HistoryCli, TwoRecordedScansReportWhatGrewInBetween)
     EXPECT_LE(caches, allocated(cache));
     EXPECT_EQ(categories.at(0)[QStringLiteral("category")].toString(), QStringLiteral("projects")) << "largest growth first";
 
-    const QJsonArray kept = QJsonDocument::fromJson(cli({"history", "--json"}, data).out).object()[QStringLiteral("scans")].toArray();
+    const QJsonArray kept = QJsonDocument::fromJson(cli({"history", "--json"}, data).standardOutput).object()[QStringLiteral("scans")].toArray();
     EXPECT_EQ(kept.size(), 2);
     EXPECT_TRUE(cli({"history", "--since", "yesterday"}, data).exitCode == 2);
 }
@@ -102,11 +93,11 @@ TEST(HistoryCli, AGarbageHistoryFileIsKeptAsideAndANewOneStarted)
     const QString data = tree.dir("data");
     tree.file("data/Dustlark/history.sqlite", QByteArray(4096, '\x07'));
 
-    const CliRun run = cli({"scan", "--home", home, "--category", "trash", "--record"}, data);
+    const ProgramRun run = cli({"scan", "--home", home, "--category", "trash", "--record"}, data);
     EXPECT_EQ(run.exitCode, 0);
-    EXPECT_TRUE(run.error.contains(QStringLiteral("history.sqlite.damaged-"))) << qPrintable(run.error);
+    EXPECT_TRUE(run.standardError.contains("history.sqlite.damaged-")) << run.standardError.constData();
     EXPECT_EQ(QDir(data + "/Dustlark").entryList({"history.sqlite.damaged-*"}, QDir::Files).size(), 1);
-    const QJsonArray kept = QJsonDocument::fromJson(cli({"history", "--json"}, data).out).object()[QStringLiteral("scans")].toArray();
+    const QJsonArray kept = QJsonDocument::fromJson(cli({"history", "--json"}, data).standardOutput).object()[QStringLiteral("scans")].toArray();
     EXPECT_EQ(kept.size(), 1);
 }
 

@@ -1,4 +1,5 @@
 #include "scan/LocationScanner.h"
+#include "support/ProgramRun.h"
 #include "support/TempTree.h"
 #include "vocabulary/CategoryID.h"
 
@@ -15,22 +16,11 @@
 
 namespace {
 
-struct CliRun {
-    int exitCode = -1;
-    QByteArray standardOutput;
-    QByteArray standardError;
-};
+using CliRun = ProgramRun;
 
 CliRun runProgram(const QString& program, const QStringList& arguments)
 {
-    QProcess process;
-    process.start(program, arguments);
-    if (!process.waitForFinished(60'000)) {
-        process.kill();
-        process.waitForFinished();
-    }
-    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-            process.readAllStandardOutput(), process.readAllStandardError()};
+    return ProgramRun::run(program, arguments, 60'000);
 }
 
 QJsonArray categoriesOf(const CliRun& run)
