@@ -16,7 +16,7 @@ std::optional<Notice> Notice::foundToReview(const QList<std::pair<CategoryID, qi
         found.append({category, size});
         total += size;
     }
-    if (found.isEmpty())
+    if (total < foundWorthTelling)
         return std::nullopt;
     // Stable, so equal sizes keep the order categories are listed in everywhere else.
     std::stable_sort(found.begin(), found.end(), [](const auto& a, const auto& b) { return a.second > b.second; });

@@ -22,8 +22,14 @@ struct Notice {
 
     bool operator==(const Notice&) const = default;
 
+    // Less than this to review in all is not worth interrupting anyone for: a gigabyte is
+    // about where removing it starts to show on a disk, and below it every scan of a used
+    // home would find something (a few caches always grow back).
+    static constexpr qint64 foundWorthTelling = 1'000'000'000;
+
     // "Dustlark found 12.4 GB you can review: Project Builds 8.1 GB, Docker 3.2 GB": the total
-    // of every category and the two largest by name. Absent when nothing was found.
+    // of every category and the two largest by name. Absent when the total is below
+    // `foundWorthTelling`.
     static std::optional<Notice> foundToReview(const QList<std::pair<CategoryID, qint64>>& categorySizes);
     // "Only 8.2 GB (4%) is left on your disk.": absent unless the warning's line is crossed.
     static std::optional<Notice> lowSpace(FreeSpaceWarning warning, const DiskSpace& disk);

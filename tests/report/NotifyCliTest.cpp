@@ -37,7 +37,7 @@ protected:
         environment.insert("XDG_DATA_HOME", tree.path("data"));
         QProcess cli;
         cli.setProcessEnvironment(environment);
-        cli.start(QStringLiteral(DUSTLARK_CLI), {"scan", "--home", home, "--notify"});
+        cli.start(QStringLiteral(DUSTLARK_CLI), {"scan", "--home", home, "--record", "--notify"});
         ASSERT_TRUE(cli.waitForFinished(120'000));
         ASSERT_EQ(cli.exitCode(), 0) << cli.readAllStandardError().constData();
     }
@@ -61,9 +61,9 @@ TEST_F(NotifyCliTest, TellsWhatItFoundOnceADayAndChangesNothing)
 {
     const QString home = tree.dir("home");
     tree.file("home/code/web/package.json");
-    tree.file("home/code/web/node_modules/left-pad/index.js", 300'000);
-    tree.file("home/.cache/pip/http/a/b/c", 2'000'000);
-    tree.file("home/.npm/_cacache/content-v2/x", 900'000);
+    tree.allocatedFile("home/code/web/node_modules/left-pad/index.js", 300'000'000);
+    tree.allocatedFile("home/.cache/pip/http/a/b/c", 800'000'000);
+    tree.allocatedFile("home/.npm/_cacache/content-v2/x", 90'000'000);
     const QMap<QString, QString> before = treeSnapshot(home);
 
     scanWithNotify(home);
@@ -78,6 +78,20 @@ TEST_F(NotifyCliTest, TellsWhatItFoundOnceADayAndChangesNothing)
     EXPECT_EQ(bus.calls().size(), 1);
     // It only tells: nothing in the home was selected, moved or removed.
     EXPECT_EQ(treeSnapshot(home), before);
+}
+
+TEST_F(NotifyCliTest, StaysQuietUntilAGigabyteWaitsForReview)
+{
+    const QString home = tree.dir("home");
+    tree.allocatedFile("home/.cache/pip/http/a", 990'000'000);  // with its folders, just under
+    scanWithNotify(home);
+    EXPECT_TRUE(bus.calls().isEmpty());
+
+    tree.allocatedFile("home/.npm/_cacache/content-v2/x", 20'000'000);
+    scanWithNotify(home);
+    const QList<QJsonObject> calls = bus.calls();
+    ASSERT_EQ(calls.size(), 1);
+    EXPECT_TRUE(calls[0]["body"].toString().startsWith("Dustlark found 1.01 GB ")) << calls[0]["body"].toString().toStdString();
 }
 
 TEST_F(NotifyCliTest, WarnsOfLowSpaceOnlyWhenThePersonAskedFor)

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 
 #include <cerrno>
+#include <cstring>
 #include <fcntl.h>
 #include <grp.h>
 #include <sys/stat.h>
@@ -57,6 +58,18 @@ QString TempTree::sparseFile(const QString& relative, qint64 size) const
     const QString absolute = file(relative, 0);
     if (::truncate(QFile::encodeName(absolute).constData(), size) != 0)
         qFatal("cannot size %s", qPrintable(absolute));
+    return absolute;
+}
+
+QString TempTree::allocatedFile(const QString& relative, qint64 size) const
+{
+    const QString absolute = file(relative, 0);
+    const int fd = ::open(QFile::encodeName(absolute).constData(), O_WRONLY);
+    const int failed = fd < 0 ? errno : ::posix_fallocate(fd, 0, size);
+    if (fd >= 0)
+        ::close(fd);
+    if (failed != 0)
+        qFatal("cannot allocate %s: %s", qPrintable(absolute), std::strerror(failed));
     return absolute;
 }
 

@@ -23,6 +23,9 @@ public:
     QString file(const QString& relative, const QByteArray& content) const;
     // A file of `size` bytes that takes no disk blocks (a hole), for size thresholds.
     QString sparseFile(const QString& relative, qint64 size) const;
+    // A file whose `size` bytes are all allocated on disk but never written (fallocate), for
+    // sizes as a scan counts them without the time to write them.
+    QString allocatedFile(const QString& relative, qint64 size) const;
     QString symlink(const QString& relative, const QString& target) const;
     QString hardlink(const QString& relative, const QString& existingRelative) const;
     // Sets modification and access time, seconds since 1970.
