@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSaveFile>
 #include <QStandardPaths>
 
@@ -36,6 +37,11 @@ QString wantsLinkPath(const Place& place)
 QString agentPath(const Place& place)
 {
     return place.home + QStringLiteral("/Library/LaunchAgents/") + agentLabel + QStringLiteral(".plist");
+}
+
+QString servicePath(const Place& place)
+{
+    return systemdFolder(place) + QLatin1Char('/') + unitName + QStringLiteral(".service");
 }
 
 // One word of an ExecStart line, quoted, with systemd's specifier sign doubled. Variables are
@@ -91,6 +97,37 @@ QByteArray timerText(ScanSchedule schedule)
 QString xmlText(const QString& text)
 {
     return text.toHtmlEscaped();
+}
+
+QString fromXmlText(QString text)
+{
+    return text.replace(QStringLiteral("&lt;"), QStringLiteral("<"))
+        .replace(QStringLiteral("&gt;"), QStringLiteral(">"))
+        .replace(QStringLiteral("&quot;"), QStringLiteral("\""))
+        .replace(QStringLiteral("&amp;"), QStringLiteral("&"));
+}
+
+// The first word of an ExecStart line as execWord wrote it; absent for any other shape.
+std::optional<QString> programOfExecStart(const QString& command)
+{
+    if (!command.startsWith(QLatin1Char('"')))
+        return std::nullopt;
+    QString program;
+    for (qsizetype i = 1; i < command.size(); ++i) {
+        const QChar c = command.at(i);
+        if (c == QLatin1Char('"'))
+            return program;
+        if ((c == QLatin1Char('\\') || c == QLatin1Char('%')) && i + 1 < command.size())
+            ++i;  // "\\", "\"" and "%%" stand for one sign
+        program += command.at(i);
+    }
+    return std::nullopt;
+}
+
+QString textOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
 QByteArray agentText(ScanSchedule schedule, const Place& place)
@@ -167,7 +204,7 @@ QStringList scheduleFiles(const Place& place)
 {
     if (place.desktop == Platform::Desktop::finder)
         return {agentPath(place)};
-    return {wantsLinkPath(place), timerPath(place), systemdFolder(place) + QLatin1Char('/') + unitName + QStringLiteral(".service")};
+    return {wantsLinkPath(place), timerPath(place), servicePath(place)};
 }
 
 std::optional<QString> runAll(const QList<QStringList>& commands, const Place& place, const Runner& run)
@@ -209,7 +246,7 @@ QList<File> files(ScanSchedule schedule, const Place& place)
         return {};
     if (place.desktop == Platform::Desktop::finder)
         return {{agentPath(place), agentText(schedule, place)}};
-    return {{systemdFolder(place) + QLatin1Char('/') + unitName + QStringLiteral(".service"), serviceText(place)},
+    return {{servicePath(place), serviceText(place)},
             {timerPath(place), timerText(schedule)}};
 }
 
@@ -252,6 +289,32 @@ std::optional<QString> apply(ScanSchedule schedule, const Place& place, const Ru
             return failed;
     }
     return runAll(schedulerCommands(place, true), place, run);
+}
+
+std::optional<QString> scheduledTool(const Place& place)
+{
+    if (place.desktop == Platform::Desktop::finder) {
+        static const QRegularExpression firstArgument(QStringLiteral("<key>ProgramArguments</key>\\s*<array>\\s*<string>([^<]*)</string>"));
+        const QRegularExpressionMatch match = firstArgument.match(textOf(agentPath(place)));
+        return match.hasMatch() ? std::optional(fromXmlText(match.captured(1))) : std::nullopt;
+    }
+    const QString execStart = QStringLiteral("ExecStart=");
+    for (const QString& line : textOf(servicePath(place)).split(QLatin1Char('\n'))) {
+        if (line.startsWith(execStart))
+            return programOfExecStart(line.mid(execStart.size()));
+    }
+    return std::nullopt;
+}
+
+std::optional<QString> follow(ScanSchedule schedule, const Place& place, const Runner& run)
+{
+    if (schedule == ScanSchedule::never)
+        return std::nullopt;
+    const std::optional<QString> tool = scheduledTool(place);
+    // Another program under the same name is the person's own wrapper: theirs to keep.
+    if (!tool || *tool == place.cli || QFileInfo(*tool).fileName() != QFileInfo(place.cli).fileName())
+        return std::nullopt;
+    return apply(schedule, place, run);
 }
 
 }  // namespace ScheduledScan

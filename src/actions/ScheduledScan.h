@@ -56,4 +56,14 @@ ProcessRunner::Result runTool(const QStringList& command);
 // now, so the schedule starts at the next login). Blocks: call it off the GUI thread.
 std::optional<QString> apply(ScanSchedule schedule, const Place& place, const Runner& run = runTool);
 
+// The report tool the written schedule runs (the service's ExecStart program, the agent's first
+// argument); absent when there is no schedule file or it is not in the shape Dustlark writes.
+std::optional<QString> scheduledTool(const Place& place);
+
+// After the app was moved or updated to another place, its schedule still runs the old copy's
+// report tool: when the written schedule runs a tool of the same name elsewhere, writes it again
+// for `place.cli` and tells the scheduler. A schedule that already runs `place.cli`, or whose
+// command the person changed to something else, is left as it is. Blocks: call it off the GUI thread.
+std::optional<QString> follow(ScanSchedule schedule, const Place& place, const Runner& run = runTool);
+
 }  // namespace ScheduledScan

@@ -51,6 +51,24 @@ WatchSection::WatchSection(SettingsStore* settings, ScheduledScan::Place place, 
     connect(m_keepWatching, &QCheckBox::toggled, m_settings, &SettingsStore::setKeepsWatchingWhenClosed);
     connect(m_settings, &SettingsStore::watchChanged, this, &WatchSection::refreshKeepWatching);
     refreshKeepWatching();
+    followTheApp();
+}
+
+// Made once as the app starts: a schedule the app wrote from another place (before it was moved
+// or updated) would run that place's report tool, or nothing at all.
+void WatchSection::followTheApp()
+{
+    const ScanSchedule schedule = m_settings->scanSchedule();
+    if (schedule == ScanSchedule::never)
+        return;
+    Background::run(this, [schedule, place = m_place] { return ScheduledScan::follow(schedule, place).value_or(QString()); },
+                    [this](const QString& said) { showScheduleNote(said); });
+}
+
+void WatchSection::showScheduleNote(const QString& said)
+{
+    m_scheduleNote->setText(said);
+    m_scheduleNote->setVisible(!said.isEmpty());
 }
 
 // Only a watch keeps the app running once the window is closed: with nothing to watch the
@@ -67,8 +85,7 @@ void WatchSection::chooseSchedule(ScanSchedule schedule)
     m_settings->setScanSchedule(schedule);
     Background::run(this, [schedule, place = m_place] { return ScheduledScan::apply(schedule, place).value_or(QString()); },
                     [this](const QString& said) {
-                        m_scheduleNote->setText(said);
-                        m_scheduleNote->setVisible(!said.isEmpty());
+                        showScheduleNote(said);
                         emit scheduleApplied(said);
                     });
 }

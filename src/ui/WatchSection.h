@@ -10,8 +10,10 @@ class QLabel;
 class SettingsStore;
 
 // The settings' "Watch quietly" rows: "Warn me when free space falls below" and "Scan for me",
-// both off until the person chooses, and whether closing the window keeps Dustlark watching. Choosing a schedule writes or removes the system's timer
-// for it off the GUI thread and shows what the system said. GUI thread only.
+// both off until the person chooses, and whether closing the window keeps Dustlark watching.
+// Choosing a schedule writes or removes the system's timer for it off the GUI thread and shows
+// what the system said; made as the app starts, it points a schedule written by a copy of the app
+// in another place at this copy's report tool. GUI thread only.
 class WatchSection : public QWidget {
     Q_OBJECT
 
@@ -30,6 +32,8 @@ signals:
 
 private:
     void chooseSchedule(ScanSchedule schedule);
+    void followTheApp();
+    void showScheduleNote(const QString& said);
     void refreshKeepWatching();
 
     SettingsStore* m_settings;

@@ -5,6 +5,7 @@
 #include "support/TempTree.h"
 
 #include <QFile>
+#include <QDateTime>
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
@@ -146,6 +147,74 @@ TEST(ScheduledScanTest, LaunchAgentRunsTheReportToolAndIsLoadedForTheGuiSession)
     EXPECT_FALSE(ScheduledScan::apply(ScanSchedule::never, place, launchctl));
     EXPECT_FALSE(QFile::exists(plist));
     EXPECT_EQ(ran, (QList<QStringList>{{"/bin/launchctl", "bootout", "gui/501/app.dustlark.Dustlark.scan"}}));
+}
+
+// The real systemctl or a launchctl answering as it does on success, each command noted.
+ScheduledScan::Runner noting(QList<QStringList>& ran, bool real)
+{
+    return [&ran, real](const QStringList& command) {
+        ran.append(command);
+        if (real)
+            return ScheduledScan::runTool(command);
+        ProcessRunner::Result result;
+        result.output = ProcessRunner::Output{0, {}, {}, false};
+        return result;
+    };
+}
+
+qint64 modifiedAt(const QString& path)
+{
+    return QFileInfo(path).lastModified().toSecsSinceEpoch();
+}
+
+TEST(ScheduledScanTest, ALinuxScheduleFollowsTheAppToItsNewPlaceAndNothingElse)
+{
+    const TempTree tree;
+    QList<QStringList> ran;
+    const ScheduledScan::Place moved = linuxPlace(tree);
+    const ScheduledScan::Place before = linuxPlace(tree, "/opt/Dust lark 0.9/bin/dustlark-cli");
+    ScheduledScan::apply(ScanSchedule::monthly, before, noting(ran, true));
+    EXPECT_EQ(ScheduledScan::scheduledTool(moved), before.cli);
+    const QByteArray unrelated = "[Service]\nExecStart=\"/opt/Dust lark 0.9/bin/dustlark-cli\" scan\n";
+    tree.file("config/systemd/user/backup.service", unrelated);
+    for (const char* file : {"config/systemd/user/backup.service", "config/systemd/user/dustlark-scan.service"})
+        tree.setTimes(file, 1'700'000'000);
+
+    ran.clear();
+    ScheduledScan::follow(ScanSchedule::monthly, moved, noting(ran, true));
+    EXPECT_EQ(ScheduledScan::scheduledTool(moved), moved.cli);
+    EXPECT_TRUE(contentsOf(tree.path("config/systemd/user/dustlark-scan.timer")).contains("\nOnCalendar=monthly\n"));
+    // The user manager rereads the units (without one running here, nothing after that is tried).
+    EXPECT_EQ(ran.value(0), (QStringList{"/usr/bin/systemctl", "--user", "daemon-reload"}));
+    EXPECT_EQ(contentsOf(tree.path("config/systemd/user/backup.service")), unrelated);
+    EXPECT_EQ(modifiedAt(tree.path("config/systemd/user/backup.service")), 1'700'000'000);
+
+    // Already the current tool, or a command the person put there themselves: left alone.
+    tree.setTimes("config/systemd/user/dustlark-scan.service", 1'700'000'000);
+    ran.clear();
+    ScheduledScan::follow(ScanSchedule::monthly, moved, noting(ran, true));
+    const QString wrapped = tree.file("config/systemd/user/dustlark-scan.service", QByteArray("[Service]\nExecStart=\"/home/ada/bin/quiet-scan\"\n"));
+    tree.setTimes("config/systemd/user/dustlark-scan.service", 1'700'000'000);
+    ScheduledScan::follow(ScanSchedule::monthly, moved, noting(ran, true));
+    EXPECT_EQ(modifiedAt(wrapped), 1'700'000'000);
+    EXPECT_TRUE(ran.isEmpty());
+}
+
+TEST(ScheduledScanTest, ALaunchAgentFollowsTheAppToItsNewPlace)
+{
+    const TempTree tree;
+    QList<QStringList> ran;
+    ScheduledScan::Place before = macPlace(tree);
+    ScheduledScan::Place moved = before;
+    moved.cli = QStringLiteral("/Users/ada/Applications/Dustlark <2>.app/Contents/MacOS/dustlark-cli");
+    ScheduledScan::apply(ScanSchedule::weekly, before, noting(ran, false));
+    EXPECT_EQ(ScheduledScan::scheduledTool(moved), before.cli);
+
+    ran.clear();
+    EXPECT_FALSE(ScheduledScan::follow(ScanSchedule::weekly, moved, noting(ran, false)));
+    const QString plist = moved.home + "/Library/LaunchAgents/app.dustlark.Dustlark.scan.plist";
+    EXPECT_EQ(PropertyList::read(plist)->strings("ProgramArguments").value(0), moved.cli);
+    EXPECT_EQ(ran.value(1), (QStringList{"/bin/launchctl", "bootstrap", "gui/501", plist}));
 }
 
 }  // namespace

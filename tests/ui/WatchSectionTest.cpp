@@ -58,6 +58,12 @@ TEST(WatchSection, TurningScanForMeOnWritesTheTimerAndOffRemovesIt)
     EXPECT_EQ(section.scheduleNote()->isVisibleTo(&section), !said.isEmpty());
     EXPECT_EQ(section.scheduleNote()->text(), said);
 
+    // The app moved: at its next start the schedule runs the report tool of its new place.
+    ScheduledScan::Place moved = fixture.place;
+    moved.cli = fixture.dir.filePath("moved/dustlark-cli");
+    const WatchSection afterTheMove(&fixture.settings, moved);
+    EXPECT_TRUE(waitUntil([&] { return ScheduledScan::scheduledTool(moved) == moved.cli; }));
+
     fixture.choose(section.schedulePicker(), "never");
     ASSERT_TRUE(waitUntil([&] { return applied.size() == 2; }));
     EXPECT_FALSE(QFile::exists(timer));
