@@ -27,13 +27,15 @@ QStringList appleScriptCommand(const Notice& notice)
     return {QStringLiteral("/usr/bin/osascript"), QStringLiteral("-e"), script};
 }
 
-bool send(const Notice& notice, const Delivery& delivery)
+std::optional<quint32> send(const Notice& notice, const Delivery& delivery)
 {
     if (delivery.desktop == Platform::Desktop::freedesktop)
         return Platform::postDesktopNotification(delivery.busAddress, {appName, desktopEntry, notice.summary, notice.body});
     const QStringList command = appleScriptCommand(notice);
     const ProcessRunner::Result result = ProcessRunner::run(command.first(), command.mid(1), std::chrono::seconds(10));
-    return result.launched() && result.output->status == 0 && !result.output->timedOut;
+    if (!result.launched() || result.output->status != 0 || result.output->timedOut)
+        return std::nullopt;
+    return 0;
 }
 
 }  // namespace Notifier

@@ -24,9 +24,11 @@ int main(int argc, char* argv[])
     // Wayland compositors match the window to its desktop entry, and so to its icon, by this name.
     QGuiApplication::setDesktopFileName(QStringLiteral("app.dustlark.Dustlark"));
 
-    // A second launch shows the running window instead of a second one that could clean at the same time.
+    // A second launch shows the running window instead of a second one that could clean at the
+    // same time. The report tool launches the app with --overview when its notification is clicked.
+    const bool toOverview = QApplication::arguments().contains(QStringLiteral("--overview"));
     SingleInstance instance;
-    if (!instance.claim())
+    if (!instance.claim(std::chrono::seconds(5), toOverview ? SingleInstance::Request::showOverview : SingleInstance::Request::raise))
         return 0;
 
     // The native store: NSUserDefaults on macOS, an INI file under ~/.config on Linux. Only the
@@ -50,10 +52,11 @@ int main(int argc, char* argv[])
     settingsPage->showUpdates(&model);
     window.setSettingsPage(settingsPage);
     StatusItem statusItem(&model, NoticeLog(SystemPlaces::appDataFolder()), Notifier::Delivery{});
-    QObject::connect(&statusItem, &StatusItem::openRequested, &window, [&window] {
+    const auto showOverview = [&window] {
         window.choose(SidebarDestination::screen(SidebarDestination::Kind::overview));
         window.bringToFront();
-    });
+    };
+    QObject::connect(&statusItem, &StatusItem::openRequested, &window, showOverview);
     QObject::connect(&statusItem, &StatusItem::quitRequested, &window, &MainWindow::requestQuit);
     // Hidden, the window comes back through the status item, so that item must be showing.
     window.setKeepsRunningWhenClosed([&statusItem, &settingsStore] {
@@ -61,5 +64,6 @@ int main(int argc, char* argv[])
     });
     window.show();
     QObject::connect(&instance, &SingleInstance::activationRequested, &window, &MainWindow::bringToFront);
+    QObject::connect(&instance, &SingleInstance::overviewRequested, &window, showOverview);
     return app.exec();
 }

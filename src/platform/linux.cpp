@@ -3,7 +3,6 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QUuid>
 #include <QDir>
 #include <QFile>
 #include <QSysInfo>
@@ -409,37 +408,91 @@ bool showItemInFileManager(const QString& path)
 
 namespace {
 
+const QString notificationService = QStringLiteral("org.freedesktop.Notifications");
+const QString notificationPath = QStringLiteral("/org/freedesktop/Notifications");
+
+QDBusMessage notificationCall(const QString& method)
+{
+    return QDBusMessage::createMethodCall(notificationService, notificationPath, notificationService, method);
+}
+
 QDBusMessage notifyCall(const DesktopNotification& notification)
 {
-    QDBusMessage call = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("/org/freedesktop/Notifications"),
-        QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("Notify"));
+    QDBusMessage call = notificationCall(QStringLiteral("Notify"));
     QVariantMap hints;
     hints.insert(QStringLiteral("desktop-entry"), notification.desktopEntry);
-    // "default" is the click on the notification itself; the desktop entry says what it opens.
+    // "default" is the click on the notification itself, told back to this connection alone.
     const QStringList actions{QStringLiteral("default"), QString()};
     call << notification.appName << quint32(0) << notification.desktopEntry << notification.summary
          << notification.body << actions << hints << qint32(-1);
     return call;
 }
 
+// One connection per bus for the whole process, never closed: the service answers a click to
+// the connection that showed the notification, so it must outlive the call that posted it.
+QDBusConnection notificationBus(const QString& busAddress)
+{
+    if (busAddress.isEmpty())
+        return QDBusConnection::sessionBus();
+    return QDBusConnection::connectToBus(busAddress, QStringLiteral("dustlark-notify ") + busAddress);
+}
+
+// Hands the service's ActionInvoked and NotificationClosed signals to a function.
+class NotificationSignals : public QObject {
+    Q_OBJECT
+
+public:
+    NotificationSignals(std::function<void(quint32, NotificationAnswer)> answered, QObject* parent)
+        : QObject(parent), m_answered(std::move(answered))
+    {
+    }
+
+public slots:
+    void actionInvoked(uint id, const QString& action)
+    {
+        if (action == QLatin1String("default"))
+            m_answered(id, NotificationAnswer::clicked);
+    }
+    void notificationClosed(uint id, uint) { m_answered(id, NotificationAnswer::closed); }
+
+private:
+    std::function<void(quint32, NotificationAnswer)> m_answered;
+};
+
 }  // namespace
 
-bool postDesktopNotification(const QString& busAddress, const DesktopNotification& notification)
+std::optional<quint32> postDesktopNotification(const QString& busAddress, const DesktopNotification& notification)
 {
-    if (busAddress.isEmpty()) {
-        QDBusConnection bus = QDBusConnection::sessionBus();
-        return bus.isConnected() && bus.call(notifyCall(notification), QDBus::Block, 3000).type() == QDBusMessage::ReplyMessage;
-    }
-    // A private connection of its own, so concurrent callers never share one by name.
-    const QString name = QStringLiteral("dustlark-notify-") + QUuid::createUuid().toString(QUuid::WithoutBraces);
-    bool answered = false;
-    {
-        QDBusConnection bus = QDBusConnection::connectToBus(busAddress, name);
-        answered = bus.isConnected() && bus.call(notifyCall(notification), QDBus::Block, 3000).type() == QDBusMessage::ReplyMessage;
-    }
-    QDBusConnection::disconnectFromBus(name);
-    return answered;
+    QDBusConnection bus = notificationBus(busAddress);
+    if (!bus.isConnected())
+        return std::nullopt;
+    const QDBusMessage reply = bus.call(notifyCall(notification), QDBus::Block, 3000);
+    if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().isEmpty())
+        return std::nullopt;
+    return reply.arguments().constFirst().toUInt();
+}
+
+bool watchDesktopNotifications(const QString& busAddress, QObject* context,
+                               const std::function<void(quint32, NotificationAnswer)>& answered)
+{
+    QDBusConnection bus = notificationBus(busAddress);
+    auto* relay = new NotificationSignals(answered, context);
+    const bool clicks = bus.connect(notificationService, notificationPath, notificationService, QStringLiteral("ActionInvoked"),
+                                    relay, SLOT(actionInvoked(uint,QString)));
+    const bool closes = bus.connect(notificationService, notificationPath, notificationService,
+                                    QStringLiteral("NotificationClosed"), relay, SLOT(notificationClosed(uint,uint)));
+    return bus.isConnected() && clicks && closes;
+}
+
+void closeDesktopNotification(const QString& busAddress, quint32 id)
+{
+    QDBusConnection bus = notificationBus(busAddress);
+    QDBusMessage call = notificationCall(QStringLiteral("CloseNotification"));
+    call << id;
+    if (bus.isConnected())
+        bus.call(call, QDBus::Block, 3000);
 }
 
 }  // namespace Platform
+
+#include "linux.moc"

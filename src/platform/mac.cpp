@@ -365,9 +365,16 @@ bool showItemInFileManager(const QString&)
     return false;  // Finder is asked with `open -R` (SystemAccess::revealCommand)
 }
 
-bool postDesktopNotification(const QString&, const DesktopNotification&)
+std::optional<quint32> postDesktopNotification(const QString&, const DesktopNotification&)
 {
-    return false;  // osascript's `display notification` (Notifier::appleScriptCommand)
+    return std::nullopt;  // osascript's `display notification` (Notifier::appleScriptCommand)
 }
+
+bool watchDesktopNotifications(const QString&, QObject*, const std::function<void(quint32, NotificationAnswer)>&)
+{
+    return false;
+}
+
+void closeDesktopNotification(const QString&, quint32) {}
 
 }  // namespace Platform

@@ -9,6 +9,7 @@
 namespace {
 
 const QByteArray raiseRequest = "raise\n";
+const QByteArray overviewRequest = "overview\n";
 
 }  // namespace
 
@@ -32,10 +33,10 @@ QString SingleInstance::defaultFolder()
     return QDir::tempPath();
 }
 
-bool SingleInstance::claim(std::chrono::milliseconds patience)
+bool SingleInstance::claim(std::chrono::milliseconds patience, Request request)
 {
     if (!m_lock.tryLock(0)) {
-        (void)askRunningCopy(patience);
+        (void)askRunningCopy(patience, request);
         return false;
     }
     // The socket of a copy that crashed is left behind; holding the lock, it can only be stale.
@@ -46,14 +47,14 @@ bool SingleInstance::claim(std::chrono::milliseconds patience)
 }
 
 // The running copy may still be starting (lock taken, not yet listening): ask until it answers.
-bool SingleInstance::askRunningCopy(std::chrono::milliseconds patience) const
+bool SingleInstance::askRunningCopy(std::chrono::milliseconds patience, Request request) const
 {
     const QDeadlineTimer deadline(patience);
     do {
         QLocalSocket socket;
         socket.connectToServer(m_socket);
         if (socket.waitForConnected(200)) {
-            socket.write(raiseRequest);
+            socket.write(request == Request::showOverview ? overviewRequest : raiseRequest);
             const bool sent = socket.waitForBytesWritten(1000);
             socket.disconnectFromServer();
             if (sent)
@@ -70,8 +71,11 @@ void SingleInstance::answer()
         connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
         const auto read = [this, socket] {
             while (socket->canReadLine()) {
-                if (socket->readLine() == raiseRequest)
+                const QByteArray line = socket->readLine();
+                if (line == raiseRequest)
                     emit activationRequested();
+                else if (line == overviewRequest)
+                    emit overviewRequested();
             }
         };
         connect(socket, &QLocalSocket::readyRead, this, read);

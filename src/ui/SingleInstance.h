@@ -18,18 +18,24 @@ public:
     // `folder` holds the lock and the socket; the user's runtime folder unless a test says otherwise.
     explicit SingleInstance(const QString& folder = defaultFolder(), QObject* parent = nullptr);
 
+    // What a later launch asks of the copy that runs.
+    enum class Request { raise, showOverview };
+
     // True when this process is the one that runs (and now listens); false when another copy
-    // was asked to come to the front, or held the lock without ever answering within `patience`.
-    bool claim(std::chrono::milliseconds patience = std::chrono::seconds(5));
+    // was asked to come to the front (on the Overview, with `showOverview`), or held the lock
+    // without ever answering within `patience`.
+    bool claim(std::chrono::milliseconds patience = std::chrono::seconds(5), Request request = Request::raise);
 
     static QString defaultFolder();
 
 signals:
     // Another launch asked this copy to show itself.
     void activationRequested();
+    // Another launch asked this copy to show itself on the Overview (a click on a notification).
+    void overviewRequested();
 
 private:
-    bool askRunningCopy(std::chrono::milliseconds patience) const;
+    bool askRunningCopy(std::chrono::milliseconds patience, Request request) const;
     void answer();
 
     QString m_socket;

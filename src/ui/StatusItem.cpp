@@ -32,6 +32,7 @@ StatusItem::StatusItem(AppModel* model, NoticeLog log, Notifier::Delivery delive
         if (reason == QSystemTrayIcon::Trigger)
             emit openRequested();
     });
+    listenForClicks();
     connect(m_model, &AppModel::systemStateChanged, this, [this] {
         refresh();
         checkFreeSpace();
@@ -44,6 +45,23 @@ StatusItem::StatusItem(AppModel* model, NoticeLog log, Notifier::Delivery delive
 }
 
 StatusItem::~StatusItem() = default;
+
+// A click on a notice opens the window on the Overview. On macOS the notice is the tray icon's
+// own message, whose click the notification centre hands back to the app; on Linux the
+// notification service tells the connection that showed it.
+void StatusItem::listenForClicks()
+{
+    if (m_delivery.desktop == Platform::Desktop::finder) {
+        connect(m_icon, &QSystemTrayIcon::messageClicked, this, &StatusItem::openRequested);
+        return;
+    }
+    Platform::watchDesktopNotifications(m_delivery.busAddress, this, [this](quint32 id, Platform::NotificationAnswer answer) {
+        if (!m_shown.remove(id))
+            return;
+        if (answer == Platform::NotificationAnswer::clicked)
+            emit openRequested();
+    });
+}
 
 void StatusItem::refresh()
 {
@@ -75,12 +93,14 @@ void StatusItem::checkFreeSpace()
     }
     m_telling = true;  // one notice at a time; figures read meanwhile wait for the next reading
     Background::run(this, [notice = *notice, log = m_log, today, delivery = m_delivery] {
-        const bool shown = Notifier::send(notice, delivery);
+        const std::optional<quint32> shown = Notifier::send(notice, delivery);
         if (shown)
             log.record(notice.condition, today);
         return shown;
-    }, [this](bool shown) {
+    }, [this](std::optional<quint32> shown) {
         m_telling = false;
-        emit lowSpaceTold(shown);
+        if (shown)
+            m_shown.insert(*shown);
+        emit lowSpaceTold(shown.has_value());
     });
 }

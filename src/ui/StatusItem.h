@@ -4,6 +4,7 @@
 #include "actions/Notifier.h"
 
 #include <QObject>
+#include <QSet>
 
 class AppModel;
 class QAction;
@@ -26,7 +27,7 @@ public:
     QAction* freeSpaceEntry() const { return m_freeSpace; }
 
 signals:
-    void openRequested();  // show the window on the Overview
+    void openRequested();  // show the window on the Overview (also a click on a notice)
     void quitRequested();
     // A low-space notice went to the desktop (or nothing showed it: `shown` false).
     void lowSpaceTold(bool shown);
@@ -34,6 +35,7 @@ signals:
 private:
     void refresh();
     void checkFreeSpace();
+    void listenForClicks();
 
     AppModel* m_model;
     NoticeLog m_log;
@@ -42,4 +44,5 @@ private:
     QSystemTrayIcon* m_icon;
     QAction* m_freeSpace;
     bool m_telling = false;
+    QSet<quint32> m_shown;  // notices on the screen now, by the notification service's id
 };

@@ -4,7 +4,7 @@
 #include <QJsonDocument>
 #include <QStandardPaths>
 
-NotificationBus::NotificationBus()
+NotificationBus::NotificationBus(Person person)
 {
     const QString runSession = QStandardPaths::findExecutable(QStringLiteral("dbus-run-session"));
     const QString listener = QStringLiteral(DUSTLARK_NOTIFICATION_LISTENER);
@@ -12,7 +12,10 @@ NotificationBus::NotificationBus()
         m_unavailable = QStringLiteral("needs dbus-run-session (package dbus-daemon) and the notification listener");
         return;
     }
-    m_session.start(runSession, {QStringLiteral("--"), listener});
+    QStringList arguments{QStringLiteral("--"), listener};
+    if (person == Person::dismissesAtOnce)
+        arguments.append(QStringLiteral("--dismiss"));
+    m_session.start(runSession, arguments);
     while (m_session.waitForReadyRead(10'000) || m_session.canReadLine()) {
         if (!m_session.canReadLine())
             continue;
@@ -42,4 +45,10 @@ QList<QJsonObject> NotificationBus::calls()
     while (m_session.canReadLine())
         m_calls.append(QJsonDocument::fromJson(m_session.readLine()).object());
     return m_calls;
+}
+
+void NotificationBus::click(quint32 id)
+{
+    m_session.write("click " + QByteArray::number(id) + '\n');
+    m_session.waitForBytesWritten(1000);
 }

@@ -9,7 +9,10 @@
 // calls it gets (tests/support/listener). Absent tools leave it not running; tests skip then.
 class NotificationBus {
 public:
-    NotificationBus();
+    // What the person in front of the screen does with each notification.
+    enum class Person { dismissesAtOnce, clicksWhenTold };
+
+    explicit NotificationBus(Person person = Person::dismissesAtOnce);
     ~NotificationBus();
     NotificationBus(const NotificationBus&) = delete;
     NotificationBus& operator=(const NotificationBus&) = delete;
@@ -19,6 +22,8 @@ public:
     const QString& address() const { return m_address; }
     // Every Notify call so far, oldest first.
     QList<QJsonObject> calls();
+    // The person clicks notification `id` (then it is closed, as a click dismisses it).
+    void click(quint32 id);
 
 private:
     QProcess m_session;

@@ -61,9 +61,9 @@ TEST(StatusItem, ShownOnlyWhileDustlarkWatchesWithTheFreeSpaceAtAGlance)
     EXPECT_EQ(quit.size(), 1);
 }
 
-TEST(StatusItem, TheOpenAppWarnsOfLowSpaceOnceADay)
+TEST(StatusItem, TheOpenAppWarnsOfLowSpaceOnceADayAndItsClickOpensTheOverview)
 {
-    NotificationBus bus;
+    NotificationBus bus(NotificationBus::Person::clicksWhenTold);
     if (!bus.unavailable().isEmpty())
         GTEST_SKIP() << bus.unavailable().toStdString();
     ModelFixture fixture = modelWithFreeSpace(4'000'000'000);
@@ -85,4 +85,8 @@ TEST(StatusItem, TheOpenAppWarnsOfLowSpaceOnceADay)
     ASSERT_TRUE(waitUntil([&] { return stateChanged.size() == 2; }));
     EXPECT_FALSE(waitUntil([&] { return told.size() > 1; }, 1000)) << "told twice on one day";
     EXPECT_EQ(bus.calls().size(), 1);
+
+    QSignalSpy open(&item, &StatusItem::openRequested);
+    bus.click(calls[0]["id"].toInt());
+    EXPECT_TRUE(waitUntil([&] { return open.size() == 1; }));
 }
