@@ -2,8 +2,8 @@
 // prints "address <bus address>" once it owns the name, then one JSON line per call, written
 // before the call is answered (so a caller that got its answer finds its line already there).
 // Stands for the person too: with --dismiss it closes each notification as soon as it is
-// answered; otherwise the lines "click ID" and "close ID" on its standard input click or close
-// one, as a server tells it (to the connection that showed it). Ends when its standard input
+// answered; otherwise a line "click ID" on its standard input clicks one, told as a server tells
+// it (to the connection that showed it). Ends when its standard input
 // closes. Run under dbus-run-session for a private, real bus.
 #include <QCoreApplication>
 #include <QDBusConnection>
@@ -92,8 +92,6 @@ int main(int argc, char* argv[])
             pending.remove(0, end + 1);
             if (words.size() == 2 && words[0] == "click")
                 server.click(words[1].toUInt());
-            else if (words.size() == 2 && words[0] == "close")
-                server.close(words[1].toUInt(), 2);
         }
     });
     return app.exec();
