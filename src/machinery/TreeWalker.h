@@ -32,7 +32,10 @@ public:
     // failed); in problem it may be -1.
     [[nodiscard]] int folderDescriptor() const { return m_folder; }
     [[nodiscard]] FileKey key() const { return FileKey::of(*m_status); }
-    // The path, built only when asked for: the root as given, then "/" and each name.
+    // The path, built only when asked for: the root as given, then "/" and each name. The view
+    // lies in the walker's own buffer (no copy: it costs the name alone, however deep) and
+    // lasts while the callback runs.
+    [[nodiscard]] std::string_view pathView() const;
     [[nodiscard]] QByteArray pathBytes() const;
     [[nodiscard]] QString path() const;
     // The path of the folder holding the entry (the root's own parent for the root).
@@ -113,8 +116,9 @@ public:
 //   (or for a link) between its status and its opening: the opened folder must have the
 //   device and inode the status showed;
 // - stays on the root's volume: entries of another device (mount points) are not reported;
-// - keeps at most `descriptorLimit` folders open: past that depth the shallowest open folder is
-//   closed and reopened later, name by name from its nearest open ancestor, checked again;
+// - keeps at most `descriptorLimit` folders open: past that depth some ancestors are closed and
+//   reopened later, name by name from their nearest open ancestor, checked again (which ones
+//   stay open keeps a deep chain's reopening cost near linear; see keepUnderLimit);
 // - reports hard-linked non-folders once per walk when `hardLinksOnce` is set (by FileKey);
 // - counts every examined entry and adds them to `progress` in batches of 4096; polls
 //   `cancellation` at the same rhythm and before reading each folder.
@@ -173,7 +177,10 @@ private:
     static void listLevel(Level& level, const TreeEntry& entry, TreeVisitor& visitor);
     void leave(TreeVisitor& visitor);
     bool ensureOpen(size_t index);
-    void keepUnderLimit();
+    void noteOpen(size_t index);
+    void keepUnderLimit(size_t pinned);
+    size_t folderPathLength() const;
+    std::string_view entryPath(std::string_view name) const;
     bool isRepeatedLink(const struct stat& status);
     bool countEntry();
     bool isCancelled() const;
@@ -184,11 +191,13 @@ private:
     std::string m_baseName;           // and by which name (the root's path for a whole walk)
     int m_depthOffset = 0;            // the first level's depth in the whole walk
     std::string m_basePath;           // the path holding the first level ("" for "/" or a root)
-    std::string m_path;  // the current folder's path; entries add "/" and their name on demand
+    // The current folder's path; an entry asked for its path leaves "/" and its name after it
+    // until another entry asks.
+    mutable std::string m_path;
     std::vector<std::unique_ptr<Level>> m_levels;  // by pointer: entries view names in them
+    std::vector<size_t> m_openLevels;              // indices of the open levels, ascending
     dev_t m_device = 0;
     LinkRegister m_ownLinks;
     qint64 m_entries = 0;
-    int m_open = 0;
     End m_end = End::Finished;
 };

@@ -174,8 +174,7 @@ void Walk::Pass::problem(const TreeEntry&, TreeProblem kind, int)
 
 TreeVisitor::Verdict Walk::Pass::visitDirectory(const TreeEntry& entry)
 {
-    const QByteArray pathBytes = entry.pathBytes();
-    const std::string_view path(pathBytes.constData(), static_cast<size_t>(pathBytes.size()));
+    const std::string_view path = entry.pathView();
     const std::string_view name = entry.name();
     noteRepository(entry, path);
     if (isSkippedInPlace(path, name) || skipsBuildFolder(path, name))

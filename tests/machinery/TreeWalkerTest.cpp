@@ -1,6 +1,8 @@
+#include "machinery/FileSizer.h"
 #include "machinery/ScanProgress.h"
 #include "machinery/SplitWalk.h"
 #include "machinery/TreeWalker.h"
+#include "support/DeepChain.h"
 #include "support/TempTree.h"
 #include "support/WalkRecorder.h"
 
@@ -28,10 +30,11 @@ qsizetype countOf(const QByteArrayList& lines, const QByteArray& word)
 }
 
 // Linux lists a process's descriptors under /proc, macOS (which has no /proc) under /dev/fd.
+// Every kind of entry counts: a descriptor of a folder reads as a link to a folder.
 int openDescriptors()
 {
     const QString folder = QDir(QStringLiteral("/proc/self/fd")).exists() ? QStringLiteral("/proc/self/fd") : QStringLiteral("/dev/fd");
-    return static_cast<int>(QDir(folder).entryList(QDir::Files | QDir::System).size());
+    return static_cast<int>(QDir(folder).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size());
 }
 
 using Recorder = WalkRecorder;
@@ -84,19 +87,9 @@ TEST(TreeWalker, RootsThatAreNotFoldersOrDoNotExist)
 TEST(TreeWalker, TreeDeeperThanTheDescriptorLimitAndThePathLimitIsWalkedWhole)
 {
     TempTree tree;
-    // Built by descriptors too: the deepest paths are longer than any path call accepts.
     const QByteArray component(60, 'd');
     const int depth = 90;  // 90 x 61 bytes: past PATH_MAX
-    int folder = ::open(bytes(tree.root()).constData(), O_RDONLY | O_DIRECTORY);
-    for (int level = 0; level < depth; ++level) {
-        ASSERT_EQ(::mkdirat(folder, component.constData(), 0755), 0);
-        ::close(::openat(folder, "file", O_WRONLY | O_CREAT, 0644));
-        const int next = ::openat(folder, component.constData(), O_RDONLY | O_DIRECTORY);
-        ::close(folder);
-        folder = next;
-    }
-    ::close(::openat(folder, "bottom", O_WRONLY | O_CREAT, 0644));
-    ::close(folder);
+    const DeepChain chain(tree.root(), component, depth, [](int) { return 0; });
 
     Recorder recorder(bytes(tree.root()));
     const int before = openDescriptors();
@@ -116,7 +109,68 @@ TEST(TreeWalker, TreeDeeperThanTheDescriptorLimitAndThePathLimitIsWalkedWhole)
     EXPECT_EQ(countOf(recorder.lines, "cannot"), 0) << recorder.lines.join('\n').constData();
     EXPECT_EQ(countOf(recorder.lines, "item "), depth + 1) << "every reopened folder is finished";
     EXPECT_EQ(recorder.lines.last(), "leave .");
-    QProcess::execute(QStringLiteral("rm"), {QStringLiteral("-rf"), tree.path(component)});  // past PATH_MAX for QDir
+}
+
+namespace {
+
+// Sums what du sums, and notes the most descriptors open at any folder.
+class DeepSizer : public TreeVisitor {
+public:
+    explicit DeepSizer(int before) : m_before(before) {}
+
+    qint64 bytes = 0;
+    qint64 entries = 0;
+    qint64 problems = 0;
+    int mostOpen = 0;
+
+    Verdict enterFolder(const TreeEntry& entry) override
+    {
+        noteOpen();
+        return add(entry);
+    }
+    Verdict visitItem(const TreeEntry& entry) override { return add(entry); }
+    void leaveFolder(const TreeEntry&) override { noteOpen(); }  // the climb back reopens folders
+    void problem(const TreeEntry&, TreeProblem, int) override { ++problems; }
+
+private:
+    Verdict add(const TreeEntry& entry)
+    {
+        bytes += qint64(entry.status().st_blocks) * 512;
+        ++entries;
+        return Verdict::Enter;
+    }
+    void noteOpen() { mostOpen = std::max(mostOpen, openDescriptors() - m_before); }
+
+    int m_before;
+};
+
+}  // namespace
+
+// Thousands of levels, far more than the walk keeps open: every entry once and the bytes du
+// counts, within the descriptor bound on the way down and back up, nothing left open after.
+TEST(TreeWalker, ChainThousandsDeepIsMeasuredToTheByteWithinTheDescriptorBound)
+{
+    TempTree tree;
+    const int depth = 3000;
+    const DeepChain chain(tree.dir("top"), "d", depth, [](int level) { return level % 5 * 3000; });
+    const int before = openDescriptors();
+    DeepSizer sizer(before);
+    const TreeWalker::Options options;
+
+    const TreeWalker::Result result = TreeWalker(options).walk(bytes(tree.path("top")), sizer);
+
+    QProcess du;
+    du.start(QStringLiteral("du"), {QStringLiteral("-s"), QStringLiteral("-B1"), tree.path("top")});
+    ASSERT_TRUE(du.waitForFinished(60'000));
+    const qint64 duBytes = du.readAllStandardOutput().split('\t').first().toLongLong();
+    EXPECT_EQ(result.entries, 1 + 2 * depth + 1);
+    EXPECT_EQ(sizer.entries, result.entries);
+    EXPECT_EQ(sizer.problems, 0);
+    EXPECT_EQ(sizer.bytes, duBytes);
+    EXPECT_LE(sizer.mostOpen, options.descriptorLimit + 1) << "the listing of /proc/self/fd takes one";
+    EXPECT_EQ(openDescriptors(), before);
+    EXPECT_EQ(FileSizer::measure(tree.path("top")).bytes, duBytes) << "split into pieces, as the scans measure";
+    EXPECT_EQ(openDescriptors(), before);
 }
 
 // With two descriptors the ancestors of a deep folder are closed; when one of them is moved
