@@ -35,6 +35,11 @@ void FolderTreeBuilder::leaveFolder(FolderNode node)
         m_top.fileCount += node.fileCount;
         m_top.kind = node.kind;
     }
+    const auto depth = static_cast<qsizetype>(m_levels.size()) - 1;  // 0 for the root
+    if (depth > deepestLevel) {  // nothing below it was kept either
+        parent.foldedBytes += node.bytes;
+        return;
+    }
     if (node.bytes <= m_floor) {
         parent.foldedBytes += node.bytes;
         m_held -= node.nodeCount() - 1;

@@ -7,10 +7,14 @@
 // Builds the folder tree of one walk, bottom-up as folders are left. Memory stays bounded: once
 // twice `nodesKept` folders are held, the smallest are folded into their parents until fewer
 // than `nodesKept` remain, and from then on a folder no larger than the last one folded is
-// folded as it is left; the finished tree holds fewer than `nodesKept`. Not thread-safe; one
-// walk owns it.
+// folded as it is left; the finished tree holds fewer than `nodesKept`. Folders more than
+// `deepestLevel` levels below the walk's root are folded into their ancestor at that level, so
+// everything that follows the tree down (drawing, JSON, folding) stays within a small stack
+// however deep the folders nest. Not thread-safe; one walk owns it.
 class FolderTreeBuilder {
 public:
+    static constexpr qsizetype deepestLevel = 100;
+
     explicit FolderTreeBuilder(qsizetype nodesKept);
 
     void enterFolder();

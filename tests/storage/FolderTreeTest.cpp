@@ -1,9 +1,11 @@
 // The analysis's folder tree over real fixture homes, held to du: every folder's bytes are its
 // kept sub-folders' plus its own files' plus what was folded, to the byte, with hard links once,
-// sparse files by their blocks, trees deeper than the walk keeps open, and the node bound.
+// sparse files by their blocks, trees deeper than the walk keeps open, and the node and depth bounds.
 #include "StorageFixture.h"
 
+#include "storage/FolderTreeBuilder.h"
 #include "storage/HomeTree.h"
+#include "support/DeepChain.h"
 
 #include <QDir>
 #include <QFile>
@@ -163,4 +165,28 @@ TEST_F(FolderTreeTest, TheNodeBoundKeepsTheLargestFoldersAndEveryByte)
     const StorageReport unbounded = analyzed();
     EXPECT_EQ(unbounded.tree.bytes, report.tree.bytes);
     EXPECT_GT(unbounded.tree.nodeCount(), 5 * limit) << "only the bound folded so much";
+}
+
+// A chain a thousand folders deep, far past the walk's open folders: every byte as du counts it,
+// and the tree stops at its deepest level with the rest folded whole, so that what follows the
+// tree down (drawing, JSON) never recurses that deep.
+TEST_F(FolderTreeTest, DeepChainIsCountedToTheByteAndTheTreeStopsAtItsDeepestLevel)
+{
+    const DeepChain chain(tree.dir("home/chain"), "d", 1000, [](int level) { return level % 5 * 3000; });
+    file("Documents/report.pdf", 120'000);
+
+    const StorageReport report = analyzed();
+    EXPECT_EQ(report.measured(), du(roots()));
+    EXPECT_EQ(report.tree.bytes, du(homeRoots()));
+    EXPECT_EQ(firstUnbalanced(report.tree), QString());
+    QString path = QStringLiteral("chain");
+    const FolderNode* deepest = &at(report, path);
+    qsizetype levels = 0;
+    for (auto next = deepest->children.begin(); next != deepest->children.end(); next = deepest->children.begin()) {
+        deepest = &*next;
+        path += QStringLiteral("/d");
+        ++levels;
+    }
+    EXPECT_EQ(levels, FolderTreeBuilder::deepestLevel);
+    EXPECT_EQ(deepest->foldedBytes, du({home + '/' + path + "/d"}));
 }
