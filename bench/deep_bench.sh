@@ -25,10 +25,8 @@ cmake --build "$BUILD_DIR" --target storage_bench dustlark-cli -j 2 >/dev/null
 BIN="$(pwd)/$BUILD_DIR/bin"
 PAIRED="$(pwd)/bench/paired.sh"
 
-echo "== machine"
-grep -m1 'model name' /proc/cpuinfo; echo "cores: $(nproc)"; uname -r; uptime
-mkdir -p "$DATA"
-df -T "$DATA" | awk 'NR==2 {print "file system: " $2 " on " $1}'
+source bench/measure.sh
+describe_machine "$DATA"
 
 echo "== generate"
 if [ ! -d "$DATA/chain" ]; then
@@ -49,6 +47,7 @@ done
 unshare -m bash -s "$DATA" "$BIN" "$PAIRED" "$ROUNDS" <<'INNER'
 set -euo pipefail
 DATA=$1 BIN=$2 PAIRED=$3 ROUNDS=$4
+source bench/measure.sh
 mount -t tmpfs none /tmp
 mount -t tmpfs none /var/tmp
 unset TMPDIR
@@ -56,7 +55,6 @@ for home in chain modules; do
     echo "== full scan of $home / du -s"
     "$PAIRED" "$ROUNDS" "'$BIN/dustlark-cli' scan --home '$DATA/$home' --json" "du -s -B1 '$DATA/$home'"
     echo "== storage analysis of $home / du -s of the same roots"
-    roots=$("$BIN/storage_bench" roots "$DATA/$home" | awk '{printf "'\''%s'\'' ", $0}')
-    "$PAIRED" "$ROUNDS" "'$BIN/storage_bench' analyze '$DATA/$home'" "du -s -B1 -c $roots"
+    pair_storage "$ROUNDS" "$BIN" "$DATA/$home"
 done
 INNER

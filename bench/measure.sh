@@ -21,3 +21,19 @@ measure() {
         sed 's/^/                 /' "$LOG/out"
     fi
 }
+
+# describe_machine DATA: the processor, cores, kernel, load and DATA's file system, for the record.
+describe_machine() {
+    echo "== machine"
+    grep -m1 'model name' /proc/cpuinfo; echo "cores: $(nproc)"; uname -r; uptime
+    mkdir -p "$1"
+    df -T "$1" | awk 'NR==2 {print "file system: " $2 " on " $1}'
+}
+
+# pair_storage ROUNDS BIN HOME: the storage analysis of HOME (storage_bench in BIN) against
+# du -s -c of exactly the roots it walks, through paired.sh.
+pair_storage() {
+    local roots
+    roots=$("$2/storage_bench" roots "$3" | awk '{printf "'\''%s'\'' ", $0}')
+    "$(dirname "${BASH_SOURCE[0]}")/paired.sh" "$1" "'$2/storage_bench' analyze '$3'" "du -s -B1 -c $roots"
+}

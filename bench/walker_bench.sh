@@ -26,10 +26,8 @@ cmake --build "$BUILD_DIR" --target walk_bench projects_bench storage_bench dust
 BIN="$BUILD_DIR/bin"
 PAIRED="$(dirname "$0")/paired.sh"
 
-echo "== machine"
-grep -m1 'model name' /proc/cpuinfo; echo "cores: $(nproc)"; uname -r; uptime
-mkdir -p "$DATA"
-df -T "$DATA" | awk 'NR==2 {print "file system: " $2 " on " $1}'
+source "$(dirname "$0")/measure.sh"
+describe_machine "$DATA"
 
 echo "== generate"
 [ -d "$DATA/home" ] || "$BIN/projects_bench" generate "$DATA/home" >/dev/null
@@ -49,8 +47,7 @@ for home in "${homes[@]}"; do
     echo "== full scan of $home / du -s"
     "$PAIRED" "$ROUNDS" "'$BIN/dustlark-cli' scan --home '$DATA/$home' --json" "du -s -B1 '$DATA/$home'"
     echo "== storage analysis of $home / du -s of the same roots"
-    roots=$("$BIN/storage_bench" roots "$DATA/$home" | awk '{printf "'\''%s'\'' ", $0}')
-    "$PAIRED" "$ROUNDS" "'$BIN/storage_bench' analyze '$DATA/$home'" "du -s -B1 -c $roots"
+    pair_storage "$ROUNDS" "$BIN" "$DATA/$home"
 done
 echo "== FileSizer of the flat tree / du -s"
 "$PAIRED" "$ROUNDS" "'$BIN/walk_bench' size '$DATA/flat'" "du -s -B1 '$DATA/flat'"
