@@ -45,6 +45,7 @@ qint64 allocated(const struct stat& status)
 
 // The fixed facts of one root's walk, shared by its pieces.
 struct WalkSettings {
+    QByteArray root;
     const BucketRules& rules;
     ScanProgress* progress;
     const CancellationToken* cancellation;
@@ -82,7 +83,7 @@ private:
         FolderTally tally;
         bool package = false;
         bool shared = false;  // entered by an earlier piece: the tally holds this piece's share
-        QByteArray path;
+        QByteArray name;  // raw; only folders that make a list need a path, built from the names
         int usageFrame = -1;  // the frame whose own usage takes its files; -1: the root's of each bucket
         std::unique_ptr<FolderUsageBuilder> ownUsage;
         QByteArray group;  // "" directly in the usage's folder
@@ -96,7 +97,8 @@ private:
 
     void settle(size_t open);
     void enter(const Entry& entry);
-    Frame makeFrame(QByteArray path) const;
+    Frame makeFrame(const QByteArray& path) const;
+    QByteArray pathOf(size_t frame) const;
     void leave();
     void finishFolder();
     void addFile(const Entry& entry);
@@ -147,10 +149,10 @@ std::unique_ptr<SplittableVisitor> Walking::fork() const
         copy.tally = frame.tally.standing();
         copy.package = frame.package;
         copy.shared = true;
-        copy.path = frame.path;
+        copy.name = frame.name;
         copy.usageFrame = frame.usageFrame;
         if (frame.ownUsage)
-            copy.ownUsage = std::make_unique<FolderUsageBuilder>(QFile::decodeName(frame.path));
+            copy.ownUsage = std::make_unique<FolderUsageBuilder>(frame.ownUsage->path());
         copy.group = frame.group;
         piece->m_frames.push_back(std::move(copy));
         piece->m_tree.enterFolder();
@@ -210,7 +212,7 @@ void Walking::enter(const Entry& entry)
 
 // A folder inherits its parent's bucket, package and usage; a forced bucket of its own (by name
 // outside any forced folder, by a full-path row anywhere outside a package) starts a new usage.
-Walking::Frame Walking::makeFrame(QByteArray path) const
+Walking::Frame Walking::makeFrame(const QByteArray& path) const
 {
     const Frame* parent = m_frames.empty() ? nullptr : &m_frames.back();
     const QByteArrayView name = nameOf(path);
@@ -233,8 +235,20 @@ Walking::Frame Walking::makeFrame(QByteArray path) const
             frame.group.clear();
         }
     }
-    frame.path = std::move(path);
+    frame.name = name.toByteArray();
     return frame;
+}
+
+QByteArray Walking::pathOf(size_t frame) const
+{
+    if (frame == 0)
+        return m_settings.root;
+    QByteArray path = m_settings.root;
+    while (path.endsWith('/'))
+        path.chop(1);
+    for (size_t index = 1; index <= frame; ++index)
+        path.append('/').append(m_frames.at(index).name);
+    return path;
 }
 
 // A shared folder's share waits for the join; any other folder is finished here.
@@ -253,15 +267,16 @@ void Walking::leave()
 
 void Walking::finishFolder()
 {
+    const bool listed = m_frames.back().tally.isLarge();
+    const QByteArray path = listed ? pathOf(m_frames.size() - 1) : QByteArray();
     Frame frame = std::move(m_frames.back());
     m_frames.pop_back();
-    const bool listed = frame.tally.isLarge();
     if (listed) {
-        keep(StorageReport::LargeFolder{QFile::decodeName(frame.path), frame.tally.unlistedBytes,
+        keep(StorageReport::LargeFolder{QFile::decodeName(path), frame.tally.unlistedBytes,
                                         frame.tally.unlistedFiles, frame.tally.unlistedSmallBytes,
                                         frame.tally.listedKind()});
     }
-    m_tree.leaveFolder(FolderNode{QFile::decodeName(nameOf(frame.path).toByteArray()), frame.tally.bytes,
+    m_tree.leaveFolder(FolderNode{QFile::decodeName(frame.name), frame.tally.bytes,
                                   frame.tally.fileCount, frame.tally.ownBytes, 0, frame.tally.treeKind(), {}});
     if (!m_frames.empty())
         m_frames.back().tally.absorb(frame.tally, listed);
@@ -478,7 +493,7 @@ StorageWalker::StorageWalker(const BucketRules& rules, ScanProgress* progress, c
 
 StoragePartial StorageWalker::walk(const QByteArray& root) const
 {
-    const WalkSettings settings{m_rules, m_progress, m_cancellation, m_treeNodes, parentOf(root).toByteArray()};
+    const WalkSettings settings{root, m_rules, m_progress, m_cancellation, m_treeNodes, parentOf(root).toByteArray()};
     Walking walking(settings);
     StoragePartial partial = walking.run(root, m_threads);
     if (!walking.piecesShareLinks())
