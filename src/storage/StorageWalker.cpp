@@ -437,6 +437,8 @@ void Walking::takeFound(Walking& later, qsizetype linkOffset)
 // folders it entered itself stay open here.
 void Walking::takeOpenFolders(Walking& later, qsizetype linkOffset)
 {
+    if (later.m_entries == 0)  // met nothing (it followed the last subfolder): it holds only copies
+        return;
     const auto shared = static_cast<size_t>(
         std::count_if(later.m_frames.begin(), later.m_frames.end(), [](const Frame& frame) { return frame.shared; }));
     if (shared != m_frames.size()) {
