@@ -9,6 +9,7 @@
 #include <QFile>
 
 #include <algorithm>
+#include <atomic>
 #include <memory>
 #include <sys/stat.h>
 #include <vector>
@@ -51,6 +52,8 @@ struct WalkSettings {
     const CancellationToken* cancellation;
     qsizetype nodesKept;
     QByteArray rootParent;
+    // Set once two pieces are found to hold one hard-linked file: the split walk is given up.
+    std::atomic<bool>* piecesShareLinks = nullptr;
 };
 
 // One walk in progress, or one piece of a split walk: the open folders, the root's own usage
@@ -68,8 +71,6 @@ public:
     explicit Walking(const WalkSettings& settings) : m_settings(settings), m_tree(settings.nodesKept) {}
 
     StoragePartial run(const QByteArray& root, int threads);
-    // Whether two pieces met the same hard-linked file: each counted it.
-    bool piecesShareLinks() const { return m_piecesShareLinks; }
 
     std::unique_ptr<SplittableVisitor> fork() const override;
     void join(SplittableVisitor& later) override;
@@ -122,7 +123,6 @@ private:
     StoragePartial m_partial;
     std::vector<LeftShared> m_leftShared;  // deepest first
     qint64 m_entries = 0;
-    bool m_piecesShareLinks = false;
 };
 
 StoragePartial Walking::run(const QByteArray& root, int threads)
@@ -387,6 +387,8 @@ bool Walking::countEntry(const TreeEntry& entry)
         m_settings.progress->addEntries(progressBatch);
         m_settings.progress->setCurrentFolder(QFile::decodeName(entry.folderPathBytes()));
     }
+    if (m_settings.piecesShareLinks && m_settings.piecesShareLinks->load())
+        return false;
     return !(m_settings.cancellation && m_settings.cancellation->isCancelled());
 }
 
@@ -415,7 +417,8 @@ void Walking::takeFound(Walking& later, qsizetype linkOffset)
     StoragePartial& found = later.m_partial;
     for (auto link = found.links.begin(); link != found.links.end(); ++link) {
         if (m_partial.links.contains(link.key())) {
-            m_piecesShareLinks = true;
+            if (m_settings.piecesShareLinks)
+                m_settings.piecesShareLinks->store(true);
             continue;
         }
         m_partial.links.insert(link.key(), {link->bucket, link->bytes, link->folder + linkOffset});
@@ -495,11 +498,13 @@ StorageWalker::StorageWalker(const BucketRules& rules, ScanProgress* progress, c
 
 StoragePartial StorageWalker::walk(const QByteArray& root) const
 {
-    const WalkSettings settings{root, m_rules, m_progress, m_cancellation, m_treeNodes, parentOf(root).toByteArray()};
-    Walking walking(settings);
-    StoragePartial partial = walking.run(root, m_threads);
-    if (!walking.piecesShareLinks())
+    std::atomic<bool> piecesShareLinks{false};
+    WalkSettings settings{root, m_rules, m_progress, m_cancellation, m_treeNodes, parentOf(root).toByteArray(),
+                          &piecesShareLinks};
+    StoragePartial partial = Walking(settings).run(root, m_threads);
+    if (!piecesShareLinks.load())
         return partial;
     // Each piece counted the file it met: only one walk in walk order knows which link came first.
+    settings.piecesShareLinks = nullptr;
     return Walking(settings).run(root, 1);
 }

@@ -15,9 +15,10 @@ class ScanProgress;
 // forces one, or of its own extension; folders big because of small files are listed on the way
 // up. Beside the per-bucket lists only a bounded folder tree stays in memory (about
 // `treeNodes` folders, the largest). A big root is walked on up to `threads` threads (SplitWalk)
-// with the same outcome as on one; a root where two pieces meet one hard-linked file is walked
-// again on one thread, since only one walk knows which link comes first. One walker serves one
-// calling thread; `progress` and `cancellation` may be null.
+// with the same outcome as on one. Only one walk knows which link of a hard-linked file comes
+// first: once the pieces joined so far show two that met the same file, the split walk stops and
+// the root is walked again on one thread. One walker serves one calling thread; `progress` and
+// `cancellation` may be null.
 class StorageWalker {
 public:
     StorageWalker(const BucketRules& rules, ScanProgress* progress, const CancellationToken* cancellation,
