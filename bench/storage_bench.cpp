@@ -1,6 +1,7 @@
 // The storage analysis of a generated home, for comparison with `du -s` of the same roots
 // (bench/storage_bench.sh runs them side by side).
 //   storage_bench generate HOME ENTRIES   builds a home of about ENTRIES entries
+//   storage_bench dominant HOME ENTRIES   the same entries, nearly all in one folder (~/Projects)
 //   storage_bench roots HOME              prints the roots the analysis walks, one a line
 //   storage_bench analyze HOME            one analysis of HOME (no applications folder)
 
@@ -54,6 +55,40 @@ bool generateUnit(const QByteArray& home, int unit)
         && makeFiles(home + "/Library/Caches/app" + n, 200, ".cache");
 }
 
+// About 1,000 entries in one project folder with a package.json, so that a scan measures its
+// node_modules as a build folder: sources, packages, pictures and documents.
+bool generateProject(const QByteArray& home, int unit)
+{
+    const QByteArray project = home + "/Projects/project" + QByteArray::number(unit);
+    struct stat made {};
+    if (::stat((project + "/docs").constData(), &made) == 0)
+        return true;  // made by an earlier run, whose home this one grows
+    bool ok = makeFolder(project) && makeFiles(project + "/src", 20, ".swift") && makeFolder(project + "/node_modules");
+    for (int package = 0; ok && package < 30; ++package)
+        ok = makeFiles(project + "/node_modules/pkg" + QByteArray::number(package), 20, ".js");
+    const int manifest = ok ? ::open((project + "/package.json").constData(), O_WRONLY | O_CREAT | O_TRUNC, 0644) : -1;
+    ok = manifest >= 0 && ::write(manifest, "{}\n", 3) == 3;
+    if (manifest >= 0)
+        ::close(manifest);
+    return ok && makeFiles(project + "/assets", 250, ".jpg") && makeFiles(project + "/docs", 128, ".pdf");
+}
+
+// One folder holds 99% of the entries; a few small folders beside it and in Library.
+int generateDominant(const QByteArray& home, long long entries)
+{
+    for (const char* folder : {"", "/Projects", "/Library", "/Library/Caches"}) {
+        if (!makeFolder(home + folder))
+            return 1;
+    }
+    if (!makeFiles(home + "/Documents", 100, ".pdf") || !makeFiles(home + "/Library/Caches/app", 200, ".cache"))
+        return 1;
+    for (int unit = 0; unit < entries / 1000; ++unit) {
+        if (!generateProject(home, unit))
+            return 1;
+    }
+    return 0;
+}
+
 int generate(const QByteArray& home, long long entries)
 {
     for (const char* folder : {"", "/code", "/Pictures", "/Documents", "/Library", "/Library/Caches"}) {
@@ -100,10 +135,12 @@ int main(int argc, char** argv)
     const QByteArray mode = argc > 1 ? argv[1] : "";
     if (mode == "generate" && argc == 4)
         return generate(argv[2], QByteArray(argv[3]).toLongLong());
+    if (mode == "dominant" && argc == 4)
+        return generateDominant(argv[2], QByteArray(argv[3]).toLongLong());
     if (mode == "roots" && argc == 3)
         return roots(QFile::decodeName(argv[2]));
     if (mode == "analyze" && argc == 3)
         return analyze(QFile::decodeName(argv[2]));
-    std::fprintf(stderr, "usage: storage_bench generate HOME ENTRIES | roots HOME | analyze HOME\n");
+    std::fprintf(stderr, "usage: storage_bench generate|dominant HOME ENTRIES | roots HOME | analyze HOME\n");
     return 2;
 }

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <mutex>
 #include <fcntl.h>
 #include <optional>
 #include <thread>
@@ -92,17 +93,25 @@ private:
 };
 
 // Walks the subtree pieces, in order of index, on the calling thread and, once the walk has
-// proved big enough, on further threads.
+// proved big enough, on further threads. Each walked piece that follows only joined or walked
+// ones is joined into the first at once and let go, so that what the pieces hold stays small
+// while the walk goes on.
 class SplitWalk::Pool {
 public:
     Pool(std::vector<Piece>& pieces, const Options& options, qint64 entriesSoFar)
-        : m_pieces(pieces), m_options(options), m_entries(entriesSoFar)
+        : m_pieces(pieces), m_options(options), m_entries(entriesSoFar), m_walked(pieces.size(), true)
     {
         for (size_t index = 0; index < pieces.size(); ++index) {
-            if (pieces[index].folder)
+            if (pieces[index].folder) {
                 m_subtrees.push_back(index);
+                m_walked[index] = false;
+            }
         }
+        joinWalked();
     }
+
+    // The first piece not joined yet.
+    size_t joined() const { return m_joined; }
 
     TreeWalker::Result run()
     {
@@ -137,7 +146,20 @@ private:
         m_entries.fetch_add(result.entries);
         if (result.end != TreeWalker::End::Finished)
             m_end.store(int(result.end));
+        const std::lock_guard lock(m_joining);
+        m_walked[m_subtrees[index]] = true;
+        joinWalked();
         return true;
+    }
+
+    void joinWalked()
+    {
+        for (; m_joined < m_pieces.size() && m_walked[m_joined]; ++m_joined) {
+            if (m_joined == 0)
+                continue;
+            m_pieces.front().visitor->join(*m_pieces[m_joined].visitor);
+            m_pieces[m_joined].owned.reset();
+        }
     }
 
     std::vector<Piece>& m_pieces;
@@ -146,6 +168,9 @@ private:
     std::atomic<size_t> m_next{0};
     std::atomic<qint64> m_entries;
     std::atomic<int> m_end{int(TreeWalker::End::Finished)};
+    std::mutex m_joining;
+    std::vector<bool> m_walked;  // by piece; guarded by m_joining
+    size_t m_joined = 0;
 };
 
 SplitWalk::SplitWalk(Options options) : m_options(options) {}
@@ -189,9 +214,13 @@ TreeWalker::Result SplitWalk::walk(const QByteArray& root, SplittableVisitor& vi
         pieces = std::move(listed);
     }
 
-    if (total.end == TreeWalker::End::Finished)
-        total = Pool(pieces, options, total.entries).run();
-    for (size_t index = 1; index < pieces.size(); ++index)
+    size_t joined = 1;
+    if (total.end == TreeWalker::End::Finished) {
+        Pool pool(pieces, options, total.entries);
+        total = pool.run();
+        joined = std::max<size_t>(pool.joined(), 1);
+    }
+    for (size_t index = joined; index < pieces.size(); ++index)
         visitor.join(*pieces[index].visitor);
     return total;
 }

@@ -13,6 +13,7 @@ public:
     // settings, same enclosing folders) and has found nothing yet.
     [[nodiscard]] virtual std::unique_ptr<SplittableVisitor> fork() const = 0;
     // Adds what `later` found after what this one found, as if one visitor had met both in turn.
+    // Called in walk order, possibly while later pieces are still being walked on other threads.
     virtual void join(SplittableVisitor& later) = 0;
 };
 
@@ -21,7 +22,8 @@ public:
 // order, the same findings. The first levels are listed on the calling thread until there are
 // enough subtrees to share out; the subtrees then go to whichever thread is free. A second
 // thread starts only once the walk has met `splitAfter` entries, so the many small trees a
-// scan measures never pay for one.
+// scan measures never pay for one. A piece is joined as soon as every piece before it is, on
+// whichever thread walked the last of them, and then let go.
 //
 // Differences from one walk, none of which the splittable users depend on:
 // - callbacks of different subtrees interleave in time (each piece's own are in order);

@@ -60,6 +60,21 @@ void FolderTally::absorb(const FolderTally& child, bool childListed)
         unlistedByBucket[i] += child.unlistedByBucket[i];
 }
 
+void FolderTally::add(const FolderTally& share)
+{
+    absorb(share, false);
+    ownBytes += share.ownBytes;
+}
+
+FolderTally FolderTally::standing() const
+{
+    FolderTally empty;
+    empty.kind = kind;
+    empty.listable = listable;
+    empty.insidePackage = insidePackage;
+    return empty;
+}
+
 StorageBucket FolderTally::listedKind() const
 {
     return kind ? *kind : largest(unlistedByBucket);

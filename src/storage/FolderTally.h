@@ -37,6 +37,10 @@ struct FolderTally {
     bool isLarge() const;
     // Adds a child that has just been left; a listed child adds nothing to the unlisted numbers.
     void absorb(const FolderTally& child, bool childListed);
+    // Adds the numbers of the same folder counted in another piece of a split walk.
+    void add(const FolderTally& share);
+    // A tally with nothing counted yet that decides as this one does (kind, package, listing).
+    [[nodiscard]] FolderTally standing() const;
     // The bucket a listing shows: the forced one, else the one holding most unlisted bytes.
     StorageBucket listedKind() const;
     // The bucket the folder tree shows: the forced one, else the one holding most bytes.

@@ -46,8 +46,53 @@ void FolderTreeBuilder::leaveFolder(FolderNode node)
         return;
     }
     parent.children.push_back(std::move(node));
-    if (++m_held >= 2 * m_nodesKept)
+    hold(1);
+}
+
+void FolderTreeBuilder::hold(qsizetype nodes)
+{
+    m_held += nodes;
+    if (m_held >= 2 * m_nodesKept)
         fold();
+}
+
+FolderTreeBuilder::Level FolderTreeBuilder::leaveShared()
+{
+    Level level = std::move(m_levels.back());
+    m_levels.pop_back();
+    for (const FolderNode& child : level.children)
+        m_held -= child.nodeCount();
+    return level;
+}
+
+void FolderTreeBuilder::addToCurrent(Level share)
+{
+    hold(addTo(m_levels.back(), std::move(share)));
+}
+
+// Either builder's floor is safe for both: a floor is only raised past folders that at least
+// `nodesKept` larger ones of the same walk outrank.
+void FolderTreeBuilder::append(FolderTreeBuilder&& later, size_t shared)
+{
+    m_floor = std::max(m_floor, later.m_floor);
+    qsizetype nodes = 0;
+    for (size_t index = 1; index < later.m_levels.size(); ++index) {
+        if (index > shared)
+            m_levels.emplace_back();
+        nodes += addTo(m_levels.at(index), std::move(later.m_levels[index]));
+    }
+    hold(nodes);
+}
+
+qsizetype FolderTreeBuilder::addTo(Level& level, Level share)
+{
+    level.foldedBytes += share.foldedBytes;
+    qsizetype nodes = 0;
+    for (FolderNode& child : share.children) {
+        nodes += child.nodeCount();
+        level.children.push_back(std::move(child));
+    }
+    return nodes;
 }
 
 void FolderTreeBuilder::addRootFile(qint64 bytes)

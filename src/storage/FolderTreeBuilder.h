@@ -15,6 +15,12 @@ class FolderTreeBuilder {
 public:
     static constexpr qsizetype deepestLevel = 100;
 
+    // What one open folder holds so far: its finished sub-folders, and the bytes folded from them.
+    struct Level {
+        std::vector<FolderNode> children;
+        qint64 foldedBytes = 0;
+    };
+
     explicit FolderTreeBuilder(qsizetype nodesKept);
 
     void enterFolder();
@@ -26,12 +32,19 @@ public:
     // in its own bytes). Folders still open (a stopped walk) are left out.
     [[nodiscard]] FolderNode finish() &&;
 
-private:
-    struct Level {
-        std::vector<FolderNode> children;
-        qint64 foldedBytes = 0;
-    };
+    // A walk split into pieces gives each piece a builder that starts with the folders open
+    // where the piece begins; a later piece's share of a folder is added to the earlier one's.
+    // Takes the current folder out unfinished (a piece leaves a folder an earlier one entered).
+    [[nodiscard]] Level leaveShared();
+    // Adds a later piece's share of the current folder.
+    void addToCurrent(Level share);
+    // Adds what a later piece still holds: its first `shared` open folders are this builder's
+    // open folders, the rest are opened here.
+    void append(FolderTreeBuilder&& later, size_t shared);
 
+private:
+    void hold(qsizetype nodes);
+    static qsizetype addTo(Level& level, Level share);
     void fold();
 
     qsizetype m_nodesKept;

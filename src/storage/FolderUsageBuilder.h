@@ -12,6 +12,8 @@ class FolderUsageBuilder {
 public:
     explicit FolderUsageBuilder(QString path);
 
+    [[nodiscard]] const QString& path() const { return m_usage.path; }
+
     // `path` is asked for only when the file may make the list.
     template <typename PathOf>
     void addFile(qint64 bytes, const QByteArray& group, bool grouped, PathOf path)

@@ -1,13 +1,15 @@
 #include "storage/StorageWalker.h"
 
 #include "machinery/ScanProgress.h"
-#include "machinery/TreeWalker.h"
+#include "machinery/SplitWalk.h"
 #include "storage/FolderTally.h"
 #include "storage/FolderTreeBuilder.h"
 #include "storage/FolderUsageBuilder.h"
 
 #include <QFile>
 
+#include <algorithm>
+#include <atomic>
 #include <memory>
 #include <sys/stat.h>
 #include <vector>
@@ -15,8 +17,6 @@
 namespace {
 
 constexpr qint64 progressBatch = 4096;
-
-enum class EntryKind { folder, folderDone, file, unreadable };
 
 QByteArrayView nameOf(QByteArrayView path)
 {
@@ -26,9 +26,8 @@ QByteArrayView nameOf(QByteArrayView path)
 // One entry as the walk meets it; its path is built only where it is needed (a folder, a file
 // that makes a list), since most files only add their bytes.
 struct Entry {
-    EntryKind kind;
     const TreeEntry& at;
-    const struct stat* status;  // null when the entry could not be read at all
+    const struct stat* status;
 
     QByteArray path() const { return at.pathBytes(); }
     QByteArrayView name() const { return QByteArrayView(at.name().data(), qsizetype(at.name().size())); }
@@ -45,124 +44,175 @@ qint64 allocated(const struct stat& status)
     return static_cast<qint64>(status.st_blocks) * 512;
 }
 
-// The one traversal of the walk, on the descriptor walker: physical, never following a link,
-// on the root's volume only (a mount point is not reported at all). Every folder entered is left
-// again, also one that could not be read; its own blocks count when it is entered, and the
-// failure only counts it as unreadable. `visit` returns false to stop; so does this function.
-template <typename Visit>
-class TraversalVisitor : public TreeVisitor {
-public:
-    explicit TraversalVisitor(Visit& visit) : m_visit(visit) {}
-
-    Verdict enterFolder(const TreeEntry& entry) override { return pass(EntryKind::folder, entry, &entry.status()); }
-    void leaveFolder(const TreeEntry& entry) override { pass(EntryKind::folderDone, entry, &entry.status()); }
-    Verdict visitItem(const TreeEntry& entry) override { return pass(EntryKind::file, entry, &entry.status()); }
-    void problem(const TreeEntry& entry, TreeProblem, int) override { pass(EntryKind::unreadable, entry, nullptr); }
-
-private:
-    Verdict pass(EntryKind kind, const TreeEntry& entry, const struct stat* status)
-    {
-        return m_visit(Entry{kind, entry, status}) ? Verdict::Enter : Verdict::Stop;
-    }
-
-    Visit& m_visit;
+// The fixed facts of one root's walk, shared by its pieces.
+struct WalkSettings {
+    QByteArray root;
+    const BucketRules& rules;
+    ScanProgress* progress;
+    const CancellationToken* cancellation;
+    qsizetype nodesKept;
+    QByteArray rootParent;
+    // Set once two pieces are found to hold one hard-linked file: the split walk is given up.
+    std::atomic<bool>* piecesShareLinks = nullptr;
 };
 
-template <typename Visit>
-bool traverse(const QByteArray& root, Visit visit)
-{
-    TreeWalker walker(TreeWalker::Options{});
-    TraversalVisitor<Visit> visitor(visit);
-    return walker.walk(root, visitor).end != TreeWalker::End::Stopped;
-}
-
-// One walk in progress: the open folders, the root's own usage per bucket and the partial.
-class Walking {
+// One walk in progress, or one piece of a split walk: the open folders, the root's own usage
+// per bucket and the partial. The walk is physical, never follows a link and stays on the
+// root's volume (a mount point is not reported at all). Every folder entered is left again, also
+// one that could not be read; its own blocks count when it is entered, and the failure only
+// counts it as unreadable.
+//
+// A piece begins with copies of the folders open where it was cut off, marked shared: what it
+// counts into them is its share, and a shared folder it leaves is finished by the join, once the
+// earlier pieces' shares are in. Pieces are joined in walk order, so the first walk always holds
+// every folder's numbers up to the piece it joins.
+class Walking : public SplittableVisitor {
 public:
-    Walking(const BucketRules& rules, ScanProgress* progress, const CancellationToken* cancellation, qsizetype nodesKept)
-        : m_rules(rules), m_progress(progress), m_cancellation(cancellation), m_tree(nodesKept) {}
+    explicit Walking(const WalkSettings& settings) : m_settings(settings), m_tree(settings.nodesKept) {}
 
-    StoragePartial run(const QByteArray& root);
+    StoragePartial run(const QByteArray& root, int threads);
+
+    std::unique_ptr<SplittableVisitor> fork() const override;
+    void join(SplittableVisitor& later) override;
+    Verdict enterFolder(const TreeEntry& entry) override;
+    void leaveFolder(const TreeEntry& entry) override;
+    Verdict visitItem(const TreeEntry& entry) override;
+    void problem(const TreeEntry& entry, TreeProblem kind, int error) override;
 
 private:
     struct Frame {
         FolderTally tally;
         bool package = false;
-        FolderUsageBuilder* usage = nullptr;  // null: the root's usage of each file's bucket
+        bool shared = false;  // entered by an earlier piece: the tally holds this piece's share
+        QByteArray name;  // raw; only folders that make a list need a path, built from the names
+        int usageFrame = -1;  // the frame whose own usage takes its files; -1: the root's of each bucket
         std::unique_ptr<FolderUsageBuilder> ownUsage;
         QByteArray group;  // "" directly in the usage's folder
         qsizetype linkFolder = -1;  // its index in the partial's link folders, once it holds a link
     };
+    // A shared folder this piece left: its share, finished by the join.
+    struct LeftShared {
+        FolderTally share;
+        FolderTreeBuilder::Level kept;
+    };
 
-    bool visit(const Entry& entry);
-    void enterFolder(const Entry& entry);
-    Frame makeFrame(QByteArrayView path) const;
-    void leaveFolder(const Entry& entry);
+    void settle(size_t open);
+    void enter(const Entry& entry);
+    Frame makeFrame(const QByteArray& path) const;
+    QByteArray pathOf(size_t frame) const;
+    void leave();
+    void finishFolder();
     void addFile(const Entry& entry);
-    void addUnreadable(const Entry& entry);
     bool isRepeatedLink(const Entry& entry, StorageBucket bucket, qint64 bytes);
     qsizetype linkFolder(const Entry& entry);
+    FolderUsageBuilder& usageOf(const Frame& frame, StorageBucket bucket);
     FolderUsageBuilder& usageFor(StorageBucket bucket);
     void keep(StorageBucket bucket, StorageReport::FolderUsage usage);
     void keep(StorageReport::LargeFolder folder);
-    bool countEntry(const Entry& entry);
+    void takeFound(Walking& later, qsizetype linkOffset);
+    void takeOpenFolders(Walking& later, qsizetype linkOffset);
+    void finishUsages(bool sharedOnly);
+    bool countEntry(const TreeEntry& entry);
     void finish(bool stopped);
 
-    const BucketRules& m_rules;
-    ScanProgress* m_progress;
-    const CancellationToken* m_cancellation;
+    const WalkSettings& m_settings;
     QByteArray m_rootUsagePath;
-    QByteArray m_rootParent;
     std::vector<Frame> m_frames;
     FolderTreeBuilder m_tree;
     std::array<std::unique_ptr<FolderUsageBuilder>, StorageBuckets::count> m_rootUsage;
     StoragePartial m_partial;
+    std::vector<LeftShared> m_leftShared;  // deepest first
     qint64 m_entries = 0;
 };
 
-StoragePartial Walking::run(const QByteArray& root)
+StoragePartial Walking::run(const QByteArray& root, int threads)
 {
     m_rootUsagePath = root;
-    m_rootParent = parentOf(root).toByteArray();
-    const bool finished = traverse(root, [this](const Entry& entry) { return visit(entry); });
-    finish(!finished);
+    TreeWalker::End end = TreeWalker::End::Finished;
+    if (threads > 1) {
+        SplitWalk::Options options;
+        options.threads = threads;
+        end = SplitWalk(options).walk(root, *this).end;
+    } else {
+        end = TreeWalker(TreeWalker::Options{}).walk(root, *this).end;
+    }
+    finish(end != TreeWalker::End::Finished);
     return std::move(m_partial);
 }
 
-bool Walking::visit(const Entry& entry)
+std::unique_ptr<SplittableVisitor> Walking::fork() const
 {
-    switch (entry.kind) {
-    case EntryKind::folder:
-        enterFolder(entry);
-        break;
-    case EntryKind::folderDone:
-        leaveFolder(entry);
-        return true;  // counted when entered
-    case EntryKind::file:
-        addFile(entry);
-        break;
-    case EntryKind::unreadable:
-        addUnreadable(entry);
-        break;
+    auto piece = std::make_unique<Walking>(m_settings);
+    piece->m_rootUsagePath = m_rootUsagePath;
+    for (const Frame& frame : m_frames) {
+        Frame copy;
+        copy.tally = frame.tally.standing();
+        copy.package = frame.package;
+        copy.shared = true;
+        copy.name = frame.name;
+        copy.usageFrame = frame.usageFrame;
+        if (frame.ownUsage)
+            copy.ownUsage = std::make_unique<FolderUsageBuilder>(frame.ownUsage->path());
+        copy.group = frame.group;
+        piece->m_frames.push_back(std::move(copy));
+        piece->m_tree.enterFolder();
     }
-    return countEntry(entry);
+    return piece;
 }
 
-void Walking::enterFolder(const Entry& entry)
+TreeVisitor::Verdict Walking::enterFolder(const TreeEntry& entry)
+{
+    settle(static_cast<size_t>(entry.depth()));
+    enter(Entry{entry, &entry.status()});
+    return countEntry(entry) ? Verdict::Enter : Verdict::Stop;
+}
+
+void Walking::leaveFolder(const TreeEntry& entry)
+{
+    settle(static_cast<size_t>(entry.depth()) + 1);
+    leave();  // counted when entered
+}
+
+TreeVisitor::Verdict Walking::visitItem(const TreeEntry& entry)
+{
+    settle(static_cast<size_t>(entry.depth()));
+    addFile(Entry{entry, &entry.status()});
+    return countEntry(entry) ? Verdict::Enter : Verdict::Stop;
+}
+
+// Unreadable folders are skipped; their own blocks are counted where they stand (when entered),
+// and what they hold falls into the space the analysis cannot attribute.
+void Walking::problem(const TreeEntry& entry, TreeProblem, int)
+{
+    ++m_partial.unreadableFolders;
+    countEntry(entry);
+}
+
+// A piece cut off right after entering a folder that went to another piece starts beside that
+// folder: the depth of its first entry shows which of the copied folders still enclose it.
+void Walking::settle(size_t open)
+{
+    while (m_frames.size() > open && m_frames.back().shared) {
+        m_frames.pop_back();
+        (void)m_tree.leaveShared();
+    }
+}
+
+void Walking::enter(const Entry& entry)
 {
     Frame frame = makeFrame(entry.path());
     const StorageBucket bucket = frame.tally.kind.value_or(StorageBucket::other);
     const qint64 bytes = allocated(*entry.status);
     m_partial.totals.at(static_cast<size_t>(bucket)) += bytes;
     frame.tally.addOwnBlocks(bucket, bytes);
-    (frame.usage ? *frame.usage : usageFor(bucket)).addBytes(bytes);
     m_frames.push_back(std::move(frame));
+    usageOf(m_frames.back(), bucket).addBytes(bytes);
     m_tree.enterFolder();
 }
 
 // A folder inherits its parent's bucket, package and usage; a forced bucket of its own (by name
 // outside any forced folder, by a full-path row anywhere outside a package) starts a new usage.
-Walking::Frame Walking::makeFrame(QByteArrayView path) const
+Walking::Frame Walking::makeFrame(const QByteArray& path) const
 {
     const Frame* parent = m_frames.empty() ? nullptr : &m_frames.back();
     const QByteArrayView name = nameOf(path);
@@ -172,32 +222,61 @@ Walking::Frame Walking::makeFrame(QByteArrayView path) const
         frame.tally.kind = parent->tally.kind;
         frame.tally.insidePackage = parent->package || parent->tally.insidePackage;
         frame.tally.listable = !frame.tally.insidePackage;
-        frame.usage = parent->usage;
+        frame.usageFrame = parent->usageFrame;
         frame.group = parent->group.isEmpty() ? BucketRules::groupFolder(name) : parent->group;
     }
-    if (frame.tally.insidePackage)
-        return frame;
-    const auto forced = frame.tally.kind ? m_rules.pathBucket(path) : m_rules.forcedBucket(path, name, parentOf(path));
-    if (forced && forced != frame.tally.kind) {
-        frame.tally.kind = forced;
-        frame.ownUsage = std::make_unique<FolderUsageBuilder>(QFile::decodeName(path.toByteArray()));
-        frame.usage = frame.ownUsage.get();
-        frame.group.clear();
+    if (!frame.tally.insidePackage) {
+        const auto forced = frame.tally.kind ? m_settings.rules.pathBucket(path)
+                                             : m_settings.rules.forcedBucket(path, name, parentOf(path));
+        if (forced && forced != frame.tally.kind) {
+            frame.tally.kind = forced;
+            frame.ownUsage = std::make_unique<FolderUsageBuilder>(QFile::decodeName(path));
+            frame.usageFrame = static_cast<int>(m_frames.size());
+            frame.group.clear();
+        }
     }
+    frame.name = name.toByteArray();
     return frame;
 }
 
-void Walking::leaveFolder(const Entry& entry)
+QByteArray Walking::pathOf(size_t frame) const
 {
+    if (frame == 0)
+        return m_settings.root;
+    QByteArray path = m_settings.root;
+    while (path.endsWith('/'))
+        path.chop(1);
+    for (size_t index = 1; index <= frame; ++index)
+        path.append('/').append(m_frames.at(index).name);
+    return path;
+}
+
+// A shared folder's share waits for the join; any other folder is finished here.
+void Walking::leave()
+{
+    Frame& frame = m_frames.back();
+    if (!frame.shared) {
+        finishFolder();
+        return;
+    }
+    if (frame.ownUsage)
+        keep(*frame.tally.kind, std::move(*frame.ownUsage).finish());
+    m_leftShared.push_back({std::move(frame.tally), m_tree.leaveShared()});
+    m_frames.pop_back();
+}
+
+void Walking::finishFolder()
+{
+    const bool listed = m_frames.back().tally.isLarge();
+    const QByteArray path = listed ? pathOf(m_frames.size() - 1) : QByteArray();
     Frame frame = std::move(m_frames.back());
     m_frames.pop_back();
-    const bool listed = frame.tally.isLarge();
     if (listed) {
-        keep(StorageReport::LargeFolder{QFile::decodeName(entry.path()), frame.tally.unlistedBytes,
+        keep(StorageReport::LargeFolder{QFile::decodeName(path), frame.tally.unlistedBytes,
                                         frame.tally.unlistedFiles, frame.tally.unlistedSmallBytes,
                                         frame.tally.listedKind()});
     }
-    m_tree.leaveFolder(FolderNode{QFile::decodeName(entry.name().toByteArray()), frame.tally.bytes,
+    m_tree.leaveFolder(FolderNode{QFile::decodeName(frame.name), frame.tally.bytes,
                                   frame.tally.fileCount, frame.tally.ownBytes, 0, frame.tally.treeKind(), {}});
     if (!m_frames.empty())
         m_frames.back().tally.absorb(frame.tally, listed);
@@ -220,9 +299,8 @@ void Walking::addFile(const Entry& entry)
         return;
     }
     m_frames.back().tally.addFile(bucket, bytes);
-    FolderUsageBuilder& usage = frame->usage ? *frame->usage : usageFor(bucket);
-    usage.addFile(bytes, frame->group, StorageBuckets::hasSubfolders(bucket),
-                  [&] { return QFile::decodeName(entry.path()); });
+    usageOf(*frame, bucket).addFile(bytes, frame->group, StorageBuckets::hasSubfolders(bucket),
+                                    [&] { return QFile::decodeName(entry.path()); });
 }
 
 // A file with more hard links is counted once per walk here and once per report by the merge,
@@ -247,7 +325,7 @@ qsizetype Walking::linkFolder(const Entry& entry)
     qsizetype* known = m_frames.empty() ? nullptr : &m_frames.back().linkFolder;
     if (known && *known >= 0)
         return *known;
-    QByteArray relative = entry.at.folderPathBytes().mid(m_rootParent.size());
+    QByteArray relative = entry.at.folderPathBytes().mid(m_settings.rootParent.size());
     if (relative.startsWith('/'))
         relative.remove(0, 1);
     m_partial.linkFolders.push_back(std::move(relative));
@@ -257,21 +335,9 @@ qsizetype Walking::linkFolder(const Entry& entry)
     return index;
 }
 
-// Unreadable folders are skipped; their own blocks are counted where they stand, and what they
-// hold falls into the space the analysis cannot attribute.
-void Walking::addUnreadable(const Entry& entry)
+FolderUsageBuilder& Walking::usageOf(const Frame& frame, StorageBucket bucket)
 {
-    ++m_partial.unreadableFolders;
-    if (!entry.status)
-        return;
-    const StorageBucket bucket = m_frames.empty() ? StorageBucket::other
-                                                  : m_frames.back().tally.kind.value_or(StorageBucket::other);
-    const qint64 bytes = allocated(*entry.status);
-    m_partial.totals.at(static_cast<size_t>(bucket)) += bytes;
-    if (m_frames.empty())
-        return;
-    m_frames.back().tally.addOwnBlocks(bucket, bytes);
-    (m_frames.back().usage ? *m_frames.back().usage : usageFor(bucket)).addBytes(bytes);
+    return frame.usageFrame >= 0 ? *m_frames.at(static_cast<size_t>(frame.usageFrame)).ownUsage : usageFor(bucket);
 }
 
 FolderUsageBuilder& Walking::usageFor(StorageBucket bucket)
@@ -313,45 +379,132 @@ void Walking::keep(StorageReport::LargeFolder folder)
 }
 
 // Counts one entry; at every full batch publishes it and answers whether to go on.
-bool Walking::countEntry(const Entry& entry)
+bool Walking::countEntry(const TreeEntry& entry)
 {
     if (++m_entries % progressBatch != 0)
         return true;
-    if (m_progress) {
-        m_progress->addEntries(progressBatch);
-        m_progress->setCurrentFolder(QFile::decodeName(parentOf(entry.path()).toByteArray()));
+    if (m_settings.progress) {
+        m_settings.progress->addEntries(progressBatch);
+        m_settings.progress->setCurrentFolder(QFile::decodeName(entry.folderPathBytes()));
     }
-    return !(m_cancellation && m_cancellation->isCancelled());
+    if (m_settings.piecesShareLinks && m_settings.piecesShareLinks->load())
+        return false;
+    return !(m_settings.cancellation && m_settings.cancellation->isCancelled());
+}
+
+// Takes in the next piece in walk order: what it found, then the shared folders it left, which
+// are whole now, then the folders it still holds open.
+void Walking::join(SplittableVisitor& laterPiece)
+{
+    auto& later = static_cast<Walking&>(laterPiece);
+    if (m_settings.progress)
+        m_settings.progress->addEntries(later.m_entries % progressBatch);
+    const auto linkOffset = static_cast<qsizetype>(m_partial.linkFolders.size());
+    later.finishUsages(true);
+    takeFound(later, linkOffset);
+    for (LeftShared& left : later.m_leftShared) {
+        if (m_frames.empty())  // only a stopped walk leaves pieces that do not fit
+            break;
+        m_frames.back().tally.add(left.share);
+        m_tree.addToCurrent(std::move(left.kept));
+        finishFolder();
+    }
+    takeOpenFolders(later, linkOffset);
+}
+
+void Walking::takeFound(Walking& later, qsizetype linkOffset)
+{
+    StoragePartial& found = later.m_partial;
+    for (auto link = found.links.begin(); link != found.links.end(); ++link) {
+        if (m_partial.links.contains(link.key())) {
+            if (m_settings.piecesShareLinks)
+                m_settings.piecesShareLinks->store(true);
+            continue;
+        }
+        m_partial.links.insert(link.key(), {link->bucket, link->bytes, link->folder + linkOffset});
+    }
+    for (QByteArray& folder : found.linkFolders)
+        m_partial.linkFolders.push_back(std::move(folder));
+    for (StorageBucket bucket : StorageBuckets::allCases()) {
+        const auto index = static_cast<size_t>(bucket);
+        m_partial.totals.at(index) += found.totals.at(index);
+        for (StorageReport::FolderUsage& usage : found.folders.at(index))
+            keep(bucket, std::move(usage));
+    }
+    for (StorageReport::LargeFolder& folder : found.largeFolders)
+        keep(std::move(folder));
+    m_partial.unreadableFolders += found.unreadableFolders;
+}
+
+// The later piece's shared folders are this walk's open ones (their shares are added); the
+// folders it entered itself stay open here.
+void Walking::takeOpenFolders(Walking& later, qsizetype linkOffset)
+{
+    if (later.m_entries == 0)  // met nothing (it followed the last subfolder): it holds only copies
+        return;
+    const auto shared = static_cast<size_t>(
+        std::count_if(later.m_frames.begin(), later.m_frames.end(), [](const Frame& frame) { return frame.shared; }));
+    if (shared != m_frames.size()) {
+        m_partial.complete = false;
+        return;
+    }
+    for (size_t index = 0; index < shared; ++index)
+        m_frames[index].tally.add(later.m_frames[index].tally);
+    m_tree.append(std::move(later.m_tree), shared);
+    for (size_t index = shared; index < later.m_frames.size(); ++index) {
+        Frame& frame = later.m_frames[index];
+        if (frame.linkFolder >= 0)
+            frame.linkFolder += linkOffset;
+        m_frames.push_back(std::move(frame));
+    }
+}
+
+// Finishes the usages still being built: the root's of each bucket and those of open folders
+// (of shared ones only, for a piece whose other folders go on in the walk that joins it).
+void Walking::finishUsages(bool sharedOnly)
+{
+    for (Frame& frame : m_frames) {
+        if (frame.ownUsage && (frame.shared || !sharedOnly)) {
+            keep(*frame.tally.kind, std::move(*frame.ownUsage).finish());
+            frame.ownUsage.reset();
+        }
+    }
+    for (StorageBucket bucket : StorageBuckets::allCases()) {
+        if (auto& usage = m_rootUsage.at(static_cast<size_t>(bucket))) {
+            keep(bucket, std::move(*usage).finish());
+            usage.reset();
+        }
+    }
 }
 
 void Walking::finish(bool stopped)
 {
-    if (m_progress && m_entries % progressBatch != 0)
-        m_progress->addEntries(m_entries % progressBatch);
+    if (m_settings.progress && m_entries % progressBatch != 0)
+        m_settings.progress->addEntries(m_entries % progressBatch);
     // A stopped walk leaves folders open; their usages still hold what was counted.
-    while (!m_frames.empty()) {
-        Frame frame = std::move(m_frames.back());
-        m_frames.pop_back();
-        if (frame.ownUsage)
-            keep(*frame.tally.kind, std::move(*frame.ownUsage).finish());
-    }
-    for (StorageBucket bucket : StorageBuckets::allCases()) {
-        if (auto& usage = m_rootUsage.at(static_cast<size_t>(bucket)))
-            keep(bucket, std::move(*usage).finish());
-    }
+    finishUsages(false);
+    m_frames.clear();
     m_partial.tree = std::move(m_tree).finish();
-    m_partial.complete = !stopped;
+    m_partial.complete = m_partial.complete && !stopped;
 }
 
 }  // namespace
 
 StorageWalker::StorageWalker(const BucketRules& rules, ScanProgress* progress, const CancellationToken* cancellation,
-                             qsizetype treeNodes)
-    : m_rules(rules), m_progress(progress), m_cancellation(cancellation), m_treeNodes(treeNodes)
+                             qsizetype treeNodes, int threads)
+    : m_rules(rules), m_progress(progress), m_cancellation(cancellation), m_treeNodes(treeNodes), m_threads(threads)
 {
 }
 
 StoragePartial StorageWalker::walk(const QByteArray& root) const
 {
-    return Walking(m_rules, m_progress, m_cancellation, m_treeNodes).run(root);
+    std::atomic<bool> piecesShareLinks{false};
+    WalkSettings settings{root, m_rules, m_progress, m_cancellation, m_treeNodes, parentOf(root).toByteArray(),
+                          &piecesShareLinks};
+    StoragePartial partial = Walking(settings).run(root, m_threads);
+    if (!piecesShareLinks.load())
+        return partial;
+    // Each piece counted the file it met: only one walk in walk order knows which link came first.
+    settings.piecesShareLinks = nullptr;
+    return Walking(settings).run(root, 1);
 }
