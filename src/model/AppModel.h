@@ -121,6 +121,11 @@ public:
     bool isStorageOutdated() const { return m_storageOutdated; }
     // Puts a folder on the Safe List: nothing inside it is shown by scans any more; a toast says so.
     void addFolderToSafeList(const QString& path);
+    // A folder or file of the storage screens, measured at `bytes`, as the item a cleanup
+    // (prepareRemoval) or a move takes; locked with the reason where those must not touch it.
+    CleanupItem storageItem(const QString& path, qint64 bytes) const;
+    // What cleanups and moves have taken away since the report was measured, so its rows can say so.
+    const QStringList& storageGone() const { return m_storageGone; }
 
     // --- Selection (AppModelSelection.cpp)
     const Selection& selection() const { return m_selection; }
@@ -149,6 +154,11 @@ public:
     CleanupSession* lastRunCleanup() const { return m_lastRunCleanup.get(); }
     // Opens a session over the selection, leaving out items another selected item removes.
     void prepareCleanup();
+    // Opens a session over the one item, as for the selection; a locked item opens none and a
+    // toast gives its reason.
+    void prepareRemoval(const CleanupItem& item);
+    // No scan runs and no cleanup or move is open, so a cleanup may be prepared.
+    bool canPrepareCleanup() const;
     // Starts the confirmed session; while another cleanup removes files (the report tool's), it
     // stays unconfirmed and a toast says why.
     void startCleanup();
@@ -246,11 +256,14 @@ private:
 
     void storageFinished(quint64 generation, const std::optional<StorageReport>& report);
     void markStorageOutdated();
+    void noteStorageGone(const QStringList& paths);
+    void openCleanup(QList<CleanupItem> items);
 
     std::map<quint64, std::unique_ptr<StorageTask>> m_storageTasks;  // the current one and stopped ones
     quint64 m_storageGeneration = 0;                                  // the current one's key
     std::optional<StorageReport> m_storageReport;
     bool m_storageOutdated = false;
+    QStringList m_storageGone;
     SystemState m_systemState;
     QString m_toast;
     std::unique_ptr<CleanupSession> m_cleanup;

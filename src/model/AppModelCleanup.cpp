@@ -15,9 +15,27 @@
 
 void AppModel::prepareCleanup()
 {
-    if (isBusyScanning() || m_cleanup || m_move)
+    openCleanup(SelectionIndex::uncovered(selectedItems()));
+}
+
+void AppModel::prepareRemoval(const CleanupItem& item)
+{
+    if (item.lockedReason)
+        showToast(*item.lockedReason);
+    else
+        openCleanup({item});
+}
+
+bool AppModel::canPrepareCleanup() const
+{
+    return !isBusyScanning() && !m_cleanup && !m_move;
+}
+
+void AppModel::openCleanup(QList<CleanupItem> items)
+{
+    if (!canPrepareCleanup())
         return;
-    m_cleanup = std::make_unique<CleanupSession>(SelectionIndex::uncovered(selectedItems()), RemovalEnvironment::system(m_settings->home(), m_settings->scanRoots()));
+    m_cleanup = std::make_unique<CleanupSession>(std::move(items), RemovalEnvironment::system(m_settings->home(), m_settings->scanRoots()));
     emit cleanupChanged();
 }
 
@@ -56,8 +74,10 @@ void AppModel::runCleanup(CleanupSession* session, QList<CleanupItem> items, QLi
     steps.finished = [this, session](const CleanupItem& item, const CleanupSession::Outcome& outcome) {
         QMetaObject::invokeMethod(this, [this, session, item, outcome] {
             session->record(item, outcome);
-            if (outcome.succeeded())
+            if (outcome.succeeded()) {
                 removeFromResults(item);
+                noteStorageGone(item.removal.paths());
+            }
             else if (m_selection.remove(item.id))
                 emit selectionChanged();  // a row that stays after its failure is not ticked for the next cleanup
         }, Qt::QueuedConnection);

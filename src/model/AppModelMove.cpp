@@ -40,6 +40,7 @@ void AppModel::finishMove(const Mover::Outcome& outcome)
     m_move->setOutcome(outcome);
     if (outcome.originalTrashed()) {
         removeFromResults(m_move->item());
+        noteStorageGone(m_move->item().removal.paths());
         markStorageOutdated();
         refreshSystemState();
         refreshTrash();

@@ -4,6 +4,7 @@
 #include "model/HistoryRecorder.h"
 #include "model/SettingsStore.h"
 #include "model/StatsStore.h"
+#include "model/StorageItem.h"
 #include "model/StorageTask.h"
 
 #include <QFileInfo>
@@ -51,6 +52,7 @@ void AppModel::storageFinished(quint64 generation, const std::optional<StorageRe
     if (report) {
         m_storageReport = report;
         m_storageOutdated = false;
+        m_storageGone.clear();
         m_stats->recordStorage(*report);
         m_history->recordStorage(*report, m_settings->home());
     }
@@ -63,6 +65,19 @@ void AppModel::markStorageOutdated()
         return;
     m_storageOutdated = true;
     emit storageChanged();
+}
+
+void AppModel::noteStorageGone(const QStringList& paths)
+{
+    if (!m_storageReport || paths.isEmpty())
+        return;
+    m_storageGone.append(paths);
+    emit storageChanged();
+}
+
+CleanupItem AppModel::storageItem(const QString& path, qint64 bytes) const
+{
+    return StorageItem::make(path, bytes, makeFilter(), m_settings->home(), m_settings->scanRoots());
 }
 
 void AppModel::addFolderToSafeList(const QString& path)

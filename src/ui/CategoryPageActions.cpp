@@ -7,6 +7,7 @@
 #include "ui/CategoryPage.h"
 #include "ui/MoveSheet.h"
 #include "ui/Reveal.h"
+#include "ui/RowMenuKeys.h"
 
 #include <QDesktopServices>
 #include <QKeyEvent>
@@ -31,9 +32,8 @@ bool CategoryPage::eventFilter(QObject* watched, QEvent* event)
     if (watched != m_list || event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
     const auto* key = static_cast<QKeyEvent*>(event);
-    const bool menuKey = key->key() == Qt::Key_Menu || (key->key() == Qt::Key_F10 && key->modifiers() == Qt::ShiftModifier);
     const QModelIndex current = m_list->currentIndex();
-    if (!menuKey || !m_listModel->itemAt(current))
+    if (!RowMenuKeys::isMenuKey(key) || !m_listModel->itemAt(current))
         return QWidget::eventFilter(watched, event);
     QStyleOptionViewItem option;
     option.initFrom(m_list->viewport());

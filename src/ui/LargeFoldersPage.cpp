@@ -4,6 +4,7 @@
 #include "model/AppModel.h"
 #include "model/SettingsStore.h"
 #include "ui/FolderActions.h"
+#include "ui/RowMenuKeys.h"
 #include "ui/SizeBarDelegate.h"
 #include "ui/StorageBucketStyle.h"
 #include "ui/StorageHeader.h"
@@ -51,6 +52,7 @@ LargeFoldersPage::LargeFoldersPage(AppModel* model, QWidget* parent)
     m_list->setAlternatingRowColors(true);
     m_list->setHeaderLabels(headings());
     m_list->setContextMenuPolicy(Qt::CustomContextMenu);
+    RowMenuKeys::install(m_list);
     m_list->setItemDelegateForColumn(sizeColumn, m_bars);
     m_list->header()->setStretchLastSection(false);
     m_list->header()->setSectionResizeMode(folderColumn, QHeaderView::Stretch);
@@ -88,6 +90,7 @@ void LargeFoldersPage::refresh()
             row->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
         row->setToolTip(sizeColumn, sizeNote(*report, folder, home));
     }
+    FolderActions::markGone(m_list, pathRole, m_model);
 }
 
 // Storage shows a folder whole; this list leaves out the listed folders inside it. Where the two
@@ -111,6 +114,7 @@ void LargeFoldersPage::showMenu(const QPoint& at)
         return;
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    FolderActions::addTo(menu, m_model, item->data(folderColumn, pathRole).toString());
+    FolderActions::addTo(menu, m_model, item->data(folderColumn, pathRole).toString(),
+                         item->data(sizeColumn, SizeBarDelegate::bytesRole).toLongLong(), window());
     menu->popup(m_list->viewport()->mapToGlobal(at));
 }

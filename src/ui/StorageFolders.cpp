@@ -4,7 +4,7 @@
 #include "model/AppModel.h"
 #include "model/SettingsStore.h"
 #include "ui/FolderActions.h"
-#include "ui/Reveal.h"
+#include "ui/RowMenuKeys.h"
 #include "ui/SizeBarDelegate.h"
 #include "ui/StorageBucketStyle.h"
 #include "ui/Sunburst.h"
@@ -54,6 +54,7 @@ StorageFolders::StorageFolders(AppModel* model, QWidget* parent)
     m_contents->setHeaderLabels({name, size, files});
     m_contents->setItemDelegateForColumn(sizeColumn, m_bars);
     m_contents->setContextMenuPolicy(Qt::CustomContextMenu);
+    RowMenuKeys::install(m_contents);
     m_contents->header()->setStretchLastSection(false);
     m_contents->header()->setSectionResizeMode(nameColumn, QHeaderView::Stretch);
     m_contents->header()->setSectionResizeMode(filesColumn, QHeaderView::ResizeToContents);
@@ -73,13 +74,19 @@ StorageFolders::StorageFolders(AppModel* model, QWidget* parent)
     connect(m_contents, &QTreeWidget::itemActivated, this, &StorageFolders::rowChosen);
     connect(m_contents, &QTreeWidget::itemDoubleClicked, this, &StorageFolders::rowChosen);
     connect(m_contents, &QWidget::customContextMenuRequested, this, &StorageFolders::showMenu);
+    m_sunburst->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_sunburst, &QWidget::customContextMenuRequested, this, &StorageFolders::showSegmentMenu);
     connect(m_model, &AppModel::storageChanged, this, &StorageFolders::refresh);
     refresh();
 }
 
 QString StorageFolders::currentPath() const
 {
-    const QStringList names = m_sunburst->zoom();
+    return pathOf(m_sunburst->zoom());
+}
+
+QString StorageFolders::pathOf(const QStringList& names) const
+{
     return names.isEmpty() ? m_model->settings()->home() : m_model->settings()->home() + QLatin1Char('/') + names.join(QLatin1Char('/'));
 }
 
@@ -130,6 +137,7 @@ void StorageFolders::refreshContents()
         addRow(tr("Smaller folders"), folder->foldedBytes, {}, {}, false);
     }
     addFileRows(path);
+    FolderActions::markGone(m_contents, pathRole, m_model);
 }
 
 // The largest files below the folder that the analysis kept (each kind keeps the largest of
@@ -183,9 +191,18 @@ void StorageFolders::showMenu(const QPoint& at)
         return;
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    if (item->data(nameColumn, folderRole).toBool())
-        FolderActions::addTo(menu, m_model, path);
-    else
-        menu->addAction(Reveal::title(), menu, [this, path] { Reveal::show(m_model, path); });
+    FolderActions::addTo(menu, m_model, path, item->data(sizeColumn, SizeBarDelegate::bytesRole).toLongLong(), window());
     menu->popup(m_contents->viewport()->mapToGlobal(at));
+}
+
+// A folder's segment has the row menu of the folder; its files and smaller items have none.
+void StorageFolders::showSegmentMenu(const QPoint& at)
+{
+    const int index = m_sunburst->segmentAt(at);
+    if (index < 0 || m_sunburst->layout().segments().at(size_t(index)).part != SunburstLayout::Part::folder)
+        return;
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    FolderActions::addTo(menu, m_model, pathOf(m_sunburst->folderOf(index)), m_sunburst->layout().segments().at(size_t(index)).bytes, window());
+    menu->popup(m_sunburst->mapToGlobal(at));
 }

@@ -38,6 +38,8 @@ private:
     QTreeWidgetItem* addRow(const QString& name, qint64 bytes, const QString& files, const QString& path, bool folder);
     void rowChosen(QTreeWidgetItem* item);
     void showMenu(const QPoint& at);
+    void showSegmentMenu(const QPoint& at);
+    QString pathOf(const QStringList& names) const;
 
     AppModel* m_model;
     QLabel* m_breadcrumb;

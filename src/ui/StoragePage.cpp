@@ -15,6 +15,7 @@
 #include "ui/StorageRing.h"
 #include "vocabulary/PathRules.h"
 #include "ui/Reveal.h"
+#include "ui/RowMenuKeys.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -130,6 +131,7 @@ QWidget* StoragePage::makeDrillDown()
     m_details = makeList(drill, {name, size, files});
     m_details->setItemDelegateForColumn(detailSize, m_bars);
     m_details->setContextMenuPolicy(Qt::CustomContextMenu);
+    RowMenuKeys::install(m_details);
     m_details->header()->setSectionResizeMode(detailSize, QHeaderView::Fixed);
     m_details->header()->resizeSection(detailSize, 220);  // room for a change since the last analysis
     connect(m_details, &QTreeWidget::itemClicked, this, &StoragePage::detailActivated);
@@ -266,6 +268,7 @@ void StoragePage::fillFolders(const StorageReport& report, StorageBucket bucket)
         row->setIcon(detailName, style()->standardIcon(QStyle::SP_DirIcon));
         row->setToolTip(detailName, folder.path);
     }
+    FolderActions::markGone(m_details, pathRole, m_model);
 }
 
 void StoragePage::fillFolder(const StorageReport::FolderUsage& folder, StorageBucket bucket)
@@ -293,6 +296,7 @@ void StoragePage::fillFolder(const StorageReport::FolderUsage& folder, StorageBu
         row->setIcon(detailName, style()->standardIcon(QStyle::SP_FileIcon));
         row->setToolTip(detailName, file.path);
     }
+    FolderActions::markGone(m_details, pathRole, m_model);
 }
 
 QTreeWidgetItem* StoragePage::addDetail(const QString& name, qint64 bytes, const QString& count, StorageBucket bucket)
@@ -358,10 +362,11 @@ void StoragePage::showDetailMenu(const QPoint& at)
     const QString path = item->data(detailName, pathRole).toString();
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    if (item->data(detailName, rowKindRole).toInt() == fileRow)
+    // "Files in this folder" stands for the loose files, not the folder that holds them.
+    if (path == m_folder)
         menu->addAction(Reveal::title(), menu, [this, path] { Reveal::show(m_model, path); });
     else
-        FolderActions::addTo(menu, m_model, path);
+        FolderActions::addTo(menu, m_model, path, item->data(detailSize, SizeBarDelegate::bytesRole).toLongLong(), window());
     menu->popup(m_details->viewport()->mapToGlobal(at));
 }
 

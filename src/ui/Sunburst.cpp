@@ -1,6 +1,7 @@
 #include "ui/Sunburst.h"
 
 #include "format/ByteCount.h"
+#include "ui/RowMenuKeys.h"
 #include "ui/StorageBucketStyle.h"
 
 #include <QKeyEvent>
@@ -65,16 +66,20 @@ void Sunburst::zoomOut()
 
 void Sunburst::zoomInto(int index)
 {
-    if (index < 0)
-        return;
+    if (index >= 0)
+        zoomTo(folderOf(index));
+}
+
+QStringList Sunburst::folderOf(int index) const
+{
     // The folders from the centre out to the segment, then the segment itself.
     QStringList names;
     for (int at = index; at >= 0; at = m_layout.parentOf(at))
         names.prepend(m_layout.segments().at(size_t(at)).node->name);
     const auto& segment = m_layout.segments().at(size_t(index));
     if (segment.part != SunburstLayout::Part::folder)
-        names.removeLast();  // files and smaller items zoom to the folder that holds them
-    zoomTo(m_zoom + names);
+        names.removeLast();  // files and smaller items stand for the folder that holds them
+    return m_zoom + names;
 }
 
 void Sunburst::relayout()
@@ -290,6 +295,11 @@ void Sunburst::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Backspace:
     case Qt::Key_Escape:
         return zoomOut();
+    case Qt::Key_Menu:
+    case Qt::Key_F10:
+        if (RowMenuKeys::isMenuKey(event) && m_current >= 0)
+            emit customContextMenuRequested(middleOf(m_current).toPoint());
+        return;
     default:
         QWidget::keyPressEvent(event);
     }

@@ -37,6 +37,9 @@ public:
     QPointF middleOf(int index) const;
     int hovered() const { return m_hovered; }
     int current() const { return m_current; }
+    // The names from the tree's top down to the folder of a segment (the folder holding it, for
+    // its files or smaller items).
+    QStringList folderOf(int index) const;
     // The text shown for a segment when it is hovered or current.
     QString describe(int index) const;
 

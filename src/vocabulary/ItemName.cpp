@@ -14,10 +14,15 @@ QString of(const CleanupItem& item, const QString& home)
     const QString path = trash->targets.first().path;
     if (path == *item.projectPath || !PathRules::isAtOrBelow(path, *item.projectPath))
         return item.title;
+    return inFolder(path, home);
+}
+
+QString inFolder(const QString& path, const QString& home)
+{
     const QString folder = path.section(QLatin1Char('/'), 0, -2);
-    //: How a sheet names a folder inside a project; %1 is the folder's name, %2 where it is, like "~/Projects/app"
+    //: How a sheet names a folder or file by where it is; %1 is its name, %2 the folder holding it, like "~/Projects/app"
     return QCoreApplication::translate("ItemName", "%1 in %2")
-        .arg(path.section(QLatin1Char('/'), -1), PathRules::withTilde(folder, home));
+        .arg(path.section(QLatin1Char('/'), -1), PathRules::withTilde(folder.isEmpty() ? QStringLiteral("/") : folder, home));
 }
 
 }  // namespace ItemName

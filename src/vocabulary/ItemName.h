@@ -11,4 +11,7 @@ namespace ItemName {
 // "node_modules in ~/Projects/app". `home` becomes "~".
 [[nodiscard]] QString of(const CleanupItem& item, const QString& home);
 
+// "node_modules in ~/Projects/app": the last name of `path` and the folder that holds it.
+[[nodiscard]] QString inFolder(const QString& path, const QString& home);
+
 }  // namespace ItemName

@@ -64,6 +64,30 @@ QString emptyTrashInstead()
     return QCoreApplication::translate("Remover", "The Trash is emptied with Empty Trash.");
 }
 
+QString onSafeList()
+{
+    //: Why an item can't be moved to the Trash or another disk: the person put it on the Safe List
+    return QCoreApplication::translate("Remover", "It is on the Safe List.");
+}
+
+QString holdsSafeListItem()
+{
+    //: Why a folder can't be moved to the Trash or another disk: something inside it is on the Safe List
+    return QCoreApplication::translate("Remover", "Something inside it is on the Safe List.");
+}
+
+QString holdsTrash()
+{
+    //: Why a folder can't be moved to the Trash or another disk: the Trash itself is inside it
+    return QCoreApplication::translate("Remover", "The Trash is inside it.");
+}
+
+QString keptByICloud()
+{
+    //: Why an item can't be moved to the Trash or another disk: it is iCloud's own data
+    return QCoreApplication::translate("Remover", "iCloud keeps it, so Dustlark leaves it alone.");
+}
+
 QString ambiguousName()
 {
     //: Why an item can't be moved to the Trash: its file name is not valid text, so it can't be told apart from a similar name

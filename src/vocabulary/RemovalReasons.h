@@ -16,6 +16,13 @@ namespace RemovalReasons {
 [[nodiscard]] QString running();
 [[nodiscard]] QString changedInLastDay();
 [[nodiscard]] QString emptyTrashInstead();
+// The Safe List protects it, or something inside it.
+[[nodiscard]] QString onSafeList();
+[[nodiscard]] QString holdsSafeListItem();
+// Moving it would move the Trash into itself.
+[[nodiscard]] QString holdsTrash();
+// iCloud keeps it; no scan offers it either.
+[[nodiscard]] QString keptByICloud();
 // Its name holds bytes that are not valid text, so the name shown could mean another file.
 [[nodiscard]] QString ambiguousName();
 // The file manager's trash refused; `systemReason` is its own description, may be empty.

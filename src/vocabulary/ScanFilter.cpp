@@ -57,6 +57,12 @@ bool ScanFilter::isOnSafeList(const CleanupItem& item, const QSet<QString>& safe
     return std::any_of(paths.begin(), paths.end(), isProtected);
 }
 
+bool ScanFilter::holdsSafePath(const QString& path) const
+{
+    return std::any_of(m_protectedPaths.begin(), m_protectedPaths.end(),
+                       [&](const QString& protectedPath) { return protectedPath != path && isAtOrBelow(protectedPath, path); });
+}
+
 bool ScanFilter::drops(const CleanupItem& item) const
 {
     if (isOnSafeList(item, m_safeItemIds, m_protectedPaths))

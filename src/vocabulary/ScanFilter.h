@@ -20,6 +20,12 @@ public:
     static bool isOnSafeList(const CleanupItem& item, const QSet<QString>& safeItemIds,
                              const QStringList& protectedPaths);
 
+    // isOnSafeList with this filter's Safe List.
+    bool protects(const CleanupItem& item) const { return isOnSafeList(item, m_safeItemIds, m_protectedPaths); }
+    // Whether something on the Safe List lies strictly inside the folder `path`: moving the
+    // folder would take it along.
+    bool holdsSafePath(const QString& path) const;
+
     // True when the item must not be shown: on the Safe List, or in a never-offered iCloud place.
     bool drops(const CleanupItem& item) const;
     // The items that may be shown, in their order.

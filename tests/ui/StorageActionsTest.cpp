@@ -1,0 +1,262 @@
+// The row menus of the storage screens over the real window, the real analysis of a temporary
+// home and the real remover: a folder goes to the freedesktop trash through the cleanup's own
+// sheets, what removal must not touch is refused, and a folder swapped for a link is kept.
+#include "WindowFixture.h"
+#include "format/ByteCount.h"
+#include "support/Wait.h"
+#include "ui/CleanupConfirmation.h"
+#include "ui/CleanupResults.h"
+#include "ui/CleanupSheet.h"
+#include "ui/LargeFoldersPage.h"
+#include "ui/MoveDestinationPage.h"
+#include "ui/MoveSheet.h"
+#include "ui/SizeBarDelegate.h"
+#include "ui/StorageFolders.h"
+#include "ui/StoragePage.h"
+#include "ui/Sunburst.h"
+
+#include <QAbstractItemModel>
+#include <QApplication>
+#include <QLabel>
+#include <QMenu>
+#include <QProcess>
+#include <QPushButton>
+#include <QTest>
+#include <QTreeView>
+#include <QTreeWidget>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class StorageActionsTest : public ::testing::Test {
+protected:
+    // The window with the Storage screen shown, after the real analysis of the home; removal
+    // through the real remover and its last checks.
+    void measureAndShowStorage()
+    {
+        fixture.start({}, [](AppModel::Services& services) { services.removeItem = AppModel::defaultServices().removeItem; });
+        storage = new StoragePage(&fixture.model());
+        fixture.window().setScreenPage(SidebarDestination::Kind::storage, storage);
+        fixture.window().choose(SidebarDestination::screen(SidebarDestination::Kind::storage));
+        fixture.model().startStorageAnalysis();
+        ASSERT_TRUE(waitUntil([&] { return fixture.model().storageReport().has_value(); }, 20'000));
+    }
+
+    QTreeWidget* folderList() const { return storage->folders()->contents(); }
+
+    static QTreeWidgetItem* rowNamed(QTreeWidget* list, const QString& name)
+    {
+        for (int i = 0; i < list->topLevelItemCount(); ++i) {
+            if (list->topLevelItem(i)->text(0) == name)
+                return list->topLevelItem(i);
+        }
+        return nullptr;
+    }
+
+    // The menu `key` opens on the row named `name`, as a person at the keyboard opens it.
+    static QMenu* menuOf(QTreeWidget* list, const QString& name, QKeyCombination key = QKeyCombination(Qt::Key_Menu))
+    {
+        QTreeWidgetItem* row = rowNamed(list, name);
+        if (!row)
+            return nullptr;
+        list->setCurrentItem(row);
+        QTest::keyClick(list, key.key(), key.keyboardModifiers());
+        return qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    }
+
+    static QAction* entry(QMenu* menu, const QString& text)
+    {
+        for (QAction* action : menu->actions()) {
+            if (action->text() == text)
+                return action;
+        }
+        return nullptr;
+    }
+
+    bool reachesPhase(CleanupSession::Phase phase)
+    {
+        return waitUntil([&] {
+            CleanupSheet* sheet = fixture.window().cleanupSheet();
+            return sheet && sheet->session() && sheet->session()->phase() == phase;
+        });
+    }
+
+    WindowFixture fixture;
+    StoragePage* storage = nullptr;
+};
+
+}  // namespace
+
+TEST_F(StorageActionsTest, AFolderGoesToTheTrashThroughTheCleanupsSheets)
+{
+    fixture.home().file("Projects/old/a.bin", 300'000);
+    fixture.home().file("Music/song.mp3", 100'000);
+    measureAndShowStorage();
+    const qint64 bytes = rowNamed(folderList(), "Projects/")->data(1, SizeBarDelegate::bytesRole).toLongLong();
+
+    QMenu* menu = menuOf(folderList(), "Projects/");
+    ASSERT_TRUE(menu) << "the menu key opened no menu";
+    QAction* trash = entry(menu, "Move to Trash");
+    ASSERT_TRUE(trash && trash->isEnabled());
+    trash->trigger();
+    menu->close();
+    ASSERT_TRUE(reachesPhase(CleanupSession::Phase::confirming));
+    CleanupSheet* sheet = fixture.window().cleanupSheet();
+    EXPECT_EQ(sheet->confirmation()->title()->text(), "Move “Projects in ~” to the Trash?");
+    const auto* risky = sheet->findChild<QLabel*>("riskyLine");
+    ASSERT_TRUE(risky);
+    EXPECT_TRUE(risky->text().contains("Projects in ~")) << "anything of the person's own is Risky";
+    sheet->confirmation()->confirmButton()->click();
+    ASSERT_TRUE(reachesPhase(CleanupSession::Phase::finished));
+
+    EXPECT_EQ(sheet->results()->figure("Moved to the Trash"), ByteCount::format(bytes));
+    EXPECT_FALSE(QFileInfo::exists(fixture.home().path("Projects")));
+    QProcess list;
+    list.start("trash-list", {});
+    ASSERT_TRUE(list.waitForFinished(30'000)) << "trash-cli is needed (scripts/setup.sh installs it)";
+    EXPECT_TRUE(list.readAllStandardOutput().contains(QFile::encodeName(fixture.home().path("Projects")) + '\n'));
+    EXPECT_TRUE(QFileInfo::exists(WindowFixture::trashFiles() + "/Projects/old/a.bin"));
+    EXPECT_EQ(fixture.model().stats()->stats().itemsRemoved, 1);
+    EXPECT_EQ(fixture.model().stats()->stats().cleanedBytes, bytes);
+
+    EXPECT_TRUE(fixture.model().isStorageOutdated());
+    const QTreeWidgetItem* gone = rowNamed(folderList(), "Projects/");
+    ASSERT_TRUE(gone);
+    EXPECT_EQ(gone->toolTip(0), "Moved away since the disk was measured.");
+    EXPECT_EQ(rowNamed(folderList(), "Music/")->toolTip(0), fixture.home().path("Music")) << "only what went is marked";
+    sheet->results()->doneButton()->click();
+    ASSERT_TRUE(waitUntil([&] { return !fixture.window().cleanupSheet(); }));
+    menu = menuOf(folderList(), "Projects/");
+    ASSERT_TRUE(menu);
+    EXPECT_FALSE(entry(menu, "Move to Trash")->isEnabled());
+    EXPECT_EQ(entry(menu, "Move to Trash")->toolTip(), "It no longer exists.");
+    menu->close();
+}
+
+// The Safe List holds wherever removal would take it along, on the list and in the sunburst;
+// the model refuses a refused row even when asked directly.
+TEST_F(StorageActionsTest, TheSafeListAndWhatLiesOutsideTheHomeAreRefused)
+{
+    fixture.home().file("Documents/keep/taxes.pdf", 200'000);
+    fixture.home().file("Documents/notes.txt", 200'000);
+    measureAndShowStorage();
+    fixture.model().addSafeFolder(fixture.home().path("Documents/keep"));
+
+    QMenu* menu = menuOf(folderList(), "Documents/", QKeyCombination(Qt::ShiftModifier, Qt::Key_F10));
+    ASSERT_TRUE(menu) << "Shift+F10 opened no menu";
+    for (const char* text : {"Move to Trash", "Move to Another Disk…"}) {
+        EXPECT_FALSE(entry(menu, text)->isEnabled()) << text;
+        EXPECT_EQ(entry(menu, text)->toolTip(), "Something inside it is on the Safe List.");
+    }
+    menu->close();
+
+    storage->folders()->sunburst()->zoomTo({"Documents"});
+    menu = menuOf(folderList(), "keep/");
+    ASSERT_TRUE(menu);
+    EXPECT_EQ(entry(menu, "Move to Trash")->toolTip(), "It is on the Safe List.");
+    menu->close();
+
+    // The drill-down: its row of loose files stands for them, not for the folder holding them.
+    storage->showBucket(StorageBucket::documents);
+    storage->showFolder(fixture.home().path("Documents"));
+    menu = menuOf(storage->details(), "Files in this folder");
+    ASSERT_TRUE(menu);
+    EXPECT_FALSE(entry(menu, "Move to Trash")) << "the loose files' row would trash their folder";
+    menu->close();
+    menu = menuOf(storage->details(), "keep/");
+    ASSERT_TRUE(menu);
+    EXPECT_EQ(entry(menu, "Move to Trash")->toolTip(), "It is on the Safe List.");
+    menu->close();
+
+    const CleanupItem safe = fixture.model().storageItem(fixture.home().path("Documents/keep"), 1);
+    fixture.model().prepareRemoval(safe);
+    EXPECT_EQ(fixture.model().cleanup(), nullptr);
+    EXPECT_EQ(fixture.model().toast(), "It is on the Safe List.");
+    EXPECT_FALSE(fixture.model().startMove(safe, "/dev/shm"));
+    EXPECT_TRUE(QFileInfo::exists(fixture.home().path("Documents/keep/taxes.pdf")));
+
+    Sunburst* sunburst = storage->folders()->sunburst();
+    sunburst->zoomTo({});
+    int documents = -1;
+    for (int i = 0; i < int(sunburst->layout().segments().size()); ++i) {
+        if (sunburst->layout().segments().at(size_t(i)).part == SunburstLayout::Part::folder && sunburst->folderOf(i) == QStringList{"Documents"})
+            documents = i;
+    }
+    ASSERT_GE(documents, 0);
+    emit sunburst->customContextMenuRequested(sunburst->middleOf(documents).toPoint());
+    menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_TRUE(menu) << "a folder's segment has no menu";
+    EXPECT_EQ(entry(menu, "Move to Trash")->toolTip(), "Something inside it is on the Safe List.");
+    menu->close();
+}
+
+// Between the menu and the confirmation the folder is replaced by a link to another one: the
+// remover's last look refuses it and neither the link nor what it points at goes.
+TEST_F(StorageActionsTest, AFolderSwappedForALinkAfterTheMenuIsKept)
+{
+    fixture.home().file("Projects/old/a.bin", 300'000);
+    fixture.home().file("Elsewhere/precious.txt", 1'000);
+    measureAndShowStorage();
+    QMenu* menu = menuOf(folderList(), "Projects/");
+    ASSERT_TRUE(menu);
+    QAction* trash = entry(menu, "Move to Trash");
+    ASSERT_TRUE(trash->isEnabled());
+
+    ASSERT_TRUE(QDir(fixture.home().root()).rename("Projects", "Projects-real"));
+    fixture.home().symlink("Projects", fixture.home().path("Elsewhere"));
+    trash->trigger();
+    menu->close();
+    ASSERT_TRUE(reachesPhase(CleanupSession::Phase::confirming));
+    fixture.window().cleanupSheet()->confirmation()->confirmButton()->click();
+    ASSERT_TRUE(reachesPhase(CleanupSession::Phase::finished));
+
+    const QAbstractItemModel* failures = fixture.window().cleanupSheet()->results()->failures()->model();
+    ASSERT_EQ(failures->rowCount(), 1);
+    EXPECT_EQ(failures->index(0, 0).data().toString(), "Projects in ~");
+    EXPECT_EQ(failures->index(0, 1).data().toString(), "It is a symbolic link.");
+    EXPECT_TRUE(QFileInfo(fixture.home().path("Projects")).isSymLink());
+    EXPECT_TRUE(QFileInfo::exists(fixture.home().path("Elsewhere/precious.txt")));
+    EXPECT_TRUE(QFileInfo::exists(fixture.home().path("Projects-real/old/a.bin")));
+    EXPECT_TRUE(QDir(WindowFixture::trashFiles()).isEmpty());
+    EXPECT_FALSE(fixture.model().isStorageOutdated()) << "nothing was removed";
+}
+
+// Large Folders' rows have the menu too: a folder in the home opens the move sheet naming it as
+// its row does; one outside the home is refused.
+TEST_F(StorageActionsTest, LargeFoldersMoveWhatLiesInTheHomeOnly)
+{
+    TempTree outside;
+    outside.file("cache/x.bin", 1'000);
+    const QString modules = fixture.home().file("code/node_modules/left-pad/index.js", 1'000);
+    fixture.start({}, [&](AppModel::Services& services) {
+        services.analyzeStorage = [home = fixture.home().root(), other = outside.path("cache")](const StorageAnalyzer::Request&) {
+            StorageReport report;
+            report.date = QDateTime::currentDateTimeUtc();
+            report.largeFolders = {{home + "/code/node_modules", 400'000'000, 5'000, 300'000'000, StorageBucket::developer},
+                                   {other, 200'000'000, 3'000, 150'000'000, StorageBucket::developer}};
+            return std::optional(report);
+        };
+    });
+    auto* page = new LargeFoldersPage(&fixture.model());
+    fixture.window().setScreenPage(SidebarDestination::Kind::largeFolders, page);
+    fixture.window().choose(SidebarDestination::screen(SidebarDestination::Kind::largeFolders));
+    fixture.model().startStorageAnalysis();
+    ASSERT_TRUE(waitUntil([&] { return page->list()->topLevelItemCount() == 2; }));
+
+    QMenu* menu = menuOf(page->list(), outside.path("cache"));
+    ASSERT_TRUE(menu);
+    EXPECT_EQ(entry(menu, "Move to Another Disk…")->toolTip(), "It is outside your home folder.");
+    EXPECT_FALSE(entry(menu, "Move to Trash")->isEnabled());
+    menu->close();
+
+    menu = menuOf(page->list(), "~/code/node_modules");
+    ASSERT_TRUE(menu);
+    entry(menu, "Move to Another Disk…")->trigger();
+    menu->close();
+    auto* sheet = fixture.window().findChild<MoveSheet*>();
+    ASSERT_TRUE(sheet);
+    EXPECT_TRUE(showsLabel(*sheet->destinationPage(), "Move “node_modules in ~/code” to another disk?"));
+    sheet->reject();
+    EXPECT_TRUE(QFileInfo::exists(modules));
+}
