@@ -25,6 +25,7 @@
 #include <QTreeView>
 #include <QTreeWidget>
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace {
@@ -65,13 +66,18 @@ protected:
         return qobject_cast<QMenu*>(QApplication::activePopupWidget());
     }
 
-    static QAction* entry(QMenu* menu, const QString& text)
+    // What the menu's entry `text` offers: "enabled", the reason it is not, "no entry" or "no menu".
+    static QString offer(QMenu* menu, const QString& text = QStringLiteral("Move to Trash"), bool choose = false)
     {
-        for (QAction* action : menu->actions()) {
-            if (action->text() == text)
-                return action;
-        }
-        return nullptr;
+        if (!menu)
+            return "no menu";
+        const QList<QAction*> actions = menu->actions();
+        const auto found = std::find_if(actions.begin(), actions.end(), [&](QAction* action) { return action->text() == text; });
+        const QString answer = found == actions.end() ? "no entry" : (*found)->isEnabled() ? "enabled" : (*found)->toolTip();
+        if (choose && answer == "enabled")
+            (*found)->trigger();
+        menu->close();
+        return answer;
     }
 
     bool reachesPhase(CleanupSession::Phase phase)
@@ -95,12 +101,7 @@ TEST_F(StorageActionsTest, AFolderGoesToTheTrashThroughTheCleanupsSheets)
     measureAndShowStorage();
     const qint64 bytes = rowNamed(folderList(), "Projects/")->data(1, SizeBarDelegate::bytesRole).toLongLong();
 
-    QMenu* menu = menuOf(folderList(), "Projects/");
-    ASSERT_TRUE(menu) << "the menu key opened no menu";
-    QAction* trash = entry(menu, "Move to Trash");
-    ASSERT_TRUE(trash && trash->isEnabled());
-    trash->trigger();
-    menu->close();
+    ASSERT_EQ(offer(menuOf(folderList(), "Projects/"), "Move to Trash", true), "enabled");
     ASSERT_TRUE(reachesPhase(CleanupSession::Phase::confirming));
     CleanupSheet* sheet = fixture.window().cleanupSheet();
     EXPECT_EQ(sheet->confirmation()->title()->text(), "Move “Projects in ~” to the Trash?");
@@ -121,17 +122,11 @@ TEST_F(StorageActionsTest, AFolderGoesToTheTrashThroughTheCleanupsSheets)
     EXPECT_EQ(fixture.model().stats()->stats().cleanedBytes, bytes);
 
     EXPECT_TRUE(fixture.model().isStorageOutdated());
-    const QTreeWidgetItem* gone = rowNamed(folderList(), "Projects/");
-    ASSERT_TRUE(gone);
-    EXPECT_EQ(gone->toolTip(0), "Moved away since the disk was measured.");
+    EXPECT_EQ(rowNamed(folderList(), "Projects/")->toolTip(0), "Moved away since the disk was measured.");
     EXPECT_EQ(rowNamed(folderList(), "Music/")->toolTip(0), fixture.home().path("Music")) << "only what went is marked";
     sheet->results()->doneButton()->click();
     ASSERT_TRUE(waitUntil([&] { return !fixture.window().cleanupSheet(); }));
-    menu = menuOf(folderList(), "Projects/");
-    ASSERT_TRUE(menu);
-    EXPECT_FALSE(entry(menu, "Move to Trash")->isEnabled());
-    EXPECT_EQ(entry(menu, "Move to Trash")->toolTip(), "It no longer exists.");
-    menu->close();
+    EXPECT_EQ(offer(menuOf(folderList(), "Projects/")), "It no longer exists.");
 }
 
 // The Safe List holds wherever removal would take it along, on the list and in the sunburst;
@@ -143,31 +138,16 @@ TEST_F(StorageActionsTest, TheSafeListAndWhatLiesOutsideTheHomeAreRefused)
     measureAndShowStorage();
     fixture.model().addSafeFolder(fixture.home().path("Documents/keep"));
 
-    QMenu* menu = menuOf(folderList(), "Documents/", QKeyCombination(Qt::ShiftModifier, Qt::Key_F10));
-    ASSERT_TRUE(menu) << "Shift+F10 opened no menu";
-    for (const char* text : {"Move to Trash", "Move to Another Disk…"}) {
-        EXPECT_FALSE(entry(menu, text)->isEnabled()) << text;
-        EXPECT_EQ(entry(menu, text)->toolTip(), "Something inside it is on the Safe List.");
-    }
-    menu->close();
-
+    const QString holds = "Something inside it is on the Safe List.";
+    EXPECT_EQ(offer(menuOf(folderList(), "Documents/", QKeyCombination(Qt::ShiftModifier, Qt::Key_F10))), holds);
+    EXPECT_EQ(offer(menuOf(folderList(), "Documents/"), "Move to Another Disk…"), holds);
     storage->folders()->sunburst()->zoomTo({"Documents"});
-    menu = menuOf(folderList(), "keep/");
-    ASSERT_TRUE(menu);
-    EXPECT_EQ(entry(menu, "Move to Trash")->toolTip(), "It is on the Safe List.");
-    menu->close();
-
+    EXPECT_EQ(offer(menuOf(folderList(), "keep/")), "It is on the Safe List.");
     // The drill-down: its row of loose files stands for them, not for the folder holding them.
     storage->showBucket(StorageBucket::documents);
     storage->showFolder(fixture.home().path("Documents"));
-    menu = menuOf(storage->details(), "Files in this folder");
-    ASSERT_TRUE(menu);
-    EXPECT_FALSE(entry(menu, "Move to Trash")) << "the loose files' row would trash their folder";
-    menu->close();
-    menu = menuOf(storage->details(), "keep/");
-    ASSERT_TRUE(menu);
-    EXPECT_EQ(entry(menu, "Move to Trash")->toolTip(), "It is on the Safe List.");
-    menu->close();
+    EXPECT_EQ(offer(menuOf(storage->details(), "Files in this folder")), "no entry");
+    EXPECT_EQ(offer(menuOf(storage->details(), "keep/")), "It is on the Safe List.");
 
     const CleanupItem safe = fixture.model().storageItem(fixture.home().path("Documents/keep"), 1);
     fixture.model().prepareRemoval(safe);
@@ -178,17 +158,13 @@ TEST_F(StorageActionsTest, TheSafeListAndWhatLiesOutsideTheHomeAreRefused)
 
     Sunburst* sunburst = storage->folders()->sunburst();
     sunburst->zoomTo({});
-    int documents = -1;
-    for (int i = 0; i < int(sunburst->layout().segments().size()); ++i) {
-        if (sunburst->layout().segments().at(size_t(i)).part == SunburstLayout::Part::folder && sunburst->folderOf(i) == QStringList{"Documents"})
-            documents = i;
-    }
-    ASSERT_GE(documents, 0);
-    emit sunburst->customContextMenuRequested(sunburst->middleOf(documents).toPoint());
-    menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    ASSERT_TRUE(menu) << "a folder's segment has no menu";
-    EXPECT_EQ(entry(menu, "Move to Trash")->toolTip(), "Something inside it is on the Safe List.");
-    menu->close();
+    const auto& segments = sunburst->layout().segments();
+    const auto documents = std::find_if(segments.begin(), segments.end(), [](const SunburstLayout::Segment& segment) {
+        return segment.part == SunburstLayout::Part::folder && segment.node->name == "Documents";
+    });
+    ASSERT_NE(documents, segments.end());
+    emit sunburst->customContextMenuRequested(sunburst->middleOf(int(documents - segments.begin())).toPoint());
+    EXPECT_EQ(offer(qobject_cast<QMenu*>(QApplication::activePopupWidget())), holds);
 }
 
 // Between the menu and the confirmation the folder is replaced by a link to another one: the
@@ -199,14 +175,9 @@ TEST_F(StorageActionsTest, AFolderSwappedForALinkAfterTheMenuIsKept)
     fixture.home().file("Elsewhere/precious.txt", 1'000);
     measureAndShowStorage();
     QMenu* menu = menuOf(folderList(), "Projects/");
-    ASSERT_TRUE(menu);
-    QAction* trash = entry(menu, "Move to Trash");
-    ASSERT_TRUE(trash->isEnabled());
-
     ASSERT_TRUE(QDir(fixture.home().root()).rename("Projects", "Projects-real"));
     fixture.home().symlink("Projects", fixture.home().path("Elsewhere"));
-    trash->trigger();
-    menu->close();
+    ASSERT_EQ(offer(menu, "Move to Trash", true), "enabled");
     ASSERT_TRUE(reachesPhase(CleanupSession::Phase::confirming));
     fixture.window().cleanupSheet()->confirmation()->confirmButton()->click();
     ASSERT_TRUE(reachesPhase(CleanupSession::Phase::finished));
@@ -244,16 +215,9 @@ TEST_F(StorageActionsTest, LargeFoldersMoveWhatLiesInTheHomeOnly)
     fixture.model().startStorageAnalysis();
     ASSERT_TRUE(waitUntil([&] { return page->list()->topLevelItemCount() == 2; }));
 
-    QMenu* menu = menuOf(page->list(), outside.path("cache"));
-    ASSERT_TRUE(menu);
-    EXPECT_EQ(entry(menu, "Move to Another Disk…")->toolTip(), "It is outside your home folder.");
-    EXPECT_FALSE(entry(menu, "Move to Trash")->isEnabled());
-    menu->close();
-
-    menu = menuOf(page->list(), "~/code/node_modules");
-    ASSERT_TRUE(menu);
-    entry(menu, "Move to Another Disk…")->trigger();
-    menu->close();
+    EXPECT_EQ(offer(menuOf(page->list(), outside.path("cache"))), "It is outside your home folder.");
+    EXPECT_EQ(offer(menuOf(page->list(), outside.path("cache")), "Move to Another Disk…"), "It is outside your home folder.");
+    ASSERT_EQ(offer(menuOf(page->list(), "~/code/node_modules"), "Move to Another Disk…", true), "enabled");
     auto* sheet = fixture.window().findChild<MoveSheet*>();
     ASSERT_TRUE(sheet);
     EXPECT_TRUE(showsLabel(*sheet->destinationPage(), "Move “node_modules in ~/code” to another disk?"));
