@@ -158,13 +158,10 @@ TEST_F(StorageActionsTest, TheSafeListAndWhatLiesOutsideTheHomeAreRefused)
 
     Sunburst* sunburst = storage->folders()->sunburst();
     sunburst->zoomTo({});
-    const auto& segments = sunburst->layout().segments();
-    const auto documents = std::find_if(segments.begin(), segments.end(), [](const SunburstLayout::Segment& segment) {
-        return segment.part == SunburstLayout::Part::folder && segment.node->name == "Documents";
-    });
-    ASSERT_NE(documents, segments.end());
-    emit sunburst->customContextMenuRequested(sunburst->middleOf(int(documents - segments.begin())).toPoint());
-    EXPECT_EQ(offer(qobject_cast<QMenu*>(QApplication::activePopupWidget())), holds);
+    QTest::keyClick(sunburst, Qt::Key_Right);  // to the first segment of the inner ring, the only folder
+    ASSERT_EQ(sunburst->folderOf(sunburst->current()), QStringList{"Documents"});
+    QTest::keyClick(sunburst, Qt::Key_Menu);
+    EXPECT_EQ(offer(qobject_cast<QMenu*>(QApplication::activePopupWidget())), holds) << "a folder's segment has its menu";
 }
 
 // Between the menu and the confirmation the folder is replaced by a link to another one: the
