@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QStringList>
+
+// What changed on disk since the storage report was measured, so the screens can say the report
+// is out of date until those places are measured again. A folder measured again alone covers the
+// changes inside it; a change the report can't place (a tool's removal) waits for a full
+// measurement. A plain value, GUI thread only.
+class StorageStaleness {
+public:
+    // Paths removed or moved away; none: somewhere the report can't say.
+    void note(const QStringList& paths);
+    // The folder was measured again: changes inside it are in the report now.
+    void measuredAgain(const QString& folder);
+    void clear() { *this = {}; }
+    bool isOutdated() const { return m_elsewhere || !m_paths.isEmpty(); }
+
+private:
+    QStringList m_paths;
+    bool m_elsewhere = false;
+};
