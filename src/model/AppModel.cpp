@@ -42,6 +42,9 @@ AppModel::Services AppModel::defaultServices()
         return Mover::move(item, destination, progress, environment);
     };
     services.analyzeStorage = [](const StorageAnalyzer::Request& request) { return StorageAnalyzer::analyze(request); };
+    services.remeasureStorage = [](const StorageAnalyzer::Request& request, const StorageReport& report, const QString& folder) {
+        return StorageAnalyzer::remeasure(request, report, folder);
+    };
     services.diskUsed = [](const QString& home) -> std::optional<qint64> {
         const auto disk = DiskSpace::current(home);
         return disk ? std::optional<qint64>(disk->total - disk->available) : std::nullopt;
@@ -63,6 +66,16 @@ AppModel::AppModel(SettingsStore* settings, StatsStore* stats, Services services
 {
     m_history = new HistoryRecorder(m_services.historyFile, this);
     m_history->refresh();
+    // One clock for every screen's relative dates, so none keeps a timer of its own.
+    m_clock.setInterval(clockInterval);
+    connect(&m_clock, &QTimer::timeout, this, &AppModel::clockTicked);
+    m_clock.start();
+}
+
+std::optional<QDateTime> AppModel::scannedAt(CategoryID category) const
+{
+    const auto found = m_scannedAt.find(category);
+    return found == m_scannedAt.end() ? std::nullopt : std::optional<QDateTime>(found->second);
 }
 
 // Cancels every running scan; each ScanTask waits for its threads as it is destroyed.
@@ -199,6 +212,8 @@ void AppModel::outputArrived(const QUuid& id, const ScanOutputs& outputs)
     const auto found = m_scans.find(id);
     if (found == m_scans.end())
         return;
+    for (const auto& [category, output] : outputs)
+        m_scannedAt[category] = found->second.started;
     apply(outputs, found->second.task->isCancelled());
     if (--found->second.outputsLeft == 0)
         finishScan(id);

@@ -7,6 +7,7 @@
 #include "model/MoveSession.h"
 #include "model/ScanTask.h"
 #include "model/Selection.h"
+#include "model/StorageStaleness.h"
 #include "model/TrashState.h"
 #include "model/UpdateState.h"
 #include "storage/StorageAnalyzer.h"
@@ -20,6 +21,7 @@
 #include <QHash>
 #include <QObject>
 #include <QSet>
+#include <QTimer>
 #include <QUuid>
 
 #include <functional>
@@ -67,6 +69,10 @@ public:
         std::function<std::optional<QString>(const FreedesktopTrash::EmptyProgress&, const CancellationToken&)> emptyTrash;
         // The storage analysis; absent when cancelled. Runs on the analysis's worker thread.
         std::function<std::optional<StorageReport>(const StorageAnalyzer::Request&)> analyzeStorage;
+        // One folder of a report measured again and put in its place (`StorageAnalyzer::remeasure`);
+        // absent when cancelled. Runs on the analysis's worker thread.
+        std::function<std::optional<StorageReport>(const StorageAnalyzer::Request&, const StorageReport&, const QString&)>
+            remeasureStorage;
         // Bytes in use on the home's volume; absent when unknown. Runs on a worker thread.
         std::function<std::optional<qint64>(const QString& home)> diskUsed;
         // Moves one item to another disk in the environment the move started with (its
@@ -109,6 +115,11 @@ public:
     CategoryResult result(CategoryID category) const;
     std::shared_ptr<ScanProgress> progress() const { return m_progress; }
     const SystemState& systemState() const { return m_systemState; }
+    // The model's clock: the system's, or a test's.
+    QDateTime now() const { return m_services.now(); }
+    // When a scanner last filled the category's list; absent before.
+    std::optional<QDateTime> scannedAt(CategoryID category) const;
+    static constexpr int clockInterval = 30'000;  // milliseconds
 
     // --- Storage (AppModelStorage.cpp)
     // Starts an analysis of the home, replacing one that runs; a full scan starts one too.
@@ -117,15 +128,28 @@ public:
     bool isAnalyzingStorage() const;
     // The last finished analysis; kept until the next one finishes.
     const std::optional<StorageReport>& storageReport() const { return m_storageReport; }
-    // Whether a cleanup or a move changed the disk since the last report was measured.
-    bool isStorageOutdated() const { return m_storageOutdated; }
+    // Measures one folder of the report again on a worker thread and puts it in place (the tree,
+    // the lists, the totals); the report keeps its date. Only where `canRemeasureFolder`.
+    void remeasureFolder(const QString& path);
+    // Whether the report keeps that folder apart, so it can be measured again alone.
+    bool storageKeepsFolder(const QString& path) const;
+    // Whether it keeps the folder and no analysis runs.
+    bool canRemeasureFolder(const QString& path) const;
+    // The folder being measured again; empty while the whole home is (or nothing is) measured.
+    const QString& storageFolderMeasured() const { return m_storageFolder; }
+    // About how many entries the running analysis will look at, from the last report; absent
+    // when there is no fair guess (no report yet, or a full scan shares the count).
+    std::optional<qint64> storageEntriesExpected() const { return m_storageExpected; }
+    // Whether a cleanup or a move changed the disk, in a place not measured again since, after
+    // the last report was measured.
+    bool isStorageOutdated() const { return m_storageStaleness.isOutdated(); }
     // Puts a folder on the Safe List: nothing inside it is shown by scans any more; a toast says so.
     void addFolderToSafeList(const QString& path);
     // A folder or file of the storage screens, measured at `bytes`, as the item a cleanup
     // (prepareRemoval) or a move takes; locked with the reason where those must not touch it.
     CleanupItem storageItem(const QString& path, qint64 bytes) const;
     // What cleanups and moves have taken away since the report was measured, so its rows can say so.
-    const QStringList& storageGone() const { return m_storageGone; }
+    const QStringList& storageGone() const { return m_storageStaleness.gone(); }
 
     // --- Selection (AppModelSelection.cpp)
     const Selection& selection() const { return m_selection; }
@@ -215,6 +239,8 @@ signals:
     void storageChanged();
     void moveChanged();
     void updateStateChanged();
+    // Every `clockInterval`: relative dates on screen ("5 minutes ago") are drawn again from `now()`.
+    void clockTicked();
 
 private:
     struct RunningScan {
@@ -235,6 +261,8 @@ private:
     void removeLoneCopies();
 
     SettingsStore* m_settings;
+    QTimer m_clock;
+    std::map<CategoryID, QDateTime> m_scannedAt;
     StatsStore* m_stats;
     HistoryRecorder* m_history = nullptr;  // a child
     Services m_services;
@@ -254,16 +282,21 @@ private:
     // rescan() without waiting for an ended move's sheet to close, for categories a move can't touch.
     void startRescan(CategoryID category);
 
+    void startStorageTask(StorageAnalyzer::Request request,
+                          std::function<std::optional<StorageReport>(const StorageAnalyzer::Request&)> analyze,
+                          const QString& folder, std::optional<qint64> expected);
     void storageFinished(quint64 generation, const std::optional<StorageReport>& report);
-    void markStorageOutdated();
-    void noteStorageGone(const QStringList& paths);
     void openCleanup(QList<CleanupItem> items);
+    // Marks the report out of date where an item went from and, for a move to the Trash, the
+    // home's Trash; an item without paths (a tool's removal) leaves it out of date anywhere.
+    void noteStorageChange(const CleanupItem& item);
 
     std::map<quint64, std::unique_ptr<StorageTask>> m_storageTasks;  // the current one and stopped ones
     quint64 m_storageGeneration = 0;                                  // the current one's key
     std::optional<StorageReport> m_storageReport;
-    bool m_storageOutdated = false;
-    QStringList m_storageGone;
+    StorageStaleness m_storageStaleness;
+    QString m_storageFolder;  // the folder the running task measures again, empty for the home
+    std::optional<qint64> m_storageExpected;
     SystemState m_systemState;
     QString m_toast;
     std::unique_ptr<CleanupSession> m_cleanup;

@@ -76,7 +76,7 @@ void AppModel::runCleanup(CleanupSession* session, QList<CleanupItem> items, QLi
             session->record(item, outcome);
             if (outcome.succeeded()) {
                 removeFromResults(item);
-                noteStorageGone(item.removal.paths());
+                noteStorageChange(item);
             }
             else if (m_selection.remove(item.id))
                 emit selectionChanged();  // a row that stays after its failure is not ticked for the next cleanup
@@ -95,8 +95,8 @@ void AppModel::finishCleanup(std::optional<qint64> freeAfter)
     m_cleanupLock.reset();
     session->setFreeAfter(freeAfter);
     m_stats->recordCleanup(session->movedToTrash(), session->removedByTools(), session->removedCount());
-    if (session->removedCount() > 0)
-        markStorageOutdated();
+    if (session->removedCount() > 0 && m_storageReport)
+        emit storageChanged();  // the report is out of date where items went
     refreshSystemState();
     session->setPhase(CleanupSession::Phase::finished);
     refreshTrash();  // after the phase, so the Trash row may be scanned again

@@ -40,8 +40,8 @@ void AppModel::finishMove(const Mover::Outcome& outcome)
     m_move->setOutcome(outcome);
     if (outcome.originalTrashed()) {
         removeFromResults(m_move->item());
-        noteStorageGone(m_move->item().removal.paths());
-        markStorageOutdated();
+        noteStorageChange(m_move->item());
+        emit storageChanged();
         refreshSystemState();
         refreshTrash();
     }

@@ -2,6 +2,16 @@
 
 #include <algorithm>
 
+void FolderNode::Makeup::add(const Makeup& other, qint64 sign)
+{
+    for (size_t i = 0; i < kindBytes.size(); ++i) {
+        kindBytes[i] += sign * other.kindBytes[i];
+        kindFiles[i] += sign * other.kindFiles[i];
+    }
+    smallBytes += sign * other.smallBytes;
+    folderBytes += sign * other.folderBytes;
+}
+
 qsizetype FolderNode::nodeCount() const
 {
     qsizetype count = 1;

@@ -5,12 +5,25 @@
 #include <QString>
 #include <QStringList>
 
+#include <array>
 #include <vector>
 
 // One folder of the storage analysis's bounded tree. Its bytes are exactly its kept
 // sub-folders' bytes plus `ownBytes` plus `foldedBytes`; hard links are counted once, where the
 // walk met them first.
 struct FolderNode {
+    // What lies below the folder by kind, for splicing a folder measured again into a report
+    // without walking the rest: the totals move by exactly the difference.
+    struct Makeup {
+        std::array<qint64, StorageBuckets::count> kindBytes{};
+        std::array<qint64, StorageBuckets::count> kindFiles{};
+        qint64 smallBytes = 0;   // in small files
+        qint64 folderBytes = 0;  // the blocks of the folders themselves (and of unreadable ones)
+
+        void add(const Makeup& other, qint64 sign = 1);
+        bool operator==(const Makeup&) const = default;
+    };
+
     QString name;
     qint64 bytes = 0;
     qint64 fileCount = 0;    // everything below it that is not a folder
@@ -18,6 +31,7 @@ struct FolderNode {
     qint64 foldedBytes = 0;  // sub-folders too small to keep, each counted whole
     StorageBucket kind = StorageBucket::other;
     std::vector<FolderNode> children;  // largest first
+    Makeup makeup{};
 
     bool operator==(const FolderNode&) const = default;
 

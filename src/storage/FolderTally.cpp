@@ -17,6 +17,7 @@ void FolderTally::addFile(StorageBucket bucket, qint64 allocatedBytes)
     bytes += allocatedBytes;
     ownBytes += allocatedBytes;
     byBucket.at(static_cast<size_t>(bucket)) += allocatedBytes;
+    ++filesByBucket.at(static_cast<size_t>(bucket));
     unlistedBytes += allocatedBytes;
     ++fileCount;
     ++unlistedFiles;
@@ -32,6 +33,7 @@ void FolderTally::addOwnBlocks(StorageBucket bucket, qint64 allocatedBytes)
 {
     bytes += allocatedBytes;
     ownBytes += allocatedBytes;
+    folderBytes += allocatedBytes;
     byBucket.at(static_cast<size_t>(bucket)) += allocatedBytes;
     unlistedBytes += allocatedBytes;
     unlistedByBucket.at(static_cast<size_t>(bucket)) += allocatedBytes;
@@ -48,8 +50,11 @@ void FolderTally::absorb(const FolderTally& child, bool childListed)
     bytes += child.bytes;
     fileCount += child.fileCount;
     smallBytes += child.smallBytes;
-    for (size_t i = 0; i < byBucket.size(); ++i)
+    folderBytes += child.folderBytes;
+    for (size_t i = 0; i < byBucket.size(); ++i) {
         byBucket[i] += child.byBucket[i];
+        filesByBucket[i] += child.filesByBucket[i];
+    }
     if (childListed)
         return;
     unlistedBytes += child.unlistedBytes;
@@ -83,4 +88,9 @@ StorageBucket FolderTally::listedKind() const
 StorageBucket FolderTally::treeKind() const
 {
     return kind ? *kind : largest(byBucket);
+}
+
+FolderNode::Makeup FolderTally::makeup() const
+{
+    return FolderNode::Makeup{byBucket, filesByBucket, smallBytes, folderBytes};
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "storage/FolderNode.h"
 #include "storage/StorageBucket.h"
 
 #include <array>
@@ -26,6 +27,8 @@ struct FolderTally {
     qint64 unlistedSmallFiles = 0;
     std::array<qint64, StorageBuckets::count> unlistedByBucket{};
     std::array<qint64, StorageBuckets::count> byBucket{};
+    std::array<qint64, StorageBuckets::count> filesByBucket{};
+    qint64 folderBytes = 0;  // its own blocks and its sub-folders'
 
     static bool isSmall(qint64 allocatedBytes) { return allocatedBytes < smallFileLimit; }
 
@@ -45,4 +48,6 @@ struct FolderTally {
     StorageBucket listedKind() const;
     // The bucket the folder tree shows: the forced one, else the one holding most bytes.
     StorageBucket treeKind() const;
+    // Its numbers by kind, as the folder tree keeps them.
+    FolderNode::Makeup makeup() const;
 };

@@ -1,5 +1,7 @@
 #include "storage/FolderTreeBuilder.h"
 
+#include "storage/FolderTally.h"
+
 #include <algorithm>
 
 namespace {
@@ -34,6 +36,7 @@ void FolderTreeBuilder::leaveFolder(FolderNode node)
         m_top.bytes += node.bytes;
         m_top.fileCount += node.fileCount;
         m_top.kind = node.kind;
+        m_top.makeup.add(node.makeup);
     }
     const auto depth = static_cast<qsizetype>(m_levels.size()) - 1;  // 0 for the root
     if (depth > deepestLevel) {  // nothing below it was kept either
@@ -95,11 +98,15 @@ qsizetype FolderTreeBuilder::addTo(Level& level, Level share)
     return nodes;
 }
 
-void FolderTreeBuilder::addRootFile(qint64 bytes)
+void FolderTreeBuilder::addRootFile(StorageBucket bucket, qint64 bytes)
 {
     m_top.bytes += bytes;
     m_top.ownBytes += bytes;
     ++m_top.fileCount;
+    m_top.makeup.kindBytes.at(static_cast<size_t>(bucket)) += bytes;
+    ++m_top.makeup.kindFiles.at(static_cast<size_t>(bucket));
+    if (FolderTally::isSmall(bytes))
+        m_top.makeup.smallBytes += bytes;
 }
 
 FolderNode FolderTreeBuilder::finish() &&

@@ -27,7 +27,7 @@ public:
     // `node` is the folder just left, without children: it gets those kept since it was entered.
     void leaveFolder(FolderNode node);
     // The walk's root is a file: it belongs to the folder that holds the root.
-    void addRootFile(qint64 bytes);
+    void addRootFile(StorageBucket bucket, qint64 bytes);
     // The folder that holds the walk's root, with the root as its one child (or the root file
     // in its own bytes). Folders still open (a stopped walk) are left out.
     [[nodiscard]] FolderNode finish() &&;

@@ -1,5 +1,7 @@
 #include "storage/HomeTree.h"
 
+#include "storage/FolderTally.h"
+
 #include <QFile>
 #include <QSet>
 
@@ -11,14 +13,20 @@ namespace {
 
 // Takes a file counted elsewhere out of the folder where this walk counted it and out of every
 // folder above it; a folder folded since is reached through the kept folder that holds it.
-void takeOut(FolderNode& top, const QByteArray& folder, qint64 bytes)
+void takeOut(FolderNode& top, const QByteArray& folder, const StoragePartial::LinkedFile& file)
 {
+    const qint64 bytes = file.bytes;
+    const auto kind = static_cast<size_t>(file.bucket);
     const QStringList names = folder.isEmpty() ? QStringList() : QFile::decodeName(folder).split(QLatin1Char('/'));
     FolderNode* node = &top;
     qsizetype depth = 0;
     for (;; ++depth) {
         node->bytes -= bytes;
         --node->fileCount;
+        node->makeup.kindBytes.at(kind) -= bytes;
+        --node->makeup.kindFiles.at(kind);
+        if (FolderTally::isSmall(bytes))
+            node->makeup.smallBytes -= bytes;
         if (depth == names.size())
             break;
         const QString& name = names.at(depth);
@@ -37,11 +45,13 @@ void absorb(FolderNode& into, FolderNode&& top)
     into.fileCount += top.fileCount;
     into.ownBytes += top.ownBytes;
     into.foldedBytes += top.foldedBytes;
+    into.makeup.add(top.makeup);
     for (FolderNode& child : top.children)
         into.children.push_back(std::move(child));
 }
 
-// A folder made of roots shows the kind of the most bytes among them.
+}  // namespace
+
 void settleKind(FolderNode& node)
 {
     std::array<qint64, StorageBuckets::count> byKind{};
@@ -51,6 +61,8 @@ void settleKind(FolderNode& node)
     node.kind = *largest > 0 ? StorageBuckets::allCases().at(static_cast<size_t>(largest - byKind.begin()))
                              : StorageBucket::other;
 }
+
+namespace {
 
 void collectBytes(const FolderNode& node, std::vector<qint64>& into)
 {
@@ -74,7 +86,7 @@ FolderNode assemble(const QByteArray& home, const std::vector<QByteArray>& roots
         StoragePartial& partial = partials[i];
         for (auto link = partial.links.cbegin(); link != partial.links.cend(); ++link) {
             if (counted.contains(link.key()) && link->folder >= 0)
-                takeOut(partial.tree, partial.linkFolders.at(static_cast<size_t>(link->folder)), link->bytes);
+                takeOut(partial.tree, partial.linkFolders.at(static_cast<size_t>(link->folder)), *link);
             counted.insert(link.key());
         }
         const QByteArray parent = roots[i].left(roots[i].lastIndexOf('/'));
@@ -89,6 +101,7 @@ FolderNode assemble(const QByteArray& home, const std::vector<QByteArray>& roots
         settleKind(libraryNode);
         homeNode.bytes += libraryNode.bytes;
         homeNode.fileCount += libraryNode.fileCount;
+        homeNode.makeup.add(libraryNode.makeup);
         homeNode.children.push_back(std::move(libraryNode));
     }
     settleKind(homeNode);

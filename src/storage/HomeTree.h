@@ -22,6 +22,9 @@ inline constexpr qsizetype nodesKept = 20'000;
 FolderNode assemble(const QByteArray& home, const std::vector<QByteArray>& roots, std::vector<StoragePartial>& partials,
                     qsizetype limit = nodesKept);
 
+// A folder made of roots (the home, its Library) shows the kind of the most bytes among them.
+void settleKind(FolderNode& node);
+
 // Folds every folder below the kept share of `tree`'s bytes, then, while more than `limit`
 // folders remain, the smallest; children end up largest first.
 void bound(FolderNode& tree, qsizetype limit = nodesKept);

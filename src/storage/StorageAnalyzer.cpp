@@ -2,6 +2,8 @@
 
 #include "machinery/Concurrency.h"
 #include "storage/BucketRules.h"
+#include "storage/FolderScope.h"
+#include "storage/FolderSplice.h"
 #include "storage/FolderUsageBuilder.h"
 #include "storage/HomeTree.h"
 #include "storage/StorageWalker.h"
@@ -126,6 +128,24 @@ std::optional<StorageReport> analyze(const Request& request)
     return report;
 }
 
+std::optional<StorageReport> remeasure(const Request& request, StorageReport report, const QString& folder)
+{
+    const QStringList names = FolderSplice::namesOf(report, request.home, folder);
+    if (names.isEmpty())
+        return std::nullopt;
+    const BucketRules rules(QFile::encodeName(request.home));
+    const QByteArray path = QFile::encodeName(folder);
+    const auto above = FolderScope::above(QFile::encodeName(FolderSplice::rootOf(request.home, names)), path, rules);
+    const StorageWalker walker(rules, request.progress.get(), &request.cancellation, request.treeNodes);
+    StoragePartial walked = walker.walk(path, above ? &*above : nullptr);
+    if (request.cancellation.isCancelled())
+        return std::nullopt;
+    report = FolderSplice::splice(std::move(report), request.home, names, std::move(walked), rules, request.treeNodes);
+    if (request.diskUsed)
+        report.diskUsed = request.diskUsed().value_or(0);
+    return report;
+}
+
 StorageReport merge(std::vector<StoragePartial> partials)
 {
     StorageReport report;
@@ -145,6 +165,7 @@ StorageReport merge(std::vector<StoragePartial> partials)
         }
         report.largeFolders.append(partial.largeFolders);
         unreadable += partial.unreadableFolders;
+        report.entries += partial.entries;
     }
     addLinkedFiles(report, partials);
     for (size_t bucket = 0; bucket < folders.size(); ++bucket) {

@@ -44,6 +44,11 @@ std::vector<QByteArray> roots(const Request& request);
 // The report, or absent when the request was cancelled before every root was walked.
 std::optional<StorageReport> analyze(const Request& request);
 
+// `report` with one folder of its tree (`folder`, below the home, see `FolderSplice::namesOf`)
+// measured again alone and put in place; absent when cancelled or when the report's tree does
+// not keep that folder. The report keeps its date: most of it was measured then.
+std::optional<StorageReport> remeasure(const Request& request, StorageReport report, const QString& folder);
+
 // Combines the walks of all roots, in root order: a file with several hard links is counted
 // once, in the bucket of the first root that holds it.
 StorageReport merge(std::vector<StoragePartial> partials);

@@ -29,5 +29,6 @@ struct StoragePartial {
     FolderNode tree;
     QList<StorageReport::LargeFolder> largeFolders;
     qint64 unreadableFolders = 0;
+    qint64 entries = 0;  // files, folders and links looked at
     bool complete = true;  // false when the walk was stopped
 };

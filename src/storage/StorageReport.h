@@ -56,6 +56,9 @@ struct StorageReport {
     qint64 diskUsed = 0;  // 0 when the volume's figures could not be read
     QStringList notes;
     bool measuredWithFullDiskAccess = true;
+    // Entries the walks looked at, what the next measurement expects to read; a folder measured
+    // again alone leaves it as it was.
+    qint64 entries = 0;
     // The home's folders that hold a fair share of it, bounded (`HomeTree`); the applications
     // folder lies outside it.
     FolderNode tree;

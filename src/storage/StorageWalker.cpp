@@ -2,6 +2,7 @@
 
 #include "machinery/ScanProgress.h"
 #include "machinery/SplitWalk.h"
+#include "storage/FolderScope.h"
 #include "storage/FolderTally.h"
 #include "storage/FolderTreeBuilder.h"
 #include "storage/FolderUsageBuilder.h"
@@ -54,6 +55,9 @@ struct WalkSettings {
     QByteArray rootParent;
     // Set once two pieces are found to hold one hard-linked file: the split walk is given up.
     std::atomic<bool>* piecesShareLinks = nullptr;
+    // The scope of the folder holding the root when the root is a folder below a root of the
+    // analysis, measured again alone; null for a root of the analysis.
+    const FolderScope* above = nullptr;
 };
 
 // One walk in progress, or one piece of a split walk: the open folders, the root's own usage
@@ -87,7 +91,7 @@ private:
         QByteArray name;  // raw; only folders that make a list need a path, built from the names
         int usageFrame = -1;  // the frame whose own usage takes its files; -1: the root's of each bucket
         std::unique_ptr<FolderUsageBuilder> ownUsage;
-        QByteArray group;  // "" directly in the usage's folder
+        FolderScope scope;
         qsizetype linkFolder = -1;  // its index in the partial's link folders, once it holds a link
     };
     // A shared folder this piece left: its share, finished by the join.
@@ -123,11 +127,12 @@ private:
     StoragePartial m_partial;
     std::vector<LeftShared> m_leftShared;  // deepest first
     qint64 m_entries = 0;
+    qint64 m_joinedEntries = 0;  // those of the pieces joined into this one
 };
 
 StoragePartial Walking::run(const QByteArray& root, int threads)
 {
-    m_rootUsagePath = root;
+    m_rootUsagePath = m_settings.above ? m_settings.above->usage : root;
     TreeWalker::End end = TreeWalker::End::Finished;
     if (threads > 1) {
         SplitWalk::Options options;
@@ -153,7 +158,7 @@ std::unique_ptr<SplittableVisitor> Walking::fork() const
         copy.usageFrame = frame.usageFrame;
         if (frame.ownUsage)
             copy.ownUsage = std::make_unique<FolderUsageBuilder>(frame.ownUsage->path());
-        copy.group = frame.group;
+        copy.scope = frame.scope;
         piece->m_frames.push_back(std::move(copy));
         piece->m_tree.enterFolder();
     }
@@ -210,32 +215,24 @@ void Walking::enter(const Entry& entry)
     m_tree.enterFolder();
 }
 
-// A folder inherits its parent's bucket, package and usage; a forced bucket of its own (by name
-// outside any forced folder, by a full-path row anywhere outside a package) starts a new usage.
+// A folder takes its bucket, package and usage from the scope it enters; a usage of its own
+// (or, at the top of a walk below a forced folder, that folder's) collects its files.
 Walking::Frame Walking::makeFrame(const QByteArray& path) const
 {
     const Frame* parent = m_frames.empty() ? nullptr : &m_frames.back();
-    const QByteArrayView name = nameOf(path);
     Frame frame;
-    frame.package = BucketRules::isPackage(name);
-    if (parent) {
-        frame.tally.kind = parent->tally.kind;
-        frame.tally.insidePackage = parent->package || parent->tally.insidePackage;
-        frame.tally.listable = !frame.tally.insidePackage;
+    frame.scope = FolderScope::enter(parent ? &parent->scope : m_settings.above, path, m_settings.rules);
+    frame.package = frame.scope.package;
+    frame.tally.kind = frame.scope.kind;
+    frame.tally.insidePackage = frame.scope.insidePackage;
+    frame.tally.listable = !frame.scope.insidePackage;
+    if (parent && !frame.scope.startsUsage) {
         frame.usageFrame = parent->usageFrame;
-        frame.group = parent->group.isEmpty() ? BucketRules::groupFolder(name) : parent->group;
+    } else if (frame.scope.kind) {
+        frame.ownUsage = std::make_unique<FolderUsageBuilder>(QFile::decodeName(frame.scope.usage));
+        frame.usageFrame = static_cast<int>(m_frames.size());
     }
-    if (!frame.tally.insidePackage) {
-        const auto forced = frame.tally.kind ? m_settings.rules.pathBucket(path)
-                                             : m_settings.rules.forcedBucket(path, name, parentOf(path));
-        if (forced && forced != frame.tally.kind) {
-            frame.tally.kind = forced;
-            frame.ownUsage = std::make_unique<FolderUsageBuilder>(QFile::decodeName(path));
-            frame.usageFrame = static_cast<int>(m_frames.size());
-            frame.group.clear();
-        }
-    }
-    frame.name = name.toByteArray();
+    frame.name = nameOf(path).toByteArray();
     return frame;
 }
 
@@ -277,7 +274,8 @@ void Walking::finishFolder()
                                         frame.tally.listedKind()});
     }
     m_tree.leaveFolder(FolderNode{QFile::decodeName(frame.name), frame.tally.bytes,
-                                  frame.tally.fileCount, frame.tally.ownBytes, 0, frame.tally.treeKind(), {}});
+                                  frame.tally.fileCount, frame.tally.ownBytes, 0, frame.tally.treeKind(), {},
+                                  frame.tally.makeup()});
     if (!m_frames.empty())
         m_frames.back().tally.absorb(frame.tally, listed);
     if (frame.ownUsage)
@@ -292,14 +290,14 @@ void Walking::addFile(const Entry& entry)
     if (isRepeatedLink(entry, bucket, bytes))
         return;
     if (!frame) {  // the root is a file: it belongs to the folder that holds it
-        m_tree.addRootFile(bytes);
+        m_tree.addRootFile(bucket, bytes);
         const QByteArray path = entry.path();
         m_rootUsagePath = parentOf(path).toByteArray();
         usageFor(bucket).addFile(bytes, {}, false, [&] { return QFile::decodeName(path); });
         return;
     }
     m_frames.back().tally.addFile(bucket, bytes);
-    usageOf(*frame, bucket).addFile(bytes, frame->group, StorageBuckets::hasSubfolders(bucket),
+    usageOf(*frame, bucket).addFile(bytes, frame->scope.group, StorageBuckets::hasSubfolders(bucket),
                                     [&] { return QFile::decodeName(entry.path()); });
 }
 
@@ -399,6 +397,7 @@ void Walking::join(SplittableVisitor& laterPiece)
     auto& later = static_cast<Walking&>(laterPiece);
     if (m_settings.progress)
         m_settings.progress->addEntries(later.m_entries % progressBatch);
+    m_joinedEntries += later.m_entries + later.m_joinedEntries;
     const auto linkOffset = static_cast<qsizetype>(m_partial.linkFolders.size());
     later.finishUsages(true);
     takeFound(later, linkOffset);
@@ -486,6 +485,7 @@ void Walking::finish(bool stopped)
     m_frames.clear();
     m_partial.tree = std::move(m_tree).finish();
     m_partial.complete = m_partial.complete && !stopped;
+    m_partial.entries = m_entries + m_joinedEntries;
 }
 
 }  // namespace
@@ -496,11 +496,11 @@ StorageWalker::StorageWalker(const BucketRules& rules, ScanProgress* progress, c
 {
 }
 
-StoragePartial StorageWalker::walk(const QByteArray& root) const
+StoragePartial StorageWalker::walk(const QByteArray& root, const FolderScope* above) const
 {
     std::atomic<bool> piecesShareLinks{false};
     WalkSettings settings{root, m_rules, m_progress, m_cancellation, m_treeNodes, parentOf(root).toByteArray(),
-                          &piecesShareLinks};
+                          &piecesShareLinks, above};
     StoragePartial partial = Walking(settings).run(root, m_threads);
     if (!piecesShareLinks.load())
         return partial;

@@ -8,6 +8,7 @@
 #include <QByteArray>
 
 class ScanProgress;
+struct FolderScope;
 
 // Walks one root of the storage analysis: physically (symbolic links are never followed),
 // without changing the working directory, on the root's volume only (a disk mounted inside is
@@ -24,8 +25,10 @@ public:
     StorageWalker(const BucketRules& rules, ScanProgress* progress, const CancellationToken* cancellation,
                   qsizetype treeNodes = HomeTree::nodesKept, int threads = 2);
 
-    // A missing or unreadable root gives an empty partial.
-    [[nodiscard]] StoragePartial walk(const QByteArray& root) const;
+    // A missing or unreadable root gives an empty partial. `above`, when given, is the scope of
+    // the folder holding `root`: the walk of a folder below a root of the analysis counts as
+    // that folder's part of the root's walk.
+    [[nodiscard]] StoragePartial walk(const QByteArray& root, const FolderScope* above = nullptr) const;
 
 private:
     const BucketRules& m_rules;

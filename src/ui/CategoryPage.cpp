@@ -1,6 +1,7 @@
 #include "ui/CategoryPage.h"
 
 #include "format/ByteCount.h"
+#include "format/RelativeDate.h"
 #include "model/AppModel.h"
 #include "model/SettingsStore.h"
 #include "ui/CategoryItemDelegate.h"
@@ -57,7 +58,7 @@ bool refreshesWithTheWalk(CategoryID category)
 }  // namespace
 
 CategoryPage::CategoryPage(AppModel* model, QWidget* parent)
-    : QWidget(parent), m_model(model), m_title(new QLabel(this)), m_total(new QLabel(this)),
+    : QWidget(parent), m_model(model), m_title(new QLabel(this)), m_scanned(new QLabel(this)), m_total(new QLabel(this)),
       m_rescan(new QToolButton(this)), m_explanation(new QLabel(this)), m_notes(new QWidget(this)),
       m_notesLayout(new QVBoxLayout(m_notes)), m_summary(new QLabel(this)), m_selectAll(new QCheckBox(this)),
       m_sizeFilter(new QComboBox(this)), m_search(new QLineEdit(this)), m_askAboutShown(new QPushButton(this)),
@@ -107,8 +108,11 @@ QLayout* CategoryPage::makeHeader()
     connect(m_rescan, &QToolButton::clicked, this, [this] { m_model->rescan(m_category); });
 
     auto* header = new QHBoxLayout;
+    m_scanned->setForegroundRole(QPalette::PlaceholderText);
     header->addWidget(m_title);
     header->addStretch(1);
+    header->addWidget(m_scanned);
+    header->addSpacing(8);
     header->addWidget(m_total);
     header->addSpacing(8);
     header->addWidget(m_rescan);
@@ -198,6 +202,7 @@ void CategoryPage::connectModel()
             refresh();
     });
     connect(m_model, &AppModel::scanStateChanged, this, &CategoryPage::refreshControls);
+    connect(m_model, &AppModel::clockTicked, this, &CategoryPage::refreshScanned);
     connect(m_model, &AppModel::trashChanged, this, &CategoryPage::refreshControls);
     connect(m_model, &AppModel::selectionChanged, this, &CategoryPage::refreshSelectAll);
     connect(m_model->settings(), &SettingsStore::sizeFilterChanged, this, [this] {
@@ -241,8 +246,18 @@ void CategoryPage::refresh()
     m_total->setText(result.state == CategoryResult::State::done ? ByteCount::format(result.totalSize()) : QString());
     m_summary->setText(result.summary.value_or(QString()));
     m_summary->setVisible(result.summary.has_value() && !result.summary->isEmpty());
+    refreshScanned();
     refreshNotes();
     refreshControls();
+}
+
+// When the list was filled, growing older with the model's clock.
+void CategoryPage::refreshScanned()
+{
+    const std::optional<QDateTime> scanned = m_model->scannedAt(m_category);
+    const bool shown = scanned && m_model->result(m_category).state == CategoryResult::State::done;
+    //: In a category's header: when its list was scanned; %1 is a relative date ("5 minutes ago")
+    m_scanned->setText(shown ? tr("Scanned %1").arg(RelativeDate::format(*scanned, m_model->now())) : QString());
 }
 
 void CategoryPage::refreshNotes()

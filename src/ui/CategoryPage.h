@@ -49,6 +49,7 @@ public:
     QPushButton* askAboutShownButton() const { return m_askAboutShown; }
     QPushButton* emptyTrashButton() const { return m_emptyTrash; }
     SelectionBar* selectionBar() const { return m_selectionBar; }
+    QLabel* scanned() const { return m_scanned; }
 
 protected:
     // The keyboard's way to the row menu: the menu key (or Shift+F10) on the current row opens it
@@ -62,6 +63,7 @@ private:
     void fillSizeFilter();
     void connectModel();
     void refresh();
+    void refreshScanned();
     void refreshNotes();
     void refreshControls();
     void refreshSelectAll();
@@ -78,6 +80,7 @@ private:
     CategoryID m_category = CategoryID::projects;
     AIQuestions m_questions;
     QLabel* m_title;
+    QLabel* m_scanned;
     QLabel* m_total;
     QToolButton* m_rescan;
     QLabel* m_explanation;

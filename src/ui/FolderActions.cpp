@@ -31,6 +31,8 @@ void addTo(QMenu* menu, AppModel* model, const QString& path, qint64 bytes, QWid
     menu->addAction(Reveal::title(), menu, [model, path] { Reveal::show(model, path); });
     //: Row menu of a storage folder or file: never show anything inside it in scans
     menu->addAction(QCoreApplication::translate("FolderActions", "Add to Safe List"), menu, [model, path] { model->addFolderToSafeList(path); });
+    if (model->storageKeepsFolder(path))
+        addRemeasure(menu, model, path);
     menu->addSeparator();
     //: Row menu of a storage folder or file: copy it to another disk, check the copy, then trash the original
     QAction* move = menu->addAction(QCoreApplication::translate("FolderActions", "Move to Another Disk…"), menu, [model, item, window] { MoveSheet::open(model, item, window); });
@@ -59,6 +61,18 @@ void markGone(QTreeWidget* list, int pathRole, const AppModel* model)
         //: Tooltip of a storage row whose folder or file was moved to the Trash or another disk after the disk was measured
         row->setToolTip(0, QCoreApplication::translate("FolderActions", "Moved away since the disk was measured."));
     }
+}
+
+void addRemeasure(QMenu* menu, AppModel* model, const QString& path)
+{
+    QAction* action = menu->addAction(remeasureTitle(), menu, [model, path] { model->remeasureFolder(path); });
+    action->setEnabled(model->canRemeasureFolder(path));
+}
+
+QString remeasureTitle()
+{
+    //: Row menu item and button of the storage screens: measure only this folder again
+    return QCoreApplication::translate("FolderActions", "Measure This Folder Again");
 }
 
 }  // namespace FolderActions

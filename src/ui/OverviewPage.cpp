@@ -40,10 +40,10 @@ QStringList historyHeadings()
             OverviewPage::tr("Items")};
 }
 
-QTreeWidgetItem* historyRow(const StatsStore::CleanupRecord& record)
+QTreeWidgetItem* historyRow(const StatsStore::CleanupRecord& record, const QDateTime& now)
 {
     auto* row = new QTreeWidgetItem;
-    row->setText(dateColumn, RelativeDate::format(record.date));
+    row->setText(dateColumn, RelativeDate::format(record.date, now));
     row->setToolTip(dateColumn, QLocale().toString(record.date.toLocalTime(), QLocale::LongFormat));
     row->setText(freedColumn, ByteCount::format(record.movedToTrash + record.removedByTools));
     //: Tooltip of a cleanup's freed space; %1 and %2 are sizes
@@ -95,6 +95,7 @@ OverviewPage::OverviewPage(AppModel* model, QWidget* parent)
     connect(m_model, &AppModel::scanStateChanged, this, &OverviewPage::refreshGroups);
     connect(m_model, &AppModel::systemStateChanged, this, &OverviewPage::refreshAccessBanner);
     connect(m_model->stats(), &StatsStore::statsChanged, this, &OverviewPage::refreshStats);
+    connect(m_model, &AppModel::clockTicked, this, &OverviewPage::refreshStats);  // "3 minutes ago" grows older
     refreshGroups();
     refreshStats();
     refreshAccessBanner();
@@ -253,7 +254,7 @@ void OverviewPage::refreshStats()
     m_itemsRemoved->setText(locale.toString(stats.itemsRemoved));
     if (stats.lastScan)
         //: Overview statistics line; %1 is a relative date ("3 days ago"), %2 a size
-        m_lastScan->setText(tr("Last scan: %1, found %2.").arg(RelativeDate::format(stats.lastScan->date),
+        m_lastScan->setText(tr("Last scan: %1, found %2.").arg(RelativeDate::format(stats.lastScan->date, m_model->now()),
                                                             ByteCount::format(stats.lastScan->found)));
     else
         //: Overview statistics line before the first finished full scan
@@ -266,7 +267,7 @@ void OverviewPage::refreshHistory()
     const QList<StatsStore::CleanupRecord>& history = m_model->stats()->stats().history;
     m_history->clear();
     for (const StatsStore::CleanupRecord& record : history)
-        m_history->addTopLevelItem(historyRow(record));
+        m_history->addTopLevelItem(historyRow(record, m_model->now()));
     m_history->resizeColumnToContents(freedColumn);
     m_history->resizeColumnToContents(itemsColumn);
     m_historyStack->setCurrentWidget(history.isEmpty() ? static_cast<QWidget*>(m_historyEmpty) : m_history);

@@ -13,6 +13,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
+#include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -37,7 +38,8 @@ QString StorageFolders::fileCount(qint64 count)
 }
 
 StorageFolders::StorageFolders(AppModel* model, QWidget* parent)
-    : QWidget(parent), m_model(model), m_breadcrumb(new QLabel(this)), m_sunburst(new Sunburst(this)),
+    : QWidget(parent), m_model(model), m_breadcrumb(new QLabel(this)),
+      m_remeasure(new QPushButton(FolderActions::remeasureTitle(), this)), m_sunburst(new Sunburst(this)),
       m_contents(new QTreeWidget(this)), m_bars(new SizeBarDelegate(this))
 {
     m_breadcrumb->setTextFormat(Qt::RichText);
@@ -65,8 +67,12 @@ StorageFolders::StorageFolders(AppModel* model, QWidget* parent)
     body->addWidget(m_contents, 1);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_breadcrumb);
+    auto* top = new QHBoxLayout;
+    top->addWidget(m_breadcrumb, 1);
+    top->addWidget(m_remeasure);
+    layout->addLayout(top);
     layout->addLayout(body, 1);
+    connect(m_remeasure, &QPushButton::clicked, this, [this] { m_model->remeasureFolder(currentPath()); });
     connect(m_breadcrumb, &QLabel::linkActivated, this, [this](const QString& link) {
         m_sunburst->zoomTo(m_sunburst->zoom().mid(0, link.toInt()));
     });
@@ -99,6 +105,8 @@ void StorageFolders::refresh()
 
 void StorageFolders::showZoom(const QStringList& names)
 {
+    m_remeasure->setVisible(!names.isEmpty());
+    m_remeasure->setEnabled(m_model->canRemeasureFolder(currentPath()));
     refreshBreadcrumb(names);
     refreshContents();
 }

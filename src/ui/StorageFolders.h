@@ -5,6 +5,7 @@
 
 class AppModel;
 class QLabel;
+class QPushButton;
 class QTreeWidget;
 class QTreeWidgetItem;
 class SizeBarDelegate;
@@ -13,7 +14,7 @@ class Sunburst;
 // The Storage screen's map of folders: a breadcrumb of where the person is, the sunburst of the
 // measured folders, and beside it what the folder in the middle holds: its sub-folders largest
 // first, then the largest files found below it. Each row has the storage row menu; choosing a
-// sub-folder zooms into it. Follows the model's storage report; GUI thread only.
+// sub-folder zooms into it. Zoomed in, a button measures the folder in the middle again. Follows the model's storage report; GUI thread only.
 class StorageFolders : public QWidget {
     Q_OBJECT
 
@@ -25,6 +26,8 @@ public:
 
     Sunburst* sunburst() const { return m_sunburst; }
     QLabel* breadcrumb() const { return m_breadcrumb; }
+    // Measures the folder in the middle again; shown once zoomed in.
+    QPushButton* remeasure() const { return m_remeasure; }
     QTreeWidget* contents() const { return m_contents; }
     // The full path of the folder in the middle.
     QString currentPath() const;
@@ -43,6 +46,7 @@ private:
 
     AppModel* m_model;
     QLabel* m_breadcrumb;
+    QPushButton* m_remeasure;
     Sunburst* m_sunburst;
     QTreeWidget* m_contents;
     SizeBarDelegate* m_bars;

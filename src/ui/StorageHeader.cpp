@@ -43,12 +43,10 @@ StorageHeader::StorageHeader(AppModel* model, const QString& title, const QStrin
     });
     connect(m_model, &AppModel::storageChanged, this, &StorageHeader::refresh);
     // "Measured 5 minutes ago." grows older while the screen stays open.
-    m_ageTimer.setInterval(ageRefresh);
-    connect(&m_ageTimer, &QTimer::timeout, this, [this] {
+    connect(m_model, &AppModel::clockTicked, this, [this] {
         if (!m_model->isAnalyzingStorage())
             refreshStatus();
     });
-    m_ageTimer.start();
     refresh();
 }
 
@@ -69,6 +67,8 @@ void StorageHeader::refresh()
     //: Button of the storage screens before any analysis
     const QString first = tr("Measure Disk");
     m_button->setText(running ? stop : m_model->storageReport() ? again : first);
+    if (running && m_activity->isHidden())
+        m_activity->setValue(0);  // a new analysis starts from nothing
     m_activity->setVisible(running);
     if (running) {
         m_progressTimer.start();
@@ -84,7 +84,7 @@ void StorageHeader::refreshStatus()
 {
     const auto& report = m_model->storageReport();
     //: Status line of the storage screens; %1 is a relative date ("5 minutes ago")
-    const QString measured = report ? tr("Measured %1.").arg(RelativeDate::format(report->date)) : QString();
+    const QString measured = report ? tr("Measured %1.").arg(RelativeDate::format(report->date, m_model->now())) : QString();
     //: Added to the status line of the storage screens after a cleanup or move changed the disk
     const QString outdated = tr("Out of date: files were cleaned up or moved since. Measure again to update it.");
     if (report)
@@ -111,7 +111,30 @@ void StorageHeader::refreshNotes()
 void StorageHeader::pollProgress()
 {
     const ScanProgress::Snapshot snapshot = m_model->progress()->snapshot();
-    const QString folder = PathRules::withTilde(snapshot.currentFolder, m_model->settings()->home());
-    //: Status line while the disk is measured; %1 is a number of files and folders, %2 the folder being read
-    m_status->setText(tr("Measuring… %1 items looked at · %2").arg(QLocale().toString(snapshot.entries), folder));
+    showProgress(snapshot.entries);
+    const QString home = m_model->settings()->home();
+    const QString folder = PathRules::withTilde(snapshot.currentFolder, home);
+    const QString count = QLocale().toString(snapshot.entries);
+    if (const QString& again = m_model->storageFolderMeasured(); !again.isEmpty())
+        //: Status line while one folder is measured again; %1 is that folder, %2 a number of files and folders, %3 the folder being read
+        m_status->setText(tr("Measuring %1 again… %2 items looked at · %3").arg(PathRules::withTilde(again, home), count, folder));
+    else
+        //: Status line while the disk is measured; %1 is a number of files and folders, %2 the folder being read
+        m_status->setText(tr("Measuring… %1 items looked at · %2").arg(count, folder));
+}
+
+// The walk's end is known only afterwards, so the bar shows the share of the entries the last
+// report counted, held below the end and never going back; without a guess it only moves.
+void StorageHeader::showProgress(qint64 entries)
+{
+    const std::optional<qint64> expected = m_model->storageEntriesExpected();
+    if (!expected) {
+        m_activity->setRange(0, 0);
+        return;
+    }
+    constexpr int steps = 1000;
+    const int share = int(std::min<qint64>(steps - 10, entries * steps / std::max<qint64>(*expected, 1)));
+    if (m_activity->maximum() != steps)
+        m_activity->setRange(0, steps);
+    m_activity->setValue(std::max(m_activity->value(), share));
 }

@@ -105,3 +105,51 @@ TEST(AppModelStorage, AFolderOnTheSafeListHidesTheRowsInsideIt)
     EXPECT_TRUE(fixture.settings().safeFolders().contains("/Users/a/code"));
     EXPECT_EQ(fixture.model().toast(), "“code” is on the Safe List.");
 }
+
+// A folder measured again replaces its part of the report, which keeps its date and is not a
+// new measurement for the history; the out-of-date mark goes only with the places that changed.
+TEST(AppModelStorage, AFolderMeasuredAgainUpdatesTheReportAndOnlyItsOwnChanges)
+{
+    TempTree tree;
+    tree.file(QStringLiteral("Pictures/a.jpg"), 300'000);
+    tree.file(QStringLiteral("Documents/b.pdf"), 100'000);
+    ModelFixture fixture({}, tree.root());
+    AppModel& model = fixture.model();
+    model.startStorageAnalysis();
+    ASSERT_TRUE(waitUntil([&] { return model.storageReport().has_value() && !model.isAnalyzingStorage(); }));
+    const StorageReport first = *model.storageReport();
+    const QString pictures = tree.path(QStringLiteral("Pictures"));
+    EXPECT_FALSE(model.canRemeasureFolder(tree.root())) << "the whole home is Measure Again";
+    ASSERT_TRUE(model.canRemeasureFolder(pictures));
+
+    tree.file(QStringLiteral("Pictures/c.jpg"), 500'000);
+    model.remeasureFolder(pictures);
+    EXPECT_EQ(model.storageFolderMeasured(), pictures);
+    EXPECT_FALSE(model.canRemeasureFolder(pictures)) << "one analysis at a time";
+    ASSERT_TRUE(waitUntil([&] { return !model.isAnalyzingStorage(); }));
+    const StorageReport& second = *model.storageReport();
+    EXPECT_GE(second.total(StorageBucket::photos) - first.total(StorageBucket::photos), 500'000);
+    EXPECT_EQ(second.tree.bytes - first.tree.bytes, second.measured() - first.measured());
+    EXPECT_EQ(second.date, first.date);
+    EXPECT_EQ(fixture.stats().stats().lastStorage->totals, first.rawTotals()) << "not recorded as a measurement";
+}
+
+TEST(StorageStaleness, AFolderMeasuredAgainCoversOnlyTheChangesInsideIt)
+{
+    StorageStaleness staleness;
+    EXPECT_FALSE(staleness.isOutdated());
+    staleness.noteGone({"/h/Downloads/a.zip"});
+    staleness.noteGrown("/h/.local/share/Trash/files");
+    EXPECT_EQ(staleness.gone(), QStringList{"/h/Downloads/a.zip"}) << "the Trash's rows did not go away";
+    staleness.measuredAgain("/h/Down");
+    staleness.measuredAgain("/h/Downloads");
+    EXPECT_TRUE(staleness.gone().isEmpty());
+    EXPECT_TRUE(staleness.isOutdated()) << "the Trash took what left Downloads";
+    staleness.measuredAgain("/h/.local/share/Trash");
+    EXPECT_FALSE(staleness.isOutdated());
+    staleness.noteGone({});
+    staleness.measuredAgain("/h");
+    EXPECT_TRUE(staleness.isOutdated()) << "a change in no known place waits for a full measurement";
+    staleness.clear();
+    EXPECT_FALSE(staleness.isOutdated());
+}
