@@ -18,6 +18,7 @@
 #include <QAction>
 #include <QLabel>
 #include <QMenuBar>
+#include <QScreen>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -40,7 +41,7 @@ MainWindow::MainWindow(AppModel* model, QWidget* parent)
     m_toast = new Toast(this);
     makeToolbar();
     makeMenus();
-    resize(1280, 800);
+    resize(startSize());
 
     using Kind = SidebarDestination::Kind;
     for (Kind kind : {Kind::storage, Kind::largeFolders, Kind::safeList, Kind::about})
@@ -68,6 +69,15 @@ MainWindow::MainWindow(AppModel* model, QWidget* parent)
 }
 
 MainWindow::~MainWindow() = default;
+
+QSize MainWindow::startSize() const
+{
+    // On a screen of about the same size the window manager would push the bottom bar, and the
+    // Clean button in it, below the screen's edge: leave room for the title bar and a panel.
+    const QSize roomForFrame(0, 64);
+    const QSize available = screen()->availableGeometry().size() - roomForFrame;
+    return QSize(1280, 800).boundedTo(available).expandedTo(minimumSizeHint());
+}
 
 void MainWindow::setScreenPage(SidebarDestination::Kind kind, QWidget* page)
 {

@@ -70,6 +70,7 @@ protected:
 
 private:
     // MainWindow.cpp: the screens
+    QSize startSize() const;
     void makeMenus();
     static QString fileMenuTitle();
     void showCurrentScreen();

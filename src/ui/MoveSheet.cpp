@@ -70,6 +70,9 @@ void MoveSheet::showPage(QWidget* page)
     }
     m_pages->addWidget(page);
     m_pages->setCurrentWidget(page);
+    // The step left behind took the keyboard focus with it (the progress step's Stop button);
+    // without a focus the sheet's window lost the keyboard, and Return never reached Done.
+    page->setFocus();
     adjustSize();
 }
 

@@ -22,6 +22,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -75,7 +76,16 @@ StoragePage::StoragePage(AppModel* model, QWidget* parent)
       //: Button of the storage drill-down: go up one level
       m_back(new QPushButton(tr("Back"), this)), m_details(nullptr), m_bars(new SizeBarDelegate(this))
 {
-    auto* layout = new QVBoxLayout(this);
+    // The page scrolls when the window is shorter than its parts: otherwise the window's
+    // minimum height would be theirs, taller than a 1280x800 screen leaves for it.
+    auto* content = new QWidget(this);
+    auto* scroll = new QScrollArea(this);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->addWidget(scroll);
+    auto* layout = new QVBoxLayout(content);
     layout->setContentsMargins(24, 20, 24, 20);
     layout->setSpacing(12);
     layout->addWidget(m_header);
@@ -88,6 +98,7 @@ StoragePage::StoragePage(AppModel* model, QWidget* parent)
     m_views->addTab(makeDrillDown(), tr("Kinds"));
     layout->addWidget(m_views, 1);
     layout->addWidget(new GrewTheMost(m_model->history(), this));
+    scroll->setWidget(content);
     connect(m_model, &AppModel::storageChanged, this, &StoragePage::refresh);
     connect(m_model->history(), &HistoryRecorder::changed, this, &StoragePage::refresh);
     connect(m_ring, &StorageRing::segmentClicked, this, &StoragePage::ringClicked);

@@ -124,7 +124,8 @@ void StorageRing::paintCentre(QPainter& painter)
     painter.drawText(box.adjusted(0, 0, 0, -box.height() / 2), Qt::AlignHCenter | Qt::AlignBottom, m_centre);
     painter.setFont(font());
     painter.setPen(palette().color(QPalette::PlaceholderText));
-    painter.drawText(box.adjusted(0, box.height() / 2 + 2, 0, 0), Qt::AlignHCenter | Qt::AlignTop, m_caption);
+    // "measured of 216.64 GB used" is wider than the hole: it goes on two lines.
+    painter.drawText(box.adjusted(0, box.height() / 2 + 2, 0, 0), Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, m_caption);
 }
 
 void StorageRing::mouseMoveEvent(QMouseEvent* event)

@@ -159,6 +159,9 @@ TEST_F(MoveSheetTest, AMovedRowLeavesTheListAndTheSheetSaysWhere)
     const QString copy = disk.path() + QStringLiteral("/llama-3-8b.gguf");
     EXPECT_EQ(sheet->outcomePage()->text()->text(), QStringLiteral("It is now at %1. The original is in the Trash; its space comes back once the Trash is emptied.").arg(copy));
     ASSERT_TRUE(sheet->outcomePage()->showButton());
+    const QWidget* focused = sheet->focusWidget();
+    EXPECT_TRUE(focused && (focused == sheet->outcomePage() || sheet->outcomePage()->isAncestorOf(focused)))
+        << "the keyboard (Return for Done) stays with the sheet after its progress step went";
     EXPECT_EQ(QFileInfo(copy).size(), 4'000'000);
     EXPECT_EQ(page->listModel()->shownItems(), QList<CleanupItem>{other});
 }

@@ -131,3 +131,11 @@ TEST_F(StoragePageTest, ALargeFolderSaysWhenStorageShowsItWhole)
     EXPECT_EQ(page.list()->topLevelItem(0)->toolTip(1),
               "400 MB without the large folders listed inside it; the whole folder holds 700 MB, as Storage shows.");
 }
+
+TEST_F(StoragePageTest, ScrollsRatherThanMakingTheWindowTallerThanASmallScreen)
+{
+    StoragePage page(&fixture.model());
+    measure();
+    // A 1280x800 screen leaves the page about 680 pixels under the title, menu and toolbar.
+    EXPECT_LT(page.minimumSizeHint().height(), 600);
+}
