@@ -101,7 +101,9 @@ void tellAfterScan(const ScanReport::Results& results, const QString& home, QSet
     Answers answers;
     const bool hears = Platform::watchDesktopNotifications(delivery.busAddress, &listening,
                                                            [&](quint32 id, Platform::NotificationAnswer answer) {
-                                                               answers.insert(id, answer);
+                                                               // A server closes what was clicked right after telling the click.
+                                                               if (answer == Platform::NotificationAnswer::clicked || !answers.contains(id))
+                                                                   answers.insert(id, answer);
                                                                loop.quit();
                                                            });
     const QList<quint32> shown = tell(after(results, store.freeSpaceWarning(), DiskSpace::current(home)), log, QDate::currentDate(), delivery);

@@ -28,13 +28,14 @@ TEST(NotificationClick, AClickOnTheScheduledScansNoticeBringsTheRunningAppToTheO
     QProcess cli;
     cli.setProcessEnvironment(environment);
     cli.start(QStringLiteral(DUSTLARK_CLI), {"scan", "--home", tree.path("home"), "--notify"});
+    ASSERT_TRUE(cli.waitForStarted());
     ASSERT_TRUE(waitUntil([&] { return bus.calls().size() == 1; }, 120'000)) << cli.readAllStandardError().constData();
     EXPECT_EQ(cli.state(), QProcess::Running) << "the report tool left before anyone could click";
     EXPECT_EQ(overview.count(), 0);
 
     bus.click(bus.calls()[0]["id"].toInt());
     EXPECT_TRUE(waitUntil([&] { return cli.state() == QProcess::NotRunning; }, 30'000));
-    EXPECT_TRUE(waitUntil([&] { return overview.count() == 1; }, 30'000)) << "the launched app never asked for the Overview";
+    EXPECT_TRUE(waitUntil([&] { return overview.count() == 1; }, 30'000)) << "the launched app never asked for the Overview: " << cli.readAllStandardError().constData() << cli.readAllStandardOutput().constData();
     if (cli.state() != QProcess::NotRunning) {
         cli.kill();
         cli.waitForFinished();
