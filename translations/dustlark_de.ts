@@ -983,6 +983,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <extracomment>Row menu: copy this row&apos;s files to another disk, check the copy, then trash the original</extracomment>
         <translation>Auf ein anderes Laufwerk bewegen …</translation>
     </message>
+    <message>
+        <source>Scanned %1</source>
+        <extracomment>In a category&apos;s header: when its list was scanned; %1 is a relative date (&quot;5 minutes ago&quot;)</extracomment>
+        <translation>Gescannt %1</translation>
+    </message>
 </context>
 <context>
     <name>CleanCommand</name>
@@ -1467,8 +1472,33 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     <name>FolderActions</name>
     <message>
         <source>Add to Safe List</source>
-        <extracomment>Row menu of a storage folder: never show anything inside it in scans</extracomment>
+        <extracomment>Row menu of a storage folder or file: never show anything inside it in scans</extracomment>
         <translation>Zur Schutzliste hinzufügen</translation>
+    </message>
+    <message>
+        <source>Move to Another Disk…</source>
+        <extracomment>Row menu of a storage folder or file: copy it to another disk, check the copy, then trash the original</extracomment>
+        <translation>Auf ein anderes Laufwerk bewegen …</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <extracomment>Row menu of a storage folder or file: move it to the Trash after the cleanup&apos;s confirmation</extracomment>
+        <translation>In den Papierkorb legen</translation>
+    </message>
+    <message>
+        <source>Dustlark is busy with a scan, a cleanup or a move.</source>
+        <extracomment>Why a storage row&apos;s Move to Trash is unavailable: the app is scanning, cleaning or moving something else</extracomment>
+        <translation>Dustlark ist gerade mit einem Scan, einer Bereinigung oder einem Umzug beschäftigt.</translation>
+    </message>
+    <message>
+        <source>Moved away since the disk was measured.</source>
+        <extracomment>Tooltip of a storage row whose folder or file was moved to the Trash or another disk after the disk was measured</extracomment>
+        <translation>Seit der Messung verschoben.</translation>
+    </message>
+    <message>
+        <source>Measure This Folder Again</source>
+        <extracomment>Row menu item and button of the storage screens: measure only this folder again</extracomment>
+        <translation>Diesen Ordner neu messen</translation>
     </message>
 </context>
 <context>
@@ -1702,7 +1732,7 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
     <name>ItemName</name>
     <message>
         <source>%1 in %2</source>
-        <extracomment>How a sheet names a folder inside a project; %1 is the folder&apos;s name, %2 where it is, like &quot;~/Projects/app&quot;</extracomment>
+        <extracomment>How a sheet names a folder or file by where it is; %1 is its name, %2 the folder holding it, like &quot;~/Projects/app&quot;</extracomment>
         <translation>%1 in %2</translation>
     </message>
 </context>
@@ -2953,6 +2983,26 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <extracomment>Cleanup failure reason. The placeholder is the system&apos;s reason, e.g. &quot;No such file or directory&quot;.</extracomment>
         <translation>Das Werkzeug konnte nicht gestartet werden: %1</translation>
     </message>
+    <message>
+        <source>It is on the Safe List.</source>
+        <extracomment>Why an item can&apos;t be moved to the Trash or another disk: the person put it on the Safe List</extracomment>
+        <translation>Es steht auf der Schutzliste.</translation>
+    </message>
+    <message>
+        <source>Something inside it is on the Safe List.</source>
+        <extracomment>Why a folder can&apos;t be moved to the Trash or another disk: something inside it is on the Safe List</extracomment>
+        <translation>Etwas darin steht auf der Schutzliste.</translation>
+    </message>
+    <message>
+        <source>The Trash is inside it.</source>
+        <extracomment>Why a folder can&apos;t be moved to the Trash or another disk: the Trash itself is inside it</extracomment>
+        <translation>Der Papierkorb liegt darin.</translation>
+    </message>
+    <message>
+        <source>iCloud keeps it, so Dustlark leaves it alone.</source>
+        <extracomment>Why an item can&apos;t be moved to the Trash or another disk: it is iCloud&apos;s own data</extracomment>
+        <translation>iCloud verwaltet es, deshalb lässt Dustlark es in Ruhe.</translation>
+    </message>
 </context>
 <context>
     <name>ReportHelp</name>
@@ -3745,6 +3795,11 @@ Toast after a folder was put on the Safe List; %1 is the folder&apos;s name</ext
         <source>Out of date: files were cleaned up or moved since. Measure again to update it.</source>
         <extracomment>Added to the status line of the storage screens after a cleanup or move changed the disk</extracomment>
         <translation>Veraltet: Seitdem wurden Dateien bereinigt oder bewegt. Miss erneut, um es zu aktualisieren.</translation>
+    </message>
+    <message>
+        <source>Measuring %1 again… %2 items looked at · %3</source>
+        <extracomment>Status line while one folder is measured again; %1 is that folder, %2 a number of files and folders, %3 the folder being read</extracomment>
+        <translation>%1 wird neu gemessen … %2 Objekte angesehen · %3</translation>
     </message>
 </context>
 <context>
