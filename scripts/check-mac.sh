@@ -59,8 +59,10 @@ status=0
 clang++ "${darwin[@]}" -c "$mac" -o "$work/mac.o" || status=1
 linux=${CHECK_MAC_LINUX_OBJECT:-$work/linux.o}
 if [ ! -s "$linux" ]; then
+    # linux.cpp holds a QObject of its own (the notification listener): its moc output first.
+    "$(qmake6 -query QT_INSTALL_LIBEXECS)/moc" src/platform/linux.cpp -o "$work/linux.moc" || status=1
     clang++ "${common[@]}" -DDUSTLARK_VERSION='""' -DDUSTLARK_BUILD='""' -DDUSTLARK_BUNDLE_ID='""' \
-        -isystem "$qt/QtDBus" -c src/platform/linux.cpp -o "$linux" || status=1
+        -I "$work" -isystem "$qt/QtDBus" -c src/platform/linux.cpp -o "$linux" || status=1
 fi
 if [ "$status" = 0 ]; then
     platform_symbols "$work/mac.o" > "$work/mac.txt"
