@@ -1,5 +1,6 @@
 #include "storage/StorageAnalyzer.h"
 
+#include "format/WholeNumber.h"
 #include "machinery/Concurrency.h"
 #include "storage/BucketRules.h"
 #include "storage/FolderScope.h"
@@ -77,7 +78,7 @@ QString unreadableNote(qint64 folders)
             .arg(StorageBuckets::remainderTitle());
     //: Note above the storage breakdown; %1 is the number of folders that could not be read, %2 the name of the remainder
     return QCoreApplication::translate("StorageAnalyzer", "%1 folders couldn't be read; what they hold counts as %2.")
-        .arg(QLocale().toString(folders), StorageBuckets::remainderTitle());
+        .arg(WholeNumber::format(folders), StorageBuckets::remainderTitle());
 }
 
 }  // namespace

@@ -1,11 +1,11 @@
 // Changing screens: a selection is never dropped by choosing another screen; the person is
 // asked to clean it or to clear it first.
 #include "format/ByteCount.h"
+#include "format/WholeNumber.h"
 #include "model/AppModel.h"
 #include "ui/MainWindow.h"
 #include "ui/Sidebar.h"
 
-#include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -41,7 +41,7 @@ QString MainWindow::selectionLeftBehind() const
         return tr("You selected 1 item here (%1). Clean it now, or clear the selection and go on.").arg(size);
     //: Under "Clean the selected items?"; %1 is the number of items, %2 their size, e.g. "43 MB"
     return tr("You selected %1 items here (%2). Clean them now, or clear the selection and go on.")
-        .arg(QLocale().toString(count), size);
+        .arg(WholeNumber::format(count), size);
 }
 
 void MainWindow::askBeforeSwitching()

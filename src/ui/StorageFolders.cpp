@@ -1,6 +1,7 @@
 #include "ui/StorageFolders.h"
 
 #include "format/ByteCount.h"
+#include "format/WholeNumber.h"
 #include "model/AppModel.h"
 #include "model/SettingsStore.h"
 #include "ui/FolderActions.h"
@@ -34,7 +35,7 @@ QString StorageFolders::fileCount(qint64 count)
         //: Number of files below a folder in the storage lists, singular
         return tr("1 file");
     //: Number of files below a folder in the storage lists; %1 is the number
-    return tr("%1 files").arg(QLocale().toString(count));
+    return tr("%1 files").arg(WholeNumber::format(count));
 }
 
 StorageFolders::StorageFolders(AppModel* model, QWidget* parent)

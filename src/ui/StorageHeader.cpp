@@ -1,6 +1,7 @@
 #include "ui/StorageHeader.h"
 
 #include "format/RelativeDate.h"
+#include "format/WholeNumber.h"
 #include "model/AppModel.h"
 #include "model/SettingsStore.h"
 #include "ui/PageLabels.h"
@@ -114,7 +115,7 @@ void StorageHeader::pollProgress()
     showProgress(snapshot.entries);
     const QString home = m_model->settings()->home();
     const QString folder = PathRules::withTilde(snapshot.currentFolder, home);
-    const QString count = QLocale().toString(snapshot.entries);
+    const QString count = WholeNumber::format(snapshot.entries);
     if (const QString& again = m_model->storageFolderMeasured(); !again.isEmpty())
         //: Status line while one folder is measured again; %1 is that folder, %2 a number of files and folders, %3 the folder being read
         m_status->setText(tr("Measuring %1 again… %2 items looked at · %3").arg(PathRules::withTilde(again, home), count, folder));

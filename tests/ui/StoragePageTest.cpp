@@ -3,11 +3,13 @@
 #include "support/ModelFixture.h"
 #include "support/Wait.h"
 #include "ui/LargeFoldersPage.h"
+#include "ui/StorageFolders.h"
 #include "ui/StorageHeader.h"
 #include "ui/StoragePage.h"
 #include "ui/StorageRing.h"
 
 #include <QLabel>
+#include <QLocale>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTreeWidget>
@@ -138,4 +140,15 @@ TEST_F(StoragePageTest, ScrollsRatherThanMakingTheWindowTallerThanASmallScreen)
     measure();
     // A 1280x800 screen leaves the page about 680 pixels under the title, menu and toolbar.
     EXPECT_LT(page.minimumSizeHint().height(), 600);
+}
+
+// A desktop session without a language (LANG unset, the C locale) leaves out the thousands
+// separator unless the count is told to keep it.
+TEST(StorageFolders, FileCountsGroupTheirThousandsInTheCLocale)
+{
+    const QLocale before;
+    QLocale::setDefault(QLocale::c());
+    EXPECT_EQ(StorageFolders::fileCount(30'242), "30,242 files");
+    EXPECT_EQ(StorageFolders::fileCount(1), "1 file");
+    QLocale::setDefault(before);
 }
