@@ -99,7 +99,7 @@ void MoveDestinationPage::openChooser()
 void MoveDestinationPage::choose(const QString& folder)
 {
     m_destination = folder;
-    m_destinationLabel->setText(folder);
+    m_destinationLabel->setText(PathRules::withTilde(folder, m_model->settings()->home()));
     m_move->setEnabled(false);
     //: Shown while a chosen destination folder is being checked
     m_problem->setText(tr("Checking the folder…"));

@@ -19,6 +19,8 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 #include <sys/stat.h>
 
 namespace {
@@ -116,6 +118,9 @@ TEST_F(MoveSheetTest, ChecksTheFolderThenShowsProgressAndWhereTheItemWent)
     question->choose(fixture.home().dir(QStringLiteral("Archive")));
     ASSERT_TRUE(waitUntil([&] { return question->problem()->text().startsWith(QStringLiteral("That folder is on the same disk")); }));
     EXPECT_FALSE(question->moveButton()->isEnabled());
+    const QList<QLabel*> labels = question->findChildren<QLabel*>();
+    EXPECT_TRUE(std::any_of(labels.begin(), labels.end(), [](const QLabel* label) { return label->text() == "~/Archive"; }))
+        << "the chosen folder is named as the person knows it";
     QApplication::processEvents();
     const QStringList cut = cutTexts(*question);
     EXPECT_TRUE(cut.isEmpty()) << "cut short: " << cut.join(" | ").toStdString();
