@@ -166,7 +166,8 @@ ScanOutput items(const QStringList& repositories, const ScanContext& context, co
             output.items.append(*item);
     }
     std::sort(output.items.begin(), output.items.end(), [](const CleanupItem& a, const CleanupItem& b) {
-        return std::tie(*a.projectPath, a.id) < std::tie(*b.projectPath, b.id);
+        // Every worktree row names its project; value_or spares the optimiser a doubt about that.
+        return std::tuple(a.projectPath.value_or(QString()), a.id) < std::tuple(b.projectPath.value_or(QString()), b.id);
     });
     return output;
 }
