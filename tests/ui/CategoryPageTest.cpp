@@ -263,7 +263,10 @@ TEST(CategoryPage, EmptyTrashAsksThenEmptiesOrReportsWhy)
     ASSERT_TRUE(waitUntil([&] { return emptied == 1 && !fixture.model().trashState().isEmptying; }));
     EXPECT_EQ(fixture.question(), nullptr);
 
+    // The Trash is looked at again after emptying; the button asks once that is done.
+    ASSERT_TRUE(waitUntil([&] { return page->emptyTrashButton()->isVisible() && page->emptyTrashButton()->isEnabled(); }));
     page->emptyTrashButton()->click();
+    ASSERT_TRUE(fixture.question());
     WindowFixture::answer(fixture.question(), "Empty Trash");
     ASSERT_TRUE(waitUntil([&] { return fixture.question() != nullptr; }));
     EXPECT_EQ(fixture.question()->text(), "Couldn't empty the Trash");
