@@ -84,51 +84,32 @@ TEST(TreeWalker, RootsThatAreNotFoldersOrDoNotExist)
     }
 }
 
-TEST(TreeWalker, TreeDeeperThanTheDescriptorLimitAndThePathLimitIsWalkedWhole)
-{
-    TempTree tree;
-    const QByteArray component(60, 'd');
-    const int depth = 90;  // 90 x 61 bytes: past PATH_MAX
-    const DeepChain chain(tree.root(), component, depth, [](int) { return 0; });
-
-    Recorder recorder(bytes(tree.root()));
-    const int before = openDescriptors();
-    int most = 0;
-    recorder.onEnter = [&](const TreeEntry&) {
-        most = std::max(most, openDescriptors() - before);
-        return TreeVisitor::Verdict::Enter;
-    };
-    TreeWalker::Options options;
-    options.descriptorLimit = 4;
-    const TreeWalker::Result result = TreeWalker(options).walk(bytes(tree.root()), recorder);
-
-    EXPECT_EQ(result.entries, 1 + depth * 2 + 1);
-    EXPECT_LE(most, options.descriptorLimit + 1) << "the listing of /proc/self/fd takes one";
-    const QByteArray deepest = "item " + (component + '/').repeated(depth) + "bottom";
-    EXPECT_TRUE(recorder.lines.contains(deepest)) << "paths are whole beyond PATH_MAX";
-    EXPECT_EQ(countOf(recorder.lines, "cannot"), 0) << recorder.lines.join('\n').constData();
-    EXPECT_EQ(countOf(recorder.lines, "item "), depth + 1) << "every reopened folder is finished";
-    EXPECT_EQ(recorder.lines.last(), "leave .");
-}
-
 namespace {
 
-// Sums what du sums, and notes the most descriptors open at any folder.
+// Sums what du sums, keeps the longest path, and notes the most descriptors open at any folder.
 class DeepSizer : public TreeVisitor {
 public:
     explicit DeepSizer(int before) : m_before(before) {}
 
     qint64 bytes = 0;
     qint64 entries = 0;
+    qint64 items = 0;
     qint64 problems = 0;
     int mostOpen = 0;
+    QByteArray longest;
 
     Verdict enterFolder(const TreeEntry& entry) override
     {
         noteOpen();
         return add(entry);
     }
-    Verdict visitItem(const TreeEntry& entry) override { return add(entry); }
+    Verdict visitItem(const TreeEntry& entry) override
+    {
+        ++items;
+        if (entry.pathBytes().size() > longest.size())
+            longest = entry.pathBytes();
+        return add(entry);
+    }
     void leaveFolder(const TreeEntry&) override { noteOpen(); }  // the climb back reopens folders
     void problem(const TreeEntry&, TreeProblem, int) override { ++problems; }
 
@@ -146,31 +127,48 @@ private:
 
 }  // namespace
 
-// Thousands of levels, far more than the walk keeps open: every entry once and the bytes du
-// counts, within the descriptor bound on the way down and back up, nothing left open after.
-TEST(TreeWalker, ChainThousandsDeepIsMeasuredToTheByteWithinTheDescriptorBound)
+// A chain far deeper than the walk keeps open and than any path call takes, walked with few
+// descriptors and with the default: every entry once with its whole path, the bytes du counts,
+// within the descriptor bound on the way down and back up, nothing left open after. Climbing
+// back opens each folder a few times, not once for every climb past it (which reopening from
+// the chain's top did: quadratic in depth).
+TEST(TreeWalker, ChainPastTheDescriptorAndPathLimitsIsMeasuredWholeWithinTheBound)
 {
     TempTree tree;
-    const int depth = 3000;
-    const DeepChain chain(tree.dir("top"), "d", depth, [](int level) { return level % 5 * 3000; });
-    const int before = openDescriptors();
-    DeepSizer sizer(before);
-    const TreeWalker::Options options;
-
-    const TreeWalker::Result result = TreeWalker(options).walk(bytes(tree.path("top")), sizer);
-
+    const QByteArray component(60, 'd');
+    const int depth = 600;  // 600 x 61 bytes: past PATH_MAX nine times over
+    const DeepChain chain(tree.dir("top"), component, depth, [](int level) { return level % 5 * 3000; });
+    const QByteArray top = bytes(tree.path("top"));
     QProcess du;
     du.start(QStringLiteral("du"), {QStringLiteral("-s"), QStringLiteral("-B1"), tree.path("top")});
     ASSERT_TRUE(du.waitForFinished(60'000));
     const qint64 duBytes = du.readAllStandardOutput().split('\t').first().toLongLong();
-    EXPECT_EQ(result.entries, 1 + 2 * depth + 1);
-    EXPECT_EQ(sizer.entries, result.entries);
-    EXPECT_EQ(sizer.problems, 0);
-    EXPECT_EQ(sizer.bytes, duBytes);
-    EXPECT_LE(sizer.mostOpen, options.descriptorLimit + 1) << "the listing of /proc/self/fd takes one";
-    EXPECT_EQ(openDescriptors(), before);
+    ASSERT_GT(duBytes, 0);
+    chain.openings();
+    const int openAtStart = openDescriptors();
+
+    for (const int limit : {4, TreeWalker::Options().descriptorLimit}) {
+        const int before = openDescriptors();
+        DeepSizer sizer(before);
+        TreeWalker::Options options;
+        options.descriptorLimit = limit;
+        const TreeWalker::Result result = TreeWalker(options).walk(top, sizer);
+
+        EXPECT_EQ(result.end, TreeWalker::End::Finished) << limit;
+        EXPECT_EQ(result.entries, 1 + 2 * depth + 1) << limit;
+        EXPECT_EQ(sizer.entries, result.entries) << limit;
+        EXPECT_EQ(sizer.items, depth + 1) << "every reopened folder is finished";
+        EXPECT_EQ(sizer.problems, 0) << limit;
+        EXPECT_EQ(sizer.bytes, duBytes) << limit;
+        EXPECT_EQ(sizer.longest, top + '/' + (component + '/').repeated(depth) + "bottom") << "paths are whole beyond PATH_MAX";
+        EXPECT_LE(sizer.mostOpen, limit + 1) << "the listing of /proc/self/fd takes one";
+        EXPECT_EQ(openDescriptors(), before) << limit;
+        if (const auto opened = chain.openings(); opened && limit == TreeWalker::Options().descriptorLimit) {
+            EXPECT_LE(*opened, 5 * depth) << "openings of the chain's folders";
+        }
+    }
     EXPECT_EQ(FileSizer::measure(tree.path("top")).bytes, duBytes) << "split into pieces, as the scans measure";
-    EXPECT_EQ(openDescriptors(), before);
+    EXPECT_EQ(openDescriptors(), openAtStart);
 }
 
 // With two descriptors the ancestors of a deep folder are closed; when one of them is moved

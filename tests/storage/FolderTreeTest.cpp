@@ -167,12 +167,13 @@ TEST_F(FolderTreeTest, TheNodeBoundKeepsTheLargestFoldersAndEveryByte)
     EXPECT_GT(unbounded.tree.nodeCount(), 5 * limit) << "only the bound folded so much";
 }
 
-// A chain a thousand folders deep, far past the walk's open folders: every byte as du counts it,
-// and the tree stops at its deepest level with the rest folded whole, so that what follows the
-// tree down (drawing, JSON) never recurses that deep.
+// A chain past the tree's deepest level and the walk's open folders (the walk itself is held to
+// far deeper chains in its own tests): every byte as du counts it, and the tree stops at its
+// deepest level with the rest folded whole, so that what follows the tree down (drawing, JSON)
+// never recurses that deep.
 TEST_F(FolderTreeTest, DeepChainIsCountedToTheByteAndTheTreeStopsAtItsDeepestLevel)
 {
-    const DeepChain chain(tree.dir("home/chain"), "d", 1000, [](int level) { return level % 5 * 3000; });
+    const DeepChain chain(tree.dir("home/chain"), "d", FolderTreeBuilder::deepestLevel + 50, [](int level) { return level % 5 * 3000; });
     file("Documents/report.pdf", 120'000);
 
     const StorageReport report = analyzed();

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 // A chain of folders nested deeper than any path call accepts, built and removed by
 // descriptors (QDir stops at PATH_MAX). Removed with the object.
@@ -16,6 +17,11 @@ public:
     DeepChain(const DeepChain&) = delete;
     DeepChain& operator=(const DeepChain&) = delete;
 
+    // How often its folders were opened since the last call (inotify tells a watched folder's
+    // own opening); nothing where inotify is missing, the largest number when its queue overflowed.
+    std::optional<qint64> openings() const;
+
 private:
     QString m_first;
+    int m_inotify = -1;
 };
