@@ -1,9 +1,5 @@
+#include "support/CliScan.h"
 #include "support/TempTree.h"
-
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
 
 #include <gtest/gtest.h>
 
@@ -16,42 +12,9 @@ protected:
 
     void big(const char* relative) const { tree.file(QStringLiteral("home/") + QString::fromUtf8(relative), 1'500'000); }
 
-    QJsonArray scan() const
-    {
-        QProcess cli;
-        cli.start(QStringLiteral(DUSTLARK_CLI), {"scan", "--home", home, "--category", "aiAgents", "--category", "appCaches",
-                                                 "--category", "browserCaches", "--category", "editors", "--category",
-                                                 "packageCaches", "--json"});
-        EXPECT_TRUE(cli.waitForFinished(60'000));
-        EXPECT_EQ(cli.exitCode(), 0) << cli.readAllStandardError().constData();
-        return QJsonDocument::fromJson(cli.readAllStandardOutput())[QStringLiteral("categories")].toArray();
-    }
-
     TempTree tree;
     QString home;
 };
-
-QJsonObject itemTitled(const QJsonArray& categories, const QString& title)
-{
-    for (const QJsonValue& category : categories) {
-        for (const QJsonValue& item : category[QStringLiteral("items")].toArray()) {
-            if (item[QStringLiteral("title")].toString() == title)
-                return item.toObject();
-        }
-    }
-    return {};
-}
-
-QString categoryOf(const QJsonArray& categories, const QString& title)
-{
-    for (const QJsonValue& category : categories) {
-        for (const QJsonValue& item : category[QStringLiteral("items")].toArray()) {
-            if (item[QStringLiteral("title")].toString() == title)
-                return category[QStringLiteral("id")].toString();
-        }
-    }
-    return {};
-}
 
 }  // namespace
 
@@ -73,7 +36,8 @@ TEST_F(AgentsCliTest, ShowsEachPlaceOnceAcrossTheCacheAndAgentLists)
     big(".cache/google-chrome/x");
     big(".cache/uv/x");
 
-    const QJsonArray categories = scan();
+    const CliScan scan = CliScan::run(home, {"aiAgents", "appCaches", "browserCaches", "editors", "packageCaches"});
+    ASSERT_EQ(scan.program.exitCode, 0) << scan.program.standardError.constData();
     const struct {
         const char* title;
         const char* category;
@@ -84,22 +48,22 @@ TEST_F(AgentsCliTest, ShowsEachPlaceOnceAcrossTheCacheAndAgentLists)
         {"Homebrew downloads", "packageCaches"}, {"Google Chrome", "browserCaches"},
     };
     for (const auto& one : expected)
-        EXPECT_EQ(categoryOf(categories, QString::fromUtf8(one.title)), QString::fromUtf8(one.category)) << one.title;
+        EXPECT_EQ(scan.categoryOf(QString::fromUtf8(one.title)), QString::fromUtf8(one.category)) << one.title;
 
-    const QJsonObject sessions = itemTitled(categories, QStringLiteral("Claude Code sessions · /nowhere/proj"));
+    const QJsonObject sessions = scan.item(QStringLiteral("Claude Code sessions · /nowhere/proj"));
     EXPECT_EQ(sessions[QStringLiteral("badge")].toString(), QStringLiteral("Claude"));
     EXPECT_EQ(sessions[QStringLiteral("safety")].toString(), QStringLiteral("askAI"));
     EXPECT_EQ(sessions[QStringLiteral("lockedReason")].toString(), QStringLiteral("Changed in the last day; a session may be running."));
-    const QJsonObject backups = itemTitled(categories, QStringLiteral("Codex backup files (2)"));
+    const QJsonObject backups = scan.item(QStringLiteral("Codex backup files (2)"));
     EXPECT_EQ(backups[QStringLiteral("id")].toString(), QStringLiteral("agents:Codex backup files"));
     EXPECT_TRUE(backups[QStringLiteral("lockedReason")].isNull());
-    const QJsonObject slack = itemTitled(categories, QStringLiteral("Slack"));
+    const QJsonObject slack = scan.item(QStringLiteral("Slack"));
     EXPECT_EQ(slack[QStringLiteral("badge")].toString(), QStringLiteral("Inside app data"));
     EXPECT_EQ(slack[QStringLiteral("safety")].toString(), QStringLiteral("safe"));
 
     // No place is offered twice, neither itself nor inside another row's folder.
     QStringList paths;
-    for (const QJsonValue& category : categories) {
+    for (const QJsonValue& category : scan.categories) {
         for (const QJsonValue& item : category[QStringLiteral("items")].toArray()) {
             for (const QJsonValue& path : item[QStringLiteral("paths")].toArray())
                 paths.append(path.toString());

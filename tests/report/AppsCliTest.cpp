@@ -5,12 +5,9 @@
 // mount namespace. Needs root, loop devices, mke2fs and debugfs; skips otherwise.
 
 #include "scan/AppFixture.h"
+#include "support/CliScan.h"
 
 #include <QDirIterator>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
 #include <QStandardPaths>
 
 #include <gtest/gtest.h>
@@ -19,24 +16,6 @@
 namespace {
 
 const QStringList sbin = {QStringLiteral("/usr/sbin"), QStringLiteral("/sbin")};
-
-struct ToolRun {
-    bool ok = false;
-    QByteArray output;
-    QByteArray error;
-};
-
-ToolRun run(const QString& program, const QStringList& arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    const bool finished = process.waitForFinished(60'000);
-    if (!finished)
-        process.kill();
-    process.waitForFinished();
-    return {finished && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0,
-            process.readAllStandardOutput(), process.readAllStandardError()};
-}
 
 // Every entry below `source`, as debugfs commands that set its change time two months back.
 QByteArray changeTimesCommands(const QString& source)
@@ -57,19 +36,10 @@ void setTimesBack(const TempTree& tree, const QString& relative)
         tree.setTimes(entries.next().mid(tree.root().size() + 1), past);
 }
 
-QJsonObject byId(const QJsonArray& categories, const QString& id)
-{
-    for (const QJsonValue& category : categories) {
-        if (category[QStringLiteral("id")].toString() == id)
-            return category.toObject();
-    }
-    return {};
-}
-
-QMap<QString, QJsonObject> itemsByTitle(const QJsonObject& category)
+QMap<QString, QJsonObject> itemsByTitle(const QJsonArray& rows)
 {
     QMap<QString, QJsonObject> items;
-    for (const QJsonValue& item : category[QStringLiteral("items")].toArray())
+    for (const QJsonValue& item : rows)
         items.insert(item[QStringLiteral("title")].toString(), item.toObject());
     return items;
 }
@@ -112,17 +82,16 @@ TEST(AppsCli, ListsExactlyTheAppsWithTheirDataAndTheRemovedAppsLeftovers)
 
     const QString image = f.tree.path("home.ext4");
     const QString mountPoint = f.tree.dir("mnt");
-    ASSERT_TRUE(run(mke2fs, {"-q", "-t", "ext4", "-d", f.tree.path("home"), image, "16M"}).ok);
+    ASSERT_EQ(ProgramRun::run(mke2fs, {"-q", "-t", "ext4", "-d", f.tree.path("home"), image, "16M"}).exitCode, 0);
     f.tree.file("ctimes", changeTimesCommands(f.tree.path("home")));
-    ASSERT_TRUE(run(debugfs, {"-w", "-f", f.tree.path("ctimes"), image}).ok);
+    ASSERT_EQ(ProgramRun::run(debugfs, {"-w", "-f", f.tree.path("ctimes"), image}).exitCode, 0);
     const QString script = QStringLiteral("mount -o loop,ro \"$1\" \"$2\" || exit 77; "
                                           "exec \"$3\" scan --home \"$2\" --category apps --category leftovers --json");
-    const ToolRun scan = run(unshare, {"--mount", "--propagation", "private", "sh", "-c", script, "sh", image, mountPoint, DUSTLARK_CLI});
-    if (!scan.ok && scan.output.isEmpty())
-        GTEST_SKIP() << "could not mount the image: " << scan.error.constData();
-
-    const QJsonArray categories = QJsonDocument::fromJson(scan.output)[QStringLiteral("categories")].toArray();
-    const auto apps = itemsByTitle(byId(categories, "apps"));
+    const CliScan scan = CliScan::of(ProgramRun::run(unshare, {"--mount", "--propagation", "private", "sh", "-c", script, "sh",
+                                                               image, mountPoint, DUSTLARK_CLI}));
+    if (scan.program.exitCode != 0 && scan.program.standardOutput.isEmpty())
+        GTEST_SKIP() << "could not mount the image: " << scan.program.standardError.constData();
+    const auto apps = itemsByTitle(scan.items("apps"));
     EXPECT_EQ(apps.keys(), QStringList({"Bar Tool", "Foo", "Notes", "Sticky Notes"}));
     EXPECT_EQ(pathsOf(apps["Foo"], mountPoint),
               QStringList({"~/Applications/Foo.app", "~/Library/Caches/com.foo.Foo", "~/Library/Preferences/com.foo.Foo.plist"}));
@@ -133,7 +102,7 @@ TEST(AppsCli, ListsExactlyTheAppsWithTheirDataAndTheRemovedAppsLeftovers)
     EXPECT_TRUE(apps["Notes"]["detail"].toString().endsWith(QString::fromUtf8("“Notes” folder stays: it may belong to Sticky Notes")));
     EXPECT_EQ(pathsOf(apps["Bar Tool"], mountPoint), QStringList{"~/Applications/Utilities/Bar Tool.app"});
 
-    const auto leftovers = itemsByTitle(byId(categories, "leftovers"));
+    const auto leftovers = itemsByTitle(scan.items("leftovers"));
     EXPECT_EQ(leftovers.keys(), QStringList({"com.gone.Browser", QString::fromUtf8("net.ünïcode.App"), "org.removed.Tool"}));
     const QJsonObject browser = leftovers["com.gone.Browser"];
     EXPECT_EQ(pathsOf(browser, mountPoint),

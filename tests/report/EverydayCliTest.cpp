@@ -3,15 +3,12 @@
 // the tool fresh, empty /tmp and /var/tmp in a private mount namespace (unshare(1), as root), so
 // what other programs keep there never reaches the rows.
 #include "scan/ScannerCatalog.h"
+#include "support/CliScan.h"
 #include "support/TempTree.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
@@ -25,38 +22,10 @@ namespace {
 constexpr qint64 day = 86'400;
 constexpr int namespaceRefused = 77;
 
-struct ToolRun {
-    int exitCode = -1;
-    QJsonArray categories;
-    QByteArray standardError;
-};
-
-ToolRun run(const QString& program, const QStringList& arguments, const QProcessEnvironment& environment)
-{
-    QProcess process;
-    process.setProcessEnvironment(environment);
-    process.start(program, arguments);
-    if (!process.waitForFinished(120'000))
-        process.kill();
-    process.waitForFinished();
-    ToolRun result{process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1, {}, process.readAllStandardError()};
-    result.categories = QJsonDocument::fromJson(process.readAllStandardOutput()).object().value("categories").toArray();
-    return result;
-}
-
-QJsonObject category(const QJsonArray& categories, const QString& raw)
-{
-    for (const QJsonValue& each : categories) {
-        if (each["id"].toString() == raw)
-            return each.toObject();
-    }
-    return {};
-}
-
-QStringList rowsOf(const QJsonArray& categories, const QString& raw)
+QStringList rowsOf(const CliScan& scan, const QString& raw)
 {
     QStringList rows;
-    for (const QJsonValue& item : category(categories, raw)["items"].toArray())
+    for (const QJsonValue& item : scan.items(raw))
         rows.append(item["title"].toString() + " | " + item["badge"].toString() + " | " + item["safety"].toString());
     rows.sort();
     return rows;
@@ -86,15 +55,15 @@ TEST(EverydayCli, AFullScanEndsEveryRegisteredCategoryDone)
     const QString home = tree.dir("home");
     tree.file("home/Downloads/Setup.dmg", 10);
     tree.file("home/tmp/scratch.txt", 10);
-    const ToolRun result = run(DUSTLARK_CLI, {"scan", "--home", home, "--json"}, QProcessEnvironment::systemEnvironment());
-    ASSERT_EQ(result.exitCode, 0) << result.standardError.constData();
+    const CliScan result = CliScan::run(home);
+    ASSERT_EQ(result.program.exitCode, 0) << result.program.standardError.constData();
 
     int registered = 0;
     for (const auto& scanner : ScannerCatalog::all()) {
         for (CategoryID filled : scanner->categories()) {
             ++registered;
             const QString raw = Categories::rawValue(filled);
-            EXPECT_EQ(category(result.categories, raw)["state"].toString(), "done") << qPrintable(raw);
+            EXPECT_EQ(result.category(raw)["state"].toString(), "done") << qPrintable(raw);
         }
     }
     EXPECT_GE(registered, 5);
@@ -136,12 +105,11 @@ TEST(EverydayCli, TheEverydayCategoriesShowExactlyTheFixtureRows)
     QStringList arguments = {"--mount", "--propagation", "private", "sh", "-c", script, tool, "scan", "--home", home};
     for (const char* raw : {"temporary", "oldDownloads", "installers", "devices", "trash", "largeFiles"})
         arguments << "--category" << raw;
-    const ToolRun result = run(unshare, arguments << "--json", environment);
-    if (result.exitCode == namespaceRefused)
-        GTEST_SKIP() << "this system refuses a private tmpfs mount: " << result.standardError.constData();
-    ASSERT_EQ(result.exitCode, 0) << result.standardError.constData();
+    const CliScan found = CliScan::of(ProgramRun::run(unshare, arguments << "--json", 120'000, environment));
+    if (found.program.exitCode == namespaceRefused)
+        GTEST_SKIP() << "this system refuses a private tmpfs mount: " << found.program.standardError.constData();
+    ASSERT_EQ(found.program.exitCode, 0) << found.program.standardError.constData();
 
-    const QJsonArray& found = result.categories;
     EXPECT_EQ(rowsOf(found, "temporary"), QStringList({"2 old files in tmp | System temp | safe",
                                                        "notes-31.txt | Your temp folder | askAI",
                                                        "old-build | System temp | safe"}));
@@ -150,7 +118,7 @@ TEST(EverydayCli, TheEverydayCategoriesShowExactlyTheFixtureRows)
     EXPECT_EQ(rowsOf(found, "largeFiles"), QStringList({"~/Downloads/movie.mov |  | risky"}));
     EXPECT_EQ(rowsOf(found, "devices"), QStringList({"iPad_17.ipsw |  | safe", "iPhone or iPad backup | Backup | risky"}));
     EXPECT_EQ(rowsOf(found, "trash"), QStringList({"Trash |  | risky"}));
-    EXPECT_EQ(category(found, "trash")["items"][0]["removal"].toString(), "emptyTrash");
+    EXPECT_EQ(found.items("trash").at(0)["removal"].toString(), "emptyTrash");
     for (const char* raw : {"temporary", "oldDownloads", "installers", "devices", "trash"})
-        EXPECT_EQ(category(found, raw)["state"].toString(), "done") << raw;
+        EXPECT_EQ(found.category(raw)["state"].toString(), "done") << raw;
 }

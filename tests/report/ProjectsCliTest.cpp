@@ -1,31 +1,8 @@
 #include "scan/ProjectScannerGit.h"
+#include "support/CliScan.h"
 #include "support/TempTree.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
-
 #include <gtest/gtest.h>
-
-namespace {
-
-QJsonObject category(const QJsonArray& categories, const QString& raw)
-{
-    for (const QJsonValue& value : categories) {
-        if (value[QStringLiteral("id")].toString() == raw)
-            return value.toObject();
-    }
-    ADD_FAILURE() << "no category " << qPrintable(raw);
-    return {};
-}
-
-QJsonArray itemsOf(const QJsonArray& categories, const char* raw)
-{
-    return category(categories, QString::fromLatin1(raw))[QStringLiteral("items")].toArray();
-}
-
-}  // namespace
 
 // The report tool over a developer's home: one walk lists builds, worktrees, large files and
 // copies, each in its own category.
@@ -43,30 +20,26 @@ TEST(ProjectsCli, OneScanOfAHomeListsBuildsWorktreesLargeFilesAndDuplicates)
     tree.file("home/docs/report.pdf", 1'500'000, 'r');
     tree.file("home/backup/report.pdf", 1'500'000, 'r');
 
-    QProcess cli;
-    cli.start(QStringLiteral(DUSTLARK_CLI), {"scan", "--home", home, "--json"});
-    ASSERT_TRUE(cli.waitForFinished(120'000));
-    ASSERT_EQ(cli.exitCode(), 0) << cli.readAllStandardError().constData();
-    const QJsonArray categories =
-        QJsonDocument::fromJson(cli.readAllStandardOutput()).object()[QStringLiteral("categories")].toArray();
+    const CliScan scan = CliScan::run(home);
+    ASSERT_EQ(scan.program.exitCode, 0) << scan.program.standardError.constData();
 
-    const QJsonArray projects = itemsOf(categories, "projects");
+    const QJsonArray projects = scan.items("projects");
     ASSERT_EQ(projects.size(), 1);
     EXPECT_EQ(projects[0]["title"].toString(), "web");
     EXPECT_EQ(projects[0]["safety"].toString(), "safe");
     EXPECT_EQ(projects[0]["paths"].toArray(), QJsonArray{tree.path("home/code/web/node_modules")});
 
-    const QJsonArray worktrees = itemsOf(categories, "worktrees");
+    const QJsonArray worktrees = scan.items("worktrees");
     ASSERT_EQ(worktrees.size(), 1);
     EXPECT_EQ(worktrees[0]["id"].toString(), worktree);
     EXPECT_EQ(worktrees[0]["lockedReason"].toString(), "Changed in the last day; a session may be running.");
     EXPECT_TRUE(worktrees[0]["detail"].toString().endsWith("everything committed")) << qPrintable(worktrees[0]["detail"].toString());
 
-    const QJsonArray large = itemsOf(categories, "largeFiles");
+    const QJsonArray large = scan.items("largeFiles");
     ASSERT_EQ(large.size(), 1);
     EXPECT_EQ(large[0]["title"].toString(), "~/media/movie.mov");
 
-    const QJsonArray copies = itemsOf(categories, "duplicates");
+    const QJsonArray copies = scan.items("duplicates");
     ASSERT_EQ(copies.size(), 2);
     EXPECT_EQ(copies[0]["duplicateGroup"], copies[1]["duplicateGroup"]);
     EXPECT_NE(copies[0]["isOldestCopy"].toBool(), copies[1]["isOldestCopy"].toBool());

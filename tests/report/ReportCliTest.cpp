@@ -1,13 +1,8 @@
 #include "scan/LocationScanner.h"
-#include "support/ProgramRun.h"
+#include "support/CliScan.h"
 #include "support/TempTree.h"
-#include "vocabulary/CategoryID.h"
 
 #include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
 #include <QStandardPaths>
 
 #include <gtest/gtest.h>
@@ -23,23 +18,6 @@ CliRun runProgram(const QString& program, const QStringList& arguments)
     return ProgramRun::run(program, arguments, 60'000);
 }
 
-QJsonArray categoriesOf(const CliRun& run)
-{
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(run.standardOutput, &error);
-    EXPECT_EQ(error.error, QJsonParseError::NoError) << qPrintable(error.errorString());
-    return document.object().value(QStringLiteral("categories")).toArray();
-}
-
-QJsonObject categoryNamed(const QJsonArray& categories, const char* raw)
-{
-    for (const QJsonValue& category : categories) {
-        if (category[QStringLiteral("id")].toString() == QLatin1String(raw))
-            return category.toObject();
-    }
-    return {};
-}
-
 // The fixture home folder of every test: a temporary tree whose "home" the tool scans.
 class ReportCliTest : public ::testing::Test {
 protected:
@@ -47,35 +25,11 @@ protected:
 
     QString file(const QString& relative, qint64 size) const { return tree.file(QStringLiteral("home/") + relative, size); }
 
-    QJsonObject scanCategory(const char* raw) const
-    {
-        const CliRun run = runProgram(DUSTLARK_CLI, {"scan", "--home", home, "--category", raw, "--json"});
-        EXPECT_EQ(run.exitCode, 0) << run.standardError.constData();
-        return categoryNamed(categoriesOf(run), raw);
-    }
-
     TempTree tree;
     QString home;
 };
 
 }  // namespace
-
-TEST_F(ReportCliTest, ListsAnNpmCacheAsSafeAndSkipsSmallCaches)
-{
-    file(QStringLiteral(".npm/_cacache/content-v2/sha512/aa/blob"), 2'000'000);
-    file(QStringLiteral("Library/Caches/Yarn/v6/npm-left-pad/blob"), 900'000);
-
-    const QJsonObject caches = scanCategory("packageCaches");
-    EXPECT_EQ(caches[QStringLiteral("state")].toString(), QStringLiteral("done"));
-    const QJsonArray items = caches[QStringLiteral("items")].toArray();
-    ASSERT_EQ(items.size(), 1);
-    const QJsonObject npm = items.first().toObject();
-    EXPECT_EQ(npm[QStringLiteral("title")].toString(), QStringLiteral("npm cache"));
-    EXPECT_EQ(npm[QStringLiteral("safety")].toString(), QStringLiteral("safe"));
-    EXPECT_EQ(npm[QStringLiteral("paths")].toArray(), QJsonArray{home + QStringLiteral("/.npm/_cacache")});
-    EXPECT_GE(npm[QStringLiteral("size")].toDouble(), 2'000'000);
-    EXPECT_TRUE(caches[QStringLiteral("notes")].toArray().isEmpty());
-}
 
 TEST(ReportCli, BadArgumentsExitWithStatusTwoAndOneLine)
 {
@@ -118,13 +72,13 @@ TEST_F(ReportCliTest, UnreadableFoldersGiveTheFullDiskAccessNote)
         ::chmod(QFile::encodeName(home + QLatin1String(locked)).constData(), 0755);
     ASSERT_EQ(run.exitCode, 0) << run.standardError.constData();
 
-    const QJsonArray categories = categoriesOf(run);
-    const QJsonObject logs = categoryNamed(categories, "logs");
+    const CliScan scan = CliScan::of(run);
+    const QJsonObject logs = scan.category(QStringLiteral("logs"));
     EXPECT_EQ(logs[QStringLiteral("notes")].toArray(), QJsonArray{LocationScanner::unreadableNote()});
     const QJsonArray rows = logs[QStringLiteral("items")].toArray();
     ASSERT_EQ(rows.size(), 1);
     EXPECT_EQ(rows.first()[QStringLiteral("title")].toString(), QStringLiteral("Readable"));
-    EXPECT_EQ(categoryNamed(categories, "aiModels")[QStringLiteral("notes")].toArray(),
+    EXPECT_EQ(scan.category(QStringLiteral("aiModels"))[QStringLiteral("notes")].toArray(),
               QJsonArray{LocationScanner::unreadableNote()});
 }
 

@@ -1,12 +1,15 @@
 #include "format/RelativeDate.h"
 #include "actions/ToolStandIn.h"
 #include "machinery/ToolLocations.h"
+#include "support/CliScan.h"
 #include "scan/DockerScanner.h"
 #include "support/TempTree.h"
 
 #include <QFileInfo>
+#include <QStandardPaths>
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 namespace {
 
@@ -241,6 +244,63 @@ TEST_F(DockerScannerTest, DesktopDiskImageIsNoted)
     EXPECT_TRUE(output.notes[0].startsWith(QLatin1String("Docker Desktop's disk image takes "))) << qPrintable(output.notes[0]);
     EXPECT_TRUE(output.notes[0].endsWith(QLatin1String("Docker Desktop may return freed space to macOS gradually.")));
     EXPECT_FALSE(output.notes[0].contains(QLatin1String("64 GB"))) << "its allocated size, not its length";
+}
+
+// The docker paths that come before the home folder's own; a command that hides those that
+// exist (a tmpfs over their folder in a private mount namespace), or none when none exists.
+// Absent when one exists and can't be hidden.
+std::optional<QStringList> hidingEarlierDockers()
+{
+    const QStringList earlier = ToolLocations::standard(QStringLiteral("/nonexistent")).dockerCandidates.mid(0, 2);
+    QStringList folders;
+    for (const QString& path : earlier) {
+        if (QFileInfo::exists(path))
+            folders << QFileInfo(path).path();
+    }
+    if (folders.isEmpty())
+        return QStringList{};
+    const QString unshare = QStandardPaths::findExecutable(QStringLiteral("unshare"));
+    if (::geteuid() != 0 || unshare.isEmpty())
+        return std::nullopt;
+    return QStringList{unshare, QStringLiteral("--mount"), QStringLiteral("--propagation"), QStringLiteral("private"), QStringLiteral("sh"),
+                       QStringLiteral("-c"), QStringLiteral("for d in %1; do mount -t tmpfs tmpfs \"$d\" || exit 97; done; exec \"$@\"").arg(folders.join(QLatin1Char(' '))),
+                       QStringLiteral("sh")};
+}
+
+QStringList titles(const QJsonObject& category)
+{
+    QStringList list;
+    for (const QJsonValue& item : category[QStringLiteral("items")].toArray())
+        list << item[QStringLiteral("title")].toString();
+    return list;
+}
+
+// The report tool finds the docker of the home folder's ~/.docker/bin and reads DOCKER_HOST itself.
+TEST_F(DockerScannerTest, TheReportToolFindsTheHomeFoldersDockerAndItsHostVariable)
+{
+    const auto wrapper = hidingEarlierDockers();
+    if (!wrapper)
+        GTEST_SKIP() << "a docker is installed before ~/.docker/bin and hiding it needs root and unshare(1)";
+    ASSERT_TRUE(QFile::link(QFileInfo(docker.path()).path(), home.dir(QStringLiteral(".docker")) + QStringLiteral("/bin")));
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(QStringLiteral("DOCKER_HOST"));
+
+    const CliScan local = CliScan::run(home.root(), {QStringLiteral("docker")}, environment, *wrapper);
+    ASSERT_EQ(local.program.exitCode, 0) << local.program.standardError.constData();
+    EXPECT_EQ(titles(local.category(QStringLiteral("docker"))),
+              (QStringList{QStringLiteral("shop_pgdata"), QStringLiteral("Untagged image"), QStringLiteral("web:dev"),
+                           QStringLiteral("Build cache"), QStringLiteral("postgres:15"), QStringLiteral("Anonymous volume 9f86d081884c"),
+                           QStringLiteral("web-test"), QStringLiteral("old-db"), QStringLiteral("scratchpad")}));
+    EXPECT_EQ(local.item(QStringLiteral("shop_pgdata"))[QStringLiteral("removal")].toString(), QStringLiteral("docker"));
+    EXPECT_TRUE(local.category(QStringLiteral("docker"))[QStringLiteral("summary")].toString().startsWith(QLatin1String("Docker uses: images 4.1 GB")));
+
+    const qsizetype callsBefore = docker.calls().size();
+    environment.insert(QStringLiteral("DOCKER_HOST"), QStringLiteral("tcp://build-server:2375"));
+    const CliScan remote = CliScan::run(home.root(), {QStringLiteral("docker")}, environment, *wrapper);
+    EXPECT_TRUE(remote.items(QStringLiteral("docker")).isEmpty());
+    EXPECT_EQ(remote.category(QStringLiteral("docker"))[QStringLiteral("notes")].toArray(),
+              QJsonArray{QStringLiteral("Docker is set to use another computer. Dustlark cleans only Docker on this computer.")});
+    EXPECT_EQ(docker.calls().size(), callsBefore) << "the tool is not even run";
 }
 
 TEST(DockerScannerFormats, SizesAndTimes)
