@@ -1,6 +1,7 @@
 #include "format/RelativeDate.h"
 #include "actions/ToolStandIn.h"
 #include "scan/AndroidScanner.h"
+#include "support/ScanRows.h"
 #include "support/TempTree.h"
 
 #include <QCoreApplication>
@@ -33,16 +34,7 @@ protected:
 
     ScanOutput scan() const { return AndroidScanner(environment).scan(context).at(CategoryID::android); }
 
-    const CleanupItem& row(const ScanOutput& output, const QString& relative) const
-    {
-        for (const CleanupItem& item : output.items) {
-            if (item.id == home.path(relative))
-                return item;
-        }
-        static const CleanupItem none;
-        ADD_FAILURE() << "no row " << qPrintable(relative);
-        return none;
-    }
+    const CleanupItem& row(const ScanOutput& output, const QString& relative) const { return rowWithId(output.items, home.path(relative)); }
 
     // Status-change times can't be set back, so the scan happens three days after the files were made.
     QDateTime now = QDateTime::currentDateTimeUtc().addDays(3);

@@ -5,6 +5,7 @@
 #include "format/RelativeDate.h"
 #include "machinery/FileSizer.h"
 #include "scan/AppFixture.h"
+#include "support/ScanRows.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -31,16 +32,6 @@ ScanOutput scanApps(const AppsScanner& scanner, const AppFixture& fixture, bool 
     context.home = fixture.home();
     context.fullDiskAccess = fullDiskAccess;
     return scanner.scan(context)[CategoryID::apps];
-}
-
-const CleanupItem* rowTitled(const ScanOutput& output, const QString& title)
-{
-    for (const CleanupItem& item : output.items) {
-        if (item.title == title)
-            return &item;
-    }
-    ADD_FAILURE() << "no row " << qPrintable(title);
-    return nullptr;
 }
 
 QStringList sorted(QStringList paths)
@@ -139,17 +130,17 @@ TEST(AppsScanner, EveryLibraryPlaceOfTheAppGoesWithItButNothingAnotherAppClaims)
     f.libraryFolder("Group Containers/group.com.foo.App.sync");
 
     const ScanOutput output = scanApps(scannerFor(f), f);
-    const CleanupItem* app = rowTitled(output, "App");
+    const CleanupItem* app = rowTitled(output.items, "App");
     ASSERT_TRUE(app);
     EXPECT_EQ(sorted(app->removal.paths().mid(1)), sorted(own));
     EXPECT_EQ(app->removal.paths().first(), f.tree.path("Applications/App.app"));
-    const CleanupItem* helper = rowTitled(output, "Helper");
+    const CleanupItem* helper = rowTitled(output.items, "Helper");
     ASSERT_TRUE(helper);
     EXPECT_EQ(sorted(helper->removal.paths().mid(1)), sorted(others.mid(0, 2)));
     EXPECT_TRUE(output.notes.isEmpty());
 
     const ScanOutput withoutAccess = scanApps(scannerFor(f), f, false);
-    const CleanupItem* limited = rowTitled(withoutAccess, "App");
+    const CleanupItem* limited = rowTitled(withoutAccess.items, "App");
     ASSERT_TRUE(limited);
     EXPECT_FALSE(limited->removal.paths().join('\n').contains("/Containers/"));
     EXPECT_EQ(withoutAccess.notes, QStringList{AppsScanner::fullDiskAccessNote()});
@@ -186,8 +177,8 @@ TEST(AppsScanner, AnApplicationGroupOrIdentifierOfTwoAppsGoesWithNeither)
     }();
     EXPECT_FALSE(everyPath.contains(shared));
     EXPECT_FALSE(everyPath.contains(duplicated));
-    ASSERT_TRUE(rowTitled(output, "One"));
-    EXPECT_TRUE(rowTitled(output, "One")->removal.paths().contains(ownGroup));
+    ASSERT_TRUE(rowTitled(output.items, "One"));
+    EXPECT_TRUE(rowTitled(output.items, "One")->removal.paths().contains(ownGroup));
     EXPECT_EQ(output.items.size(), 4);
 }
 
@@ -200,8 +191,8 @@ TEST(AppsScanner, ANameFolderAnotherAppClaimsStaysAndTheRowNamesThatApp)
     const QString sticky = f.libraryFolder("Logs/Sticky Notes");
 
     const ScanOutput output = scanApps(scannerFor(f), f);
-    const CleanupItem* notesRow = rowTitled(output, "Notes");
-    const CleanupItem* stickyRow = rowTitled(output, "Sticky Notes");
+    const CleanupItem* notesRow = rowTitled(output.items, "Notes");
+    const CleanupItem* stickyRow = rowTitled(output.items, "Sticky Notes");
     ASSERT_TRUE(notesRow && stickyRow);
     EXPECT_EQ(notesRow->removal.paths(), QStringList{f.tree.path("Applications/Utilities/Notes.app")});
     EXPECT_TRUE(notesRow->detail.endsWith(QString::fromUtf8(" · “Notes” folder stays: it may belong to Sticky Notes")))
@@ -266,8 +257,8 @@ TEST(AppsScanner, ARunningAppIsLockedAndItsBundleGuardedForTheRemover)
     const ScanOutput output = scanApps(scanner, f);
     child.kill();
     child.waitForFinished();
-    const CleanupItem* running = rowTitled(output, "Runner");
-    const CleanupItem* idle = rowTitled(output, "Idle");
+    const CleanupItem* running = rowTitled(output.items, "Runner");
+    const CleanupItem* idle = rowTitled(output.items, "Idle");
     ASSERT_TRUE(running && idle);
     EXPECT_EQ(running->lockedReason, "Running. Quit it to remove it.");
     EXPECT_FALSE(idle->lockedReason.has_value());

@@ -2,6 +2,7 @@
 #include "actions/ToolStandIn.h"
 #include "machinery/ToolLocations.h"
 #include "support/CliScan.h"
+#include "support/ScanRows.h"
 #include "scan/DockerScanner.h"
 #include "support/TempTree.h"
 
@@ -78,14 +79,7 @@ protected:
         return Removal::docker(operation);
     }
 
-    static const CleanupItem* row(const ScanOutput& output, const QString& id)
-    {
-        for (const CleanupItem& item : output.items) {
-            if (item.id == id)
-                return &item;
-        }
-        return nullptr;
-    }
+    static const CleanupItem* row(const ScanOutput& output, const QString& id) { return findRow(output.items, id); }
 
     ToolStandIn docker{QStringLiteral("docker-standin"), QStringLiteral("docker")};
     TempTree home;

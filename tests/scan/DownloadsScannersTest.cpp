@@ -1,6 +1,7 @@
 #include "format/RelativeDate.h"
 #include "scan/InstallersScanner.h"
 #include "scan/OldDownloadsScanner.h"
+#include "support/ScanRows.h"
 #include "support/TempTree.h"
 
 #include <QFile>
@@ -31,13 +32,6 @@ protected:
         return ScannerType().scan(context).at(category);
     }
 
-    static QStringList titlesOf(const ScanOutput& output)
-    {
-        QStringList titles;
-        for (const CleanupItem& item : output.items)
-            titles.append(item.title);
-        return titles;
-    }
 
     TempTree tree;
     ScanContext context;
@@ -61,7 +55,7 @@ TEST_F(DownloadsScannersTest, OldDownloadsAreNinetyDaysQuietAndLeaveInstallersAn
     aged(QStringLiteral("Downloads/touched/"), 400);
 
     const ScanOutput output = scanned<OldDownloadsScanner>(CategoryID::oldDownloads);
-    EXPECT_EQ(titlesOf(output), QStringList({"91-days.pdf", "unpacked"}));
+    EXPECT_EQ(titlesOf(output.items), QStringList({"91-days.pdf", "unpacked"}));
     EXPECT_TRUE(output.notes.isEmpty());
     for (const CleanupItem& item : output.items) {
         EXPECT_EQ(item.badge, item.title == QLatin1String("unpacked") ? std::optional<QString>("Folder") : std::nullopt);
@@ -105,7 +99,7 @@ TEST_F(DownloadsScannersTest, InstallersAreFoundByExtensionOutsideAppsAndLinks)
     aged(QStringLiteral("../outside/Other.dmg"), 3);
 
     const ScanOutput output = scanned<InstallersScanner>(CategoryID::installers);
-    QStringList titles = titlesOf(output);
+    QStringList titles = titlesOf(output.items);
     titles.sort();
     EXPECT_EQ(titles, QStringList({"Deep.mpkg", "Legacy.pkg", "Setup.DMG", "Xcode_15.xip", "driver.pkg"}));
     EXPECT_TRUE(output.notes.isEmpty());
@@ -126,10 +120,10 @@ TEST_F(DownloadsScannersTest, LinuxPackagesAndAppImagesAreInstallersNotOldDownlo
         aged(QString::fromLatin1(name), 200);
     aged(QStringLiteral("Downloads/notes.deb.txt"), 200);
 
-    QStringList installers = titlesOf(scanned<InstallersScanner>(CategoryID::installers));
+    QStringList installers = titlesOf(scanned<InstallersScanner>(CategoryID::installers).items);
     installers.sort();
     EXPECT_EQ(installers, QStringList({"Editor-3.1.AppImage", "org.example.App.flatpakref", "tool-1.2.x86_64.RPM",
                                        "tool_1.2_amd64.deb"}));
-    EXPECT_EQ(titlesOf(scanned<OldDownloadsScanner>(CategoryID::oldDownloads)), QStringList({"notes.deb.txt"}))
+    EXPECT_EQ(titlesOf(scanned<OldDownloadsScanner>(CategoryID::oldDownloads).items), QStringList({"notes.deb.txt"}))
         << "an installer is listed once, under Installers";
 }

@@ -3,6 +3,7 @@
 
 #include "actions/ToolStandIn.h"
 #include "scan/AppFixture.h"
+#include "support/ScanRows.h"
 #include "scan/FlatpakFixture.h"
 
 #include <QFile>
@@ -28,24 +29,6 @@ ScanOutput scanLeftovers(const LeftoversScanner& scanner, const AppFixture& fixt
     context.home = fixture.home();
     context.now = QDateTime::currentDateTimeUtc().addDays(daysLater);
     return scanner.scan(context)[CategoryID::leftovers];
-}
-
-QStringList titlesOf(const ScanOutput& output)
-{
-    QStringList titles;
-    for (const CleanupItem& item : output.items)
-        titles.append(item.title);
-    return titles;
-}
-
-const CleanupItem* rowWithId(const ScanOutput& output, const QString& id)
-{
-    for (const CleanupItem& item : output.items) {
-        if (item.id == id)
-            return &item;
-    }
-    ADD_FAILURE() << "no row " << qPrintable(id);
-    return nullptr;
 }
 
 void writeFile(const QString& path, const QByteArray& content)
@@ -104,8 +87,8 @@ TEST(LeftoversScanner, OnlyRemovedAppsOfVendorsWithNothingInstalledAreListed)
     f.libraryFolder("Containers/org.old.Reader", 50000);
 
     const ScanOutput output = scanLeftovers(scannerFor(f), f);
-    EXPECT_EQ(titlesOf(output), QStringList({"org.old.Reader", "com.gone.Viewer"}));
-    const CleanupItem* viewer = rowWithId(output, "leftovers:com.gone.Viewer");
+    EXPECT_EQ(titlesOf(output.items), QStringList({"org.old.Reader", "com.gone.Viewer"}));
+    const CleanupItem* viewer = findRow(output.items, "leftovers:com.gone.Viewer");
     ASSERT_TRUE(viewer);
     EXPECT_EQ(viewer->removal.paths(), QStringList({f.tree.path("home/Library/Caches/com.gone.Viewer"),
                                                     f.tree.path("home/Library/Preferences/com.gone.Viewer.plist")}));
@@ -116,7 +99,7 @@ TEST(LeftoversScanner, OnlyRemovedAppsOfVendorsWithNothingInstalledAreListed)
     withoutAccess.home = f.home();
     withoutAccess.now = QDateTime::currentDateTimeUtc().addDays(31);
     withoutAccess.fullDiskAccess = false;
-    EXPECT_EQ(titlesOf(scannerFor(f).scan(withoutAccess)[CategoryID::leftovers]), QStringList{"com.gone.Viewer"});
+    EXPECT_EQ(titlesOf(scannerFor(f).scan(withoutAccess)[CategoryID::leftovers].items), QStringList{"com.gone.Viewer"});
 }
 
 TEST(LeftoversScanner, AGroupContainerAnInstalledAppSignedForIsNotLeftOver)
@@ -130,10 +113,10 @@ TEST(LeftoversScanner, AGroupContainerAnInstalledAppSignedForIsNotLeftOver)
               "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict><key>com.apple.security.application-groups</key>"
               "<array><string>ABCDE12345.org.partner.shared</string></array></dict></plist>");
     LeftoversScanner scanner = scannerFor(f);
-    EXPECT_EQ(titlesOf(scanLeftovers(scanner, f)).size(), 2);
+    EXPECT_EQ(titlesOf(scanLeftovers(scanner, f).items).size(), 2);
 
     scanner.codesign = codesign.path();
-    EXPECT_EQ(titlesOf(scanLeftovers(scanner, f)), QStringList{"org.lost.data"});
+    EXPECT_EQ(titlesOf(scanLeftovers(scanner, f).items), QStringList{"org.lost.data"});
 }
 
 TEST(LeftoversScanner, AnythingChangedInTheLastThirtyDaysIsLeftAlone)
@@ -164,9 +147,9 @@ TEST(LeftoversScanner, PersonalDataIsNamedAndMakesTheRowAsk)
     ASSERT_TRUE(QFile::link(elsewhere + "/letter.pdf", linked + "/Login Data"));
 
     const ScanOutput output = scanLeftovers(scannerFor(f), f);
-    const CleanupItem* browser = rowWithId(output, "leftovers:com.gone.Browser");
-    const CleanupItem* notes = rowWithId(output, "leftovers:com.gone.Notes");
-    const CleanupItem* plain = rowWithId(output, "leftovers:com.gone.Plain");
+    const CleanupItem* browser = findRow(output.items, "leftovers:com.gone.Browser");
+    const CleanupItem* notes = findRow(output.items, "leftovers:com.gone.Notes");
+    const CleanupItem* plain = findRow(output.items, "leftovers:com.gone.Plain");
     ASSERT_TRUE(browser && notes && plain);
     EXPECT_EQ(browser->userData, QStringList({"saved passwords", "browsing history"}));
     EXPECT_TRUE(browser->detail.endsWith(" · has saved passwords, browsing history")) << qPrintable(browser->detail);
@@ -174,7 +157,7 @@ TEST(LeftoversScanner, PersonalDataIsNamedAndMakesTheRowAsk)
     EXPECT_EQ(notes->userData, QStringList({"documents", "databases"}));
     EXPECT_TRUE(plain->detail.endsWith(" · settings and caches only"));
     EXPECT_EQ(plain->safety(f.home()), Safety::safe);
-    const CleanupItem* linkedRow = rowWithId(output, "leftovers:com.gone.Linked");
+    const CleanupItem* linkedRow = findRow(output.items, "leftovers:com.gone.Linked");
     ASSERT_TRUE(linkedRow);
     EXPECT_TRUE(linkedRow->userData.isEmpty()) << qPrintable(linkedRow->userData.join(", "));
 }
@@ -191,12 +174,12 @@ TEST(LeftoversScanner, LaunchAgentsGoWithTheProgramTheyStart)
     f.libraryFile("Preferences/com.gone.Updater.plist");
 
     const ScanOutput output = scanLeftovers(scannerFor(f), f);
-    EXPECT_EQ(titlesOf(output).size(), 2);
-    const CleanupItem* gone = rowWithId(output, "leftovers:com.gone.Updater");
+    EXPECT_EQ(titlesOf(output.items).size(), 2);
+    const CleanupItem* gone = findRow(output.items, "leftovers:com.gone.Updater");
     ASSERT_TRUE(gone);
     EXPECT_EQ(gone->title, "Gone Tool");
     EXPECT_EQ(gone->removal.paths().size(), 2);
-    EXPECT_TRUE(rowWithId(output, "leftovers:com.broken.Agent"));
+    EXPECT_TRUE(findRow(output.items, "leftovers:com.broken.Agent"));
 }
 
 // Installations made by the real flatpak: the person's own under the home, the system's, and

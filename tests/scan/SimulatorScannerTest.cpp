@@ -1,6 +1,7 @@
 #include "format/RelativeDate.h"
 #include "actions/ToolStandIn.h"
 #include "scan/SimulatorScanner.h"
+#include "support/ScanRows.h"
 #include "support/TempTree.h"
 #include "vocabulary/SimulatorLastUse.h"
 
@@ -42,16 +43,7 @@ protected:
 
     ScanOutput scan() const { return SimulatorScanner(environment).scanSimulators(context); }
 
-    static const CleanupItem& row(const ScanOutput& output, const QString& id)
-    {
-        for (const CleanupItem& item : output.items) {
-            if (item.id == id)
-                return item;
-        }
-        static const CleanupItem none;
-        ADD_FAILURE() << "no row " << qPrintable(id);
-        return none;
-    }
+    static const CleanupItem& row(const ScanOutput& output, const QString& id) { return rowWithId(output.items, id); }
 
     ToolStandIn xcrun{QStringLiteral("xcrun-standin"), QStringLiteral("xcrun")};
     ToolStandIn xcodeSelect{QStringLiteral("canned-standin"), QStringLiteral("xcode-select")};

@@ -1,5 +1,6 @@
 #include "actions/ToolStandIn.h"
 #include "scan/XcodeScanner.h"
+#include "support/ScanRows.h"
 #include "support/TempTree.h"
 
 #include <QFile>
@@ -43,16 +44,7 @@ protected:
         return XcodeScanner(environment).scan(context).at(CategoryID::xcode).items;
     }
 
-    const CleanupItem& row(const QList<CleanupItem>& rows, const QString& relative) const
-    {
-        for (const CleanupItem& item : rows) {
-            if (item.id == tree.path(archives + relative))
-                return item;
-        }
-        static const CleanupItem none;
-        ADD_FAILURE() << "no row " << qPrintable(relative);
-        return none;
-    }
+    const CleanupItem& row(const QList<CleanupItem>& rows, const QString& relative) const { return rowWithId(rows, tree.path(archives + relative)); }
 
     TempTree tree;
 };
