@@ -96,8 +96,9 @@ TEST_F(DuplicateFinderTest, HardLinksToOneFileAreNoDuplicates)
 }
 
 // The first pass reads 64 KiB: files of exactly that size are compared whole by it, and a
-// last byte beyond it is found only by reading the files whole.
-TEST_F(DuplicateFinderTest, TheFirstPassBoundaryIsExactly64KiB)
+// last byte beyond it is found only by reading the files whole. Up to two heads' length the
+// rest of a file is no longer than its tail: no tail pass.
+TEST_F(DuplicateFinderTest, ReadPassesTurnAtOneAndTwoHeadLengths)
 {
     const QByteArray content = randomContent(head);
     tree.file("a", content);
@@ -116,6 +117,14 @@ TEST_F(DuplicateFinderTest, TheFirstPassBoundaryIsExactly64KiB)
     const auto differ = find({"c", "d"});
     EXPECT_TRUE(differ.items.isEmpty());
     EXPECT_EQ(differ.stats.filesReadWhole, 2);
+
+    const QByteArray twoHeads = randomContent(2 * head);
+    tree.file("e", twoHeads);
+    tree.file("f", twoHeads);
+    const auto shortPair = find({"e", "f"});
+    EXPECT_EQ(shortPair.items.size(), 2);
+    EXPECT_EQ(shortPair.stats.filesReadTail, 0);
+    EXPECT_EQ(shortPair.stats.bytesRead, 2 * 2 * head);
 }
 
 // Same size everywhere: "same" is a true copy of "original", "middle" shares their first and
@@ -141,18 +150,6 @@ TEST_F(DuplicateFinderTest, OnlyFilesSharingHeadAndTailAreReadWhole)
     EXPECT_EQ(outcome.stats.filesReadTail, 4);
     EXPECT_EQ(outcome.stats.filesReadWhole, 3) << "the tail pass spares \"tail\", never \"middle\"";
     EXPECT_EQ(outcome.stats.bytesRead, 5 * head + 4 * head + 3 * (size - head));
-}
-
-// Up to two heads' length the rest of a file is no longer than its tail: no tail pass.
-TEST_F(DuplicateFinderTest, ShortFilesSkipTheTailPass)
-{
-    const QByteArray content = randomContent(2 * head);
-    tree.file("a", content);
-    tree.file("b", content);
-    const auto outcome = find({"a", "b"});
-    EXPECT_EQ(outcome.items.size(), 2);
-    EXPECT_EQ(outcome.stats.filesReadTail, 0);
-    EXPECT_EQ(outcome.stats.bytesRead, 2 * 2 * head);
 }
 
 TEST_F(DuplicateFinderTest, ThreeCopiesMakeOneGroupOldestFirst)
