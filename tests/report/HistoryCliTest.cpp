@@ -116,10 +116,8 @@ TEST(HistoryCli, AFullDiskPrintsTheScanAndSaysTheHistoryWasNotSaved)
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("DUSTLARK_TEST_CLI"), QStringLiteral(DUSTLARK_CLI));
     const auto run = runInPrivateMount(script, tree.root(), environment);
-    if (!run)
-        GTEST_SKIP() << "mounting a tmpfs in a private namespace needs root and unshare(1)";
-    if (!run->mounted)
-        GTEST_SKIP() << "this system does not allow a private tmpfs mount: " << qPrintable(run->error);
+    if (const QString why = whyNotMounted(run); !why.isEmpty())
+        GTEST_SKIP() << qPrintable(why);
     const QString report = run->report();
     EXPECT_TRUE(report.startsWith(QStringLiteral("exit=0 json={"))) << qPrintable(report) << qPrintable(run->output);
     EXPECT_TRUE(report.contains(QStringLiteral("The scan history couldn't be saved."))) << qPrintable(report);

@@ -1,4 +1,5 @@
 // `dustlark-cli storage` over a fixture home, held to du.
+#include "storage/StorageFixture.h"
 #include "support/TempTree.h"
 
 #include <QDir>
@@ -21,17 +22,6 @@ QByteArray runCli(const QStringList& arguments, int* exitCode)
     process.waitForFinished(120'000);
     *exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
     return process.readAllStandardOutput();
-}
-
-qint64 du(const QStringList& paths)
-{
-    QProcess process;
-    process.start(QStringLiteral("du"), QStringList{QStringLiteral("-s"), QStringLiteral("-B1")} + paths);
-    process.waitForFinished(60'000);
-    qint64 sum = 0;
-    for (const QByteArray& line : process.readAllStandardOutput().split('\n'))
-        sum += line.split('\t').first().toLongLong();
-    return sum;
 }
 
 // Many small files quickly: one open and write each, no Qt file object.
@@ -92,22 +82,22 @@ TEST(StorageCli, TheJsonReportAddsUpAndListsTheSmallFilesFolderOnce)
     }
     const QStringList homeRoots = {home + "/Documents", home + "/Library/Caches", home + "/Movies", home + "/Music",
                                    home + "/code", home + "/notes.txt"};
-    const qint64 applications = QFileInfo::exists(QStringLiteral("/Applications")) ? du({QStringLiteral("/Applications")}) : 0;
-    EXPECT_EQ(sum, du(homeRoots) + applications);
+    const qint64 applications = QFileInfo::exists(QStringLiteral("/Applications")) ? StorageFixture::du({QStringLiteral("/Applications")}) : 0;
+    EXPECT_EQ(sum, StorageFixture::du(homeRoots) + applications);
     EXPECT_EQ(report[QStringLiteral("measured")].toInteger(), sum);
 
     const QJsonArray large = report[QStringLiteral("largeFolders")].toArray();
     ASSERT_EQ(large.size(), 1) << "node_modules only holds the listed folder's bytes once";
     EXPECT_EQ(large[0][QStringLiteral("path")].toString(), home + "/code/app/node_modules/big");
     EXPECT_EQ(large[0][QStringLiteral("fileCount")].toInteger(), 1'000);
-    EXPECT_EQ(large[0][QStringLiteral("smallBytes")].toInteger(), 1'000 * du({home + "/code/app/node_modules/big/m0.js"}));
+    EXPECT_EQ(large[0][QStringLiteral("smallBytes")].toInteger(), 1'000 * StorageFixture::du({home + "/code/app/node_modules/big/m0.js"}));
     EXPECT_EQ(large[0][QStringLiteral("kind")].toString(), "developer");
 
     const QJsonObject top = report[QStringLiteral("tree")].toObject();
     EXPECT_EQ(top[QStringLiteral("name")].toString(), "home");
     EXPECT_EQ(firstUnbalanced(top, QStringLiteral("~")), QString());
-    EXPECT_EQ(top[QStringLiteral("bytes")].toInteger(), du(homeRoots));
-    EXPECT_EQ(top[QStringLiteral("ownBytes")].toInteger(), du({home + "/notes.txt"}));
+    EXPECT_EQ(top[QStringLiteral("bytes")].toInteger(), StorageFixture::du(homeRoots));
+    EXPECT_EQ(top[QStringLiteral("ownBytes")].toInteger(), StorageFixture::du({home + "/notes.txt"}));
     EXPECT_EQ(top[QStringLiteral("fileCount")].toInteger(), 1'000 + 20 + 1 + 1 + 1 + 1) << "the hard link once";
     const QJsonArray children = top[QStringLiteral("children")].toArray();
     ASSERT_FALSE(children.isEmpty());

@@ -1,6 +1,7 @@
 #include "format/RelativeDate.h"
 #include "platform/Platform.h"
 #include "scan/DuplicateFinder.h"
+#include "support/ScanRows.h"
 #include "support/TempTree.h"
 
 #include <QCryptographicHash>
@@ -74,14 +75,6 @@ protected:
         return DuplicateFinder::find(candidates(relativePaths), context);
     }
 
-    static QStringList titles(const QList<CleanupItem>& items)
-    {
-        QStringList result;
-        for (const CleanupItem& item : items)
-            result.append(item.title);
-        return result;
-    }
-
     TempTree tree;
     ScanContext context;
 };
@@ -145,7 +138,7 @@ TEST_F(DuplicateFinderTest, OnlyFilesSharingHeadAndTailAreReadWhole)
     tree.file("other", randomContent(size));
 
     const auto outcome = find({"original", "middle", "tail", "other", "same"});
-    EXPECT_EQ(titles(outcome.items), QStringList({"~/original", "~/same"}));
+    EXPECT_EQ(titlesOf(outcome.items), QStringList({"~/original", "~/same"}));
     EXPECT_EQ(outcome.stats.filesRead, 5);
     EXPECT_EQ(outcome.stats.filesReadTail, 4);
     EXPECT_EQ(outcome.stats.filesReadWhole, 3) << "the tail pass spares \"tail\", never \"middle\"";
@@ -165,7 +158,7 @@ TEST_F(DuplicateFinderTest, ThreeCopiesMakeOneGroupOldestFirst)
     const QStringList files = {"third.bin", "Documents/first.bin", "Desktop/second.bin"};
     const auto outcome = find(files);
 
-    ASSERT_EQ(titles(outcome.items),
+    ASSERT_EQ(titlesOf(outcome.items),
               QStringList({"~/Documents/first.bin", "~/Desktop/second.bin", "~/third.bin"}));
     for (int i = 0; i < 3; ++i) {
         EXPECT_EQ(outcome.items[i].duplicateGroup, sha256(content));
@@ -191,7 +184,7 @@ TEST_F(DuplicateFinderTest, CreationTimeOutranksModificationTime)
     tree.setTimes("original", 1'700'000'000);  // edited after the copy was made
     tree.setTimes("copy", 1'600'000'000);
     const auto items = find({"copy", "original"}).items;
-    ASSERT_EQ(titles(items), QStringList({"~/original", "~/copy"}));
+    ASSERT_EQ(titlesOf(items), QStringList({"~/original", "~/copy"}));
     EXPECT_EQ(RelativeDate::expand(items[0].detail), "created just now");
 }
 
@@ -205,7 +198,7 @@ TEST_F(DuplicateFinderTest, ACopyThatIsGoneOrReplacedDropsOutAndALoneSurvivorIsN
     QFile::remove(tree.path("d"));
     tree.file("d", content);  // same content, but not the file the walk saw
 
-    EXPECT_EQ(titles(DuplicateFinder::items(files, context)), QStringList({"~/a", "~/b"}));
+    EXPECT_EQ(titlesOf(DuplicateFinder::items(files, context)), QStringList({"~/a", "~/b"}));
     QFile::remove(tree.path("b"));
     EXPECT_TRUE(DuplicateFinder::items(files, context).isEmpty());
 }
@@ -218,7 +211,7 @@ TEST_F(DuplicateFinderTest, AnUnreadableCopyDropsOut)
     for (const char* name : {"a", "b", "c"})
         tree.file(name, content);
     QFile::setPermissions(tree.path("b"), QFileDevice::WriteOwner);
-    EXPECT_EQ(titles(find({"a", "b", "c"}).items), QStringList({"~/a", "~/c"}));
+    EXPECT_EQ(titlesOf(find({"a", "b", "c"}).items), QStringList({"~/a", "~/c"}));
 }
 
 TEST_F(DuplicateFinderTest, ACancelledScanReadsNothing)
@@ -240,7 +233,7 @@ TEST_F(DuplicateFinderTest, GroupsComeLargestFirstAndPathsOutsideHomeStayWhole)
     tree.file("large-2", 4'000'000, 'l');
     context.home = tree.path("elsewhere");
     const auto items = find({"small-1", "large-1", "small-2", "large-2"}).items;
-    EXPECT_EQ(titles(items), QStringList({tree.path("large-1"), tree.path("large-2"),
+    EXPECT_EQ(titlesOf(items), QStringList({tree.path("large-1"), tree.path("large-2"),
                                           tree.path("small-1"), tree.path("small-2")}));
 }
 
@@ -255,7 +248,7 @@ TEST_F(DuplicateFinderTest, ClonesCountOnceLikeHardLinks)
     tree.setTimes("copy", 1'650'000'000);
     tree.setTimes("clone", 1'700'000'000);
     const auto outcome = find({"clone", "copy", "original"});
-    QStringList kept = titles(outcome.items);
+    QStringList kept = titlesOf(outcome.items);
     kept.sort();
     EXPECT_EQ(kept, QStringList({"~/copy", "~/original"})) << "the clone is the younger of the pair";
     EXPECT_EQ(outcome.stats.sharedStorage, 1);
@@ -291,7 +284,7 @@ TEST_F(DuplicateFinderTest, HolesFreeNothingAndAreNeverRead)
     ASSERT_EQ(gappy.write(content.right(head)), head);
     gappy.close();
     const auto pair = find({"dense", "gappy"});
-    EXPECT_EQ(titles(pair.items).size(), 2);
+    EXPECT_EQ(titlesOf(pair.items).size(), 2);
     EXPECT_EQ(pair.items.value(0).duplicateGroup, sha256(content));
     EXPECT_LT(pair.stats.bytesRead, 2 * size) << "the gappy file's holes were read";
 }

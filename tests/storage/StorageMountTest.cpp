@@ -51,10 +51,8 @@ TEST(StorageMounts, AreNotCounted)
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(homeVariable, fixture.home);
     const auto run = runInPrivateMount(script, fixture.home, environment);
-    if (!run)
-        GTEST_SKIP() << "mounting a tmpfs in a private namespace needs root and unshare(1)";
-    if (!run->mounted)
-        GTEST_SKIP() << "this system does not allow a private tmpfs mount: " << qPrintable(run->error);
+    if (const QString why = whyNotMounted(run); !why.isEmpty())
+        GTEST_SKIP() << qPrintable(why);
     // "disk" is no root at all; "Volumes" is one, measured by its own blocks, as du -s does.
     EXPECT_EQ(run->report().toStdString(), "roots=2 measured-du=0") << qPrintable(run->output);
 }

@@ -129,9 +129,7 @@ TEST(UpdaterDownload, AFullDiskGivesItsCauseNotCanceled)
         "mount -t tmpfs -o size=256k dustlark-test \"$1\" || exit 77; echo MOUNTED; "
         "exec \"$2\" --gtest_also_run_disabled_tests --gtest_filter=UpdaterFullDisk.*");
     const auto run = runInPrivateMount(script, folder, environment);
-    if (!run)
-        GTEST_SKIP() << "a small disk in a private mount namespace needs root and unshare(1)";
-    if (!run->mounted)
-        GTEST_SKIP() << "this system refuses a private tmpfs mount: " << qPrintable(run->error);
+    if (const QString why = whyNotMounted(run); !why.isEmpty())
+        GTEST_SKIP() << qPrintable(why);
     EXPECT_EQ(run->report(), QStringLiteral("No space left on device")) << qPrintable(run->output);
 }
