@@ -1,8 +1,12 @@
 // A scan only reads: a full scan of every scanner, by the report tool, leaves a fixture home and
-// an empty home exactly as they were. The tool runs as the person's session would: HOME is the
+// an empty home exactly as they were. The same scan of the fixture home ends every registered
+// category done and lists a developer's rows (one walk gives builds, worktrees, large files and
+// copies) in their own categories. The tool runs as the person's session would: HOME is the
 // scanned home and no XDG variable moves the tools' own folders elsewhere, so a tool that writes
 // its folders into the home (flatpak made ~/.local/share/flatpak and ~/.cache) is caught.
 #include "scan/ProjectScannerGit.h"
+#include "scan/ScannerCatalog.h"
+#include "support/CliScan.h"
 #include "support/TempTree.h"
 #include "support/TreeSnapshot.h"
 
@@ -15,7 +19,7 @@
 namespace {
 
 // Runs a full scan of `home` as the person's session would run it.
-void scanAsTheSession(const QString& home)
+CliScan scanAsTheSession(const QString& home)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("HOME"), home);
@@ -25,8 +29,33 @@ void scanAsTheSession(const QString& home)
     cli.setProcessEnvironment(environment);
     cli.setWorkingDirectory(home);
     cli.start(QStringLiteral(DUSTLARK_CLI), {"scan", "--home", home, "--json"});
-    ASSERT_TRUE(cli.waitForFinished(120'000));
-    ASSERT_EQ(cli.exitCode(), 0) << cli.readAllStandardError().constData();
+    const CliScan scan = CliScan::of(ProgramRun::finish(cli));
+    EXPECT_EQ(scan.program.exitCode, 0) << scan.program.standardError.constData();
+    return scan;
+}
+
+// The developer's rows of the fixture home, each in its category.
+void expectDeveloperRows(const CliScan& scan, const TempTree& tree)
+{
+    const QJsonArray projects = scan.items("projects");
+    ASSERT_EQ(projects.size(), 1);
+    EXPECT_EQ(projects[0]["title"].toString(), "web");
+    EXPECT_EQ(projects[0]["safety"].toString(), "safe");
+    EXPECT_EQ(projects[0]["paths"].toArray(), QJsonArray{tree.path("home/code/web/node_modules")});
+    const QJsonArray worktrees = scan.items("worktrees");
+    ASSERT_EQ(worktrees.size(), 1);
+    EXPECT_EQ(worktrees[0]["id"].toString(), tree.path("home/code/app-feature"));
+    EXPECT_EQ(worktrees[0]["lockedReason"].toString(), "Changed in the last day; a session may be running.");
+    const QJsonArray large = scan.items("largeFiles");
+    ASSERT_EQ(large.size(), 1);
+    EXPECT_EQ(large[0]["title"].toString(), "~/media/movie.mov");
+    const QJsonArray copies = scan.items("duplicates");
+    ASSERT_EQ(copies.size(), 2);
+    EXPECT_EQ(copies[0]["duplicateGroup"], copies[1]["duplicateGroup"]);
+    EXPECT_NE(copies[0]["isOldestCopy"].toBool(), copies[1]["isOldestCopy"].toBool());
+    QStringList copyPaths{copies[0]["id"].toString(), copies[1]["id"].toString()};
+    copyPaths.sort();
+    EXPECT_EQ(copyPaths, QStringList({tree.path("home/backup/report.pdf"), tree.path("home/docs/report.pdf")}));
 }
 
 // What each scanner reads: builds, a git repository with a worktree, copies, large files,
@@ -58,15 +87,21 @@ void buildFixtureHome(const TempTree& tree)
 
 }  // namespace
 
-TEST(ReadOnlyScan, AFullScanLeavesAFixtureHomeAndAnEmptyHomeAsTheyWere)
+TEST(ReadOnlyScan, AFullScanEndsEveryCategoryAndLeavesAFixtureHomeAndAnEmptyHomeAsTheyWere)
 {
     TempTree tree;
     buildFixtureHome(tree);
     const QString empty = tree.dir("empty");
     for (const QString& home : {tree.path("home"), empty}) {
         const QMap<QString, QString> before = treeSnapshot(home);
-        scanAsTheSession(home);
+        const CliScan scan = scanAsTheSession(home);
         const QMap<QString, QString> after = treeSnapshot(home);
+        for (const auto& scanner : ScannerCatalog::all()) {
+            for (CategoryID filled : scanner->categories())
+                EXPECT_EQ(scan.category(Categories::rawValue(filled))["state"].toString(), "done") << qPrintable(Categories::rawValue(filled));
+        }
+        if (home != empty)
+            expectDeveloperRows(scan, tree);
         for (auto it = after.cbegin(); it != after.cend(); ++it)
             EXPECT_EQ(before.value(it.key(), "(new)").toStdString(), it.value().toStdString()) << qPrintable(home + it.key());
         for (auto it = before.cbegin(); it != before.cend(); ++it)
