@@ -3,6 +3,7 @@
 #include "platform/Platform.h"
 #include "scan/AgentsScanner.h"
 #include "support/AgentsFixture.h"
+#include "support/ScanRows.h"
 #include "vocabulary/RemovalReasons.h"
 
 #include <QDir>
@@ -17,13 +18,7 @@ class AgentsScannerTest : public ::testing::Test, public AgentsFixture {
 protected:
     QList<CleanupItem> items() const { return AgentsScanner(environment()).scan(scanContext()).at(CategoryID::aiAgents).items; }
 
-    QStringList titles() const
-    {
-        QStringList result;
-        for (const CleanupItem& item : items())
-            result.append(item.title);
-        return result;
-    }
+    QStringList titles() const { return titlesOf(items()); }
 
     std::optional<CleanupItem> itemTitled(const QString& title) const
     {
