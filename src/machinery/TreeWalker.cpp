@@ -379,9 +379,12 @@ bool isRecorded(const struct stat& found, const struct stat& recorded)
 // the chain of closed ancestors above it must still lead by ".." to the nearest open one (or,
 // with none open, to the walk's first level found by name from the base), each stop where it
 // was recorded: an ancestor moved out of the tree or swapped while closed fails here, and the
-// reopening by name then gives it up. On the way up it opens the ancestors that the folder
-// keeps (see keepUnderLimit), so that the next climbs check short chains. Whatever does not
-// match leaves nothing open.
+// reopening by name then gives it up. The check is by identity, not by name: a closed folder
+// renamed in its own folder, or moved to another at the same depth below the same open
+// ancestor, stays in the tree and is walked where it is, under its old path (as an open one
+// moved anywhere is). On the way up it opens the ancestors that the folder keeps (see
+// keepUnderLimit), so that the next climbs check short chains. Whatever does not match leaves
+// nothing open.
 void TreeWalker::climbFrom(int child)
 {
     const size_t current = m_levels.size() - 1;
