@@ -9,6 +9,7 @@
 #include <bit>
 #include <cerrno>
 #include <fcntl.h>
+#include <optional>
 #include <unistd.h>
 
 namespace {
@@ -267,11 +268,13 @@ void TreeWalker::listLevel(Level& level, const TreeEntry& entry, TreeVisitor& vi
 void TreeWalker::leave(TreeVisitor& visitor)
 {
     const std::unique_ptr<Level> level = std::move(m_levels.back());
-    if (level->isOpen()) {
-        ::close(level->descriptor);
-        m_openLevels.pop_back();  // the deepest open level is the current one
-    }
     m_levels.pop_back();
+    if (level->isOpen()) {
+        if (!m_levels.empty() && !m_levels.back()->isOpen())
+            climbFrom(level->descriptor);
+        ::close(level->descriptor);
+        m_openLevels.pop_back();  // the deepest open level is the one left
+    }
     m_path.resize(folderPathLength());
     if (!m_levels.empty())
         ensureOpen(m_levels.size() - 1);  // so that leaveFolder can act relative to it (a removal)
@@ -310,10 +313,10 @@ namespace {
 // positions counted from 1 and written in base 4, they are the positions that agree with the
 // current one above some digit, are zero below it, and do not exceed it in that digit: at
 // most three per digit, about 20 at a depth of 10,000. Climbing back to a closed one, its
-// nearest open ancestor lies at most the place value of its lowest nonzero digit below, so a
-// chain of n folders costs O(n log n) opens (under five per folder at 10,000 deep). Closing
-// the shallowest instead made every climb of `descriptorLimit` levels reopen the whole chain
-// from its top: quadratic in depth.
+// nearest open ancestor lies at most the place value of its lowest nonzero digit below, so the
+// chains that climbs check (and that reopenings by name walk) add up to O(n log n) levels for
+// a chain of n folders. Closing the shallowest instead made every climb of `descriptorLimit`
+// levels reopen the whole chain from its top: quadratic in depth.
 bool staysOpenFor(size_t index, size_t current)
 {
     const size_t position = index + 1;
@@ -325,15 +328,17 @@ bool staysOpenFor(size_t index, size_t current)
 
 }  // namespace
 
-// Closes open ancestors until the limit holds, never the current folder nor `pinned` (the one
-// just opened): first those the current folder does not keep, shallowest first.
-void TreeWalker::keepUnderLimit(size_t pinned)
+// Closes open ancestors until at most `most` (the limit unless given) are open, never the
+// current folder, `pinned` (the one just opened or climbed from) nor the child being left:
+// first those the current folder does not keep, shallowest first.
+void TreeWalker::keepUnderLimit(size_t pinned, int most)
 {
     const size_t current = m_levels.size() - 1;
-    while (m_openLevels.size() > static_cast<size_t>(m_options.descriptorLimit)) {
+    const size_t allowed = static_cast<size_t>(most < 0 ? m_options.descriptorLimit : most);
+    while (m_openLevels.size() > allowed) {
         auto victim = m_openLevels.end();
         for (auto open = m_openLevels.begin(); open != m_openLevels.end(); ++open) {
-            if (*open == current || *open == pinned)
+            if (*open >= current || *open == pinned)
                 continue;
             if (!staysOpenFor(*open, current)) {
                 victim = open;
@@ -344,12 +349,145 @@ void TreeWalker::keepUnderLimit(size_t pinned)
         }
         if (victim == m_openLevels.end())
             return;
-        Level& level = *m_levels[*victim];
-        ::close(level.descriptor);
-        level.descriptor = -1;
-        m_openLevels.erase(victim);
+        closeLevel(*victim);
     }
 }
+
+namespace {
+
+// The most levels one relative path climbs: ".." repeated stays far below PATH_MAX (1024 on
+// macOS).
+constexpr size_t longestClimb = 256;
+
+std::string climbPath(size_t levels)
+{
+    std::string path("..");
+    for (size_t each = 1; each < levels; ++each)
+        path.append("/..");
+    return path;
+}
+
+bool isRecorded(const struct stat& found, const struct stat& recorded)
+{
+    return found.st_dev == recorded.st_dev && found.st_ino == recorded.st_ino;
+}
+
+}  // namespace
+
+// Reopens the current folder, closed for the limit, from its open child through "..", as du
+// climbs, instead of name by name from above. The child's parent must still be the folder, and
+// the chain of closed ancestors above it must still lead by ".." to the nearest open one (or,
+// with none open, to the walk's first level found by name from the base), each stop where it
+// was recorded: an ancestor moved out of the tree or swapped while closed fails here, and the
+// reopening by name then gives it up. The check is by identity, not by name: a closed folder
+// renamed in its own folder, or moved to another at the same depth below the same open
+// ancestor, stays in the tree and is walked where it is, under its old path (as an open one
+// moved anywhere is). On the way up it opens the ancestors that the folder keeps (see
+// keepUnderLimit), so that the next climbs check short chains. Whatever does not match leaves
+// nothing open.
+void TreeWalker::climbFrom(int child)
+{
+    const size_t current = m_levels.size() - 1;
+    std::vector<size_t> opened;
+    int from = child;
+    size_t fromIndex = current + 1;
+    for (;;) {
+        const auto above = std::lower_bound(m_openLevels.begin(), m_openLevels.end(), fromIndex);
+        const bool anchored = above != m_openLevels.begin();
+        const size_t anchor = anchored ? *std::prev(above) : 0;
+        const size_t span = anchored ? fromIndex - anchor : fromIndex;  // levels up to the check
+        const bool room = m_openLevels.size() < static_cast<size_t>(m_options.descriptorLimit);
+        const std::optional<size_t> stop = fromIndex > current ? current : nextStop(fromIndex, span, room);
+        if (!stop) {
+            if (!(anchored ? leadsTo(from, span, *m_levels[anchor]) : isWalkBase(from, span)))
+                closeLevels(opened);
+            return;
+        }
+        if (!openByClimbing(from, fromIndex, *stop, room)) {
+            closeLevels(opened);
+            return;
+        }
+        opened.push_back(*stop);
+        from = m_levels[*stop]->descriptor;
+        fromIndex = *stop;
+    }
+}
+
+// Opens the closed level `index` by climbing from the open `from` at `fromIndex`, checked
+// against its record, closing another first unless there is `room` under the limit.
+bool TreeWalker::openByClimbing(int from, size_t fromIndex, size_t index, bool room)
+{
+    if (!room)
+        keepUnderLimit(fromIndex, m_options.descriptorLimit - 1);
+    if (m_openLevels.size() >= static_cast<size_t>(m_options.descriptorLimit))
+        return false;
+    const int descriptor = ::openat(from, climbPath(fromIndex - index).c_str(), folderFlags);
+    if (descriptor < 0)
+        return false;
+    struct stat found {};
+    if (::fstat(descriptor, &found) != 0 || !isRecorded(found, m_levels[index]->status)) {
+        ::close(descriptor);
+        return false;
+    }
+    m_levels[index]->descriptor = descriptor;
+    noteOpen(index);
+    return true;
+}
+
+// Where a climb from the level `from`, `span` levels below the check that ends it, opens next:
+// while there is `room` under the limit, the deepest ancestor on the way that the current
+// folder keeps open; else the farthest one climb reaches when the check lies beyond it; none
+// when the check is in one climb's reach.
+std::optional<size_t> TreeWalker::nextStop(size_t from, size_t span, bool room) const
+{
+    if (span == 0)
+        return std::nullopt;
+    if (!room)
+        return span > longestClimb ? std::optional<size_t>(from - longestClimb) : std::nullopt;
+    const size_t current = m_levels.size() - 1;
+    const size_t lowest = from - std::min(span - 1, longestClimb);
+    for (size_t index = from; index-- > lowest;) {
+        if (staysOpenFor(index, current))
+            return index;
+    }
+    return span > longestClimb ? std::optional<size_t>(from - longestClimb) : std::nullopt;
+}
+
+// Whether climbing `levels` from `descriptor` by ".." arrives at `expected`.
+bool TreeWalker::leadsTo(int descriptor, size_t levels, const Level& expected) const
+{
+    struct stat found {};
+    return ::fstatat(descriptor, climbPath(levels).c_str(), &found, AT_SYMLINK_NOFOLLOW) == 0
+        && isRecorded(found, expected.status);
+}
+
+// Whether `descriptor`, `levels` below the walk's first level, hangs below that level, still
+// found by its name from the walk's base.
+bool TreeWalker::isWalkBase(int descriptor, size_t levels) const
+{
+    struct stat found {};
+    if (levels > 0 && !leadsTo(descriptor, levels, *m_levels.front()))
+        return false;
+    return ::fstatat(m_baseDescriptor, m_baseName.c_str(), &found, AT_SYMLINK_NOFOLLOW) == 0
+        && isRecorded(found, m_levels.front()->status);
+}
+
+void TreeWalker::closeLevels(const std::vector<size_t>& indices)
+{
+    for (const size_t index : indices)
+        closeLevel(index);
+}
+
+void TreeWalker::closeLevel(size_t index)
+{
+    Level& level = *m_levels[index];
+    if (!level.isOpen())
+        return;
+    ::close(level.descriptor);
+    level.descriptor = -1;
+    m_openLevels.erase(std::lower_bound(m_openLevels.begin(), m_openLevels.end(), index));
+}
+
 
 // The path of the current folder's entry `name`, left in the path buffer after the folder's own.
 std::string_view TreeWalker::entryPath(std::string_view name) const

@@ -10,6 +10,7 @@
 #include <fcntl.h>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <sys/stat.h>
@@ -117,8 +118,11 @@ public:
 //   device and inode the status showed;
 // - stays on the root's volume: entries of another device (mount points) are not reported;
 // - keeps at most `descriptorLimit` folders open: past that depth some ancestors are closed and
-//   reopened later, name by name from their nearest open ancestor, checked again (which ones
-//   stay open keeps a deep chain's reopening cost near linear; see keepUnderLimit);
+//   reopened on the way back up through ".." from the child just finished, each checked again
+//   and with the closed ancestors above still leading to an open one; when that fails (a folder
+//   moved or swapped meanwhile), name by name from the nearest open ancestor, which gives up a
+//   folder no longer where it was (which ones stay open keeps a deep chain's cost near linear;
+//   see keepUnderLimit);
 // - reports hard-linked non-folders once per walk when `hardLinksOnce` is set (by FileKey);
 // - counts every examined entry and adds them to `progress` in batches of 4096; polls
 //   `cancellation` at the same rhythm and before reading each folder.
@@ -178,7 +182,14 @@ private:
     void leave(TreeVisitor& visitor);
     bool ensureOpen(size_t index);
     void noteOpen(size_t index);
-    void keepUnderLimit(size_t pinned);
+    void keepUnderLimit(size_t pinned, int most = -1);
+    void climbFrom(int child);
+    std::optional<size_t> nextStop(size_t from, size_t span, bool room) const;
+    bool leadsTo(int descriptor, size_t levels, const Level& expected) const;
+    bool isWalkBase(int descriptor, size_t levels) const;
+    bool openByClimbing(int from, size_t fromIndex, size_t index, bool room);
+    void closeLevels(const std::vector<size_t>& indices);
+    void closeLevel(size_t index);
     size_t folderPathLength() const;
     std::string_view entryPath(std::string_view name) const;
     bool isRepeatedLink(const struct stat& status);

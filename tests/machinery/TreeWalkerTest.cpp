@@ -1,3 +1,4 @@
+#include "machinery/FileKey.h"
 #include "machinery/FileSizer.h"
 #include "machinery/ScanProgress.h"
 #include "machinery/SplitWalk.h"
@@ -31,10 +32,15 @@ qsizetype countOf(const QByteArrayList& lines, const QByteArray& word)
 
 // Linux lists a process's descriptors under /proc, macOS (which has no /proc) under /dev/fd.
 // Every kind of entry counts: a descriptor of a folder reads as a link to a folder.
-int openDescriptors()
+QStringList descriptorNames()
 {
     const QString folder = QDir(QStringLiteral("/proc/self/fd")).exists() ? QStringLiteral("/proc/self/fd") : QStringLiteral("/dev/fd");
-    return static_cast<int>(QDir(folder).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size());
+    return QDir(folder).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
+}
+
+int openDescriptors()
+{
+    return static_cast<int>(descriptorNames().size());
 }
 
 using Recorder = WalkRecorder;
@@ -220,6 +226,121 @@ TEST(TreeWalker, AncestorMovedWhileClosedIsGivenUpAndTheWalkGoesOn)
         EXPECT_FALSE(recorder.lines.contains("item " + sibling)) << "never reported from the moved folder";
     EXPECT_EQ(countOf(recorder.lines, "enter "), countOf(recorder.lines, "leave ")) << all.constData();
     EXPECT_EQ(recorder.lines.last(), "leave .");
+}
+
+namespace {
+
+// Which folders of `levels` (by device and inode) this process holds open at this moment.
+std::vector<bool> heldOpen(const std::vector<FileKey>& levels)
+{
+    std::vector<bool> open(levels.size(), false);
+    for (const QString& name : descriptorNames()) {
+        struct stat status {};
+        if (::fstat(name.toInt(), &status) != 0)
+            continue;
+        const auto found = std::find(levels.begin(), levels.end(), FileKey::of(status));
+        if (found != levels.end())
+            open[size_t(found - levels.begin())] = true;
+    }
+    return open;
+}
+
+}  // namespace
+
+// Deep in a chain, where the walk keeps some ancestors open and others closed for the limit,
+// the shallowest of a run of closed ancestors is moved out of the tree (or moved, with a link
+// to it left in its place). Climbing back, the folders below it still lead up to it by "..":
+// the walk must see that they left the tree, give up what they had not given yet instead of
+// walking it in its new place or through the link, and go on from the open ancestor above.
+// Or the open folder below the run is moved into a new folder beside the run's last one: its
+// ".." is no longer the folder to climb to, though it leads up the same way, and the run, still
+// in place, is finished from above.
+// (Open folders moved along are walked where they went: no walk by descriptors can tell.)
+TEST(TreeWalker, ClimbingPastAnAncestorMovedOrSwappedForALinkNeverWalksItElsewhere)
+{
+    enum class Race { ancestorMoved, ancestorSwappedForALink, openFolderMoved };
+    for (const Race race : {Race::ancestorMoved, Race::ancestorSwappedForALink, Race::openFolderMoved}) {
+        TempTree tree;
+        const int depth = 30;
+        std::vector<QByteArray> folders;  // relative to top: "", "d", "d/d", ...
+        std::vector<FileKey> keys;
+        for (int level = 0; level <= depth; ++level) {
+            folders.push_back(level == 0 ? QByteArray() : QByteArray("d/").repeated(level - 1) + "d");
+            // A file made before the next level and one after, named by level: some come after
+            // it in a listing whatever the order (creation, reverse, hashed).
+            const QString folder = QStringLiteral("top/") + QString::fromLatin1(folders.back());
+            tree.file(folder + QStringLiteral("/early%1").arg(level));
+            if (level < depth)
+                tree.dir(folder + QStringLiteral("/d"));
+            tree.file(folder + QStringLiteral("/late%1").arg(level));
+            struct stat status {};
+            ASSERT_EQ(::lstat(QFile::encodeName(tree.path(folder)).constData(), &status), 0);
+            keys.push_back(FileKey::of(status));
+        }
+        Recorder recorder(bytes(tree.path("top")));
+        int first = -1;  // the closed run of ancestors moved with the first of them
+        int last = -1;
+        QList<QByteArrayList> unread(depth + 1);
+        const int before = openDescriptors();
+        recorder.onEnter = [&](const TreeEntry& entry) {
+            if (first >= 0 || entry.depth() < 6)
+                return TreeVisitor::Verdict::Enter;
+            const std::vector<bool> open = heldOpen(keys);
+            int high = entry.depth() - 2;  // the current folder's parent
+            while (high > 0 && open[size_t(high)])
+                --high;
+            int low = high;
+            while (low > 1 && !open[size_t(low - 1)])
+                --low;
+            if (high - low < 1 || open[size_t(low)] || !open[size_t(low - 1)])
+                return TreeVisitor::Verdict::Enter;  // wants two closed ancestors below an open one
+            QList<QByteArrayList> still(depth + 1);
+            qsizetype inMoved = 0;
+            for (int level = 0; level < entry.depth(); ++level) {
+                for (const char* kind : {"early", "late"}) {
+                    const QByteArray file = (level == 0 ? QByteArray() : folders[size_t(level)] + '/') + kind + QByteArray::number(level);
+                    if (!recorder.lines.contains("item " + file))
+                        still[level].append(file);
+                }
+                inMoved += level >= low && level <= high ? still[level].size() : 0;
+            }
+            if (inMoved == 0)
+                return TreeVisitor::Verdict::Enter;  // the listing order gave those folders' files first
+            first = race == Race::openFolderMoved ? high + 1 : low;
+            last = high;
+            unread = still;
+            const QString moved = QStringLiteral("top/") + QString::fromLatin1(folders[size_t(first)]);
+            const QString elsewhere = race == Race::openFolderMoved
+                ? QStringLiteral("top/") + QString::fromLatin1(folders[size_t(high - 1)]) + QStringLiteral("/other")
+                : QStringLiteral("elsewhere");
+            tree.file(elsewhere + QStringLiteral("/decoy"));
+            EXPECT_TRUE(QDir().rename(tree.path(moved), tree.path(elsewhere + QStringLiteral("/moved"))));
+            if (race == Race::ancestorSwappedForALink)
+                tree.symlink(moved, tree.path(elsewhere + QStringLiteral("/moved")));
+            return TreeVisitor::Verdict::Enter;
+        };
+        TreeWalker::Options options;
+        options.descriptorLimit = 4;
+        const TreeWalker::Result result = TreeWalker(options).walk(bytes(tree.path("top")), recorder);
+
+        const QByteArray all = recorder.lines.join('\n');
+        ASSERT_GE(first, 0) << "no two closed ancestors below an open one had files still to give\n" << all.constData();
+        EXPECT_EQ(result.end, TreeWalker::End::Finished);
+        EXPECT_FALSE(all.contains("decoy")) << int(race);
+        EXPECT_EQ(countOf(recorder.lines, "cannot-examine"), 0) << int(race) << '\n' << all.constData();
+        for (int level = 0; level <= last; ++level) {
+            const bool moved = level >= first;
+            for (const QByteArray& file : unread[level])
+                EXPECT_EQ(recorder.lines.contains("item " + file), !moved) << int(race) << ' ' << file.constData() << '\n' << all.constData();
+            const bool reported = std::any_of(recorder.lines.begin(), recorder.lines.end(), [&](const QByteArray& line) {
+                return line.startsWith("cannot-open(") && line.endsWith(") " + folders[size_t(level)]);
+            });
+            EXPECT_EQ(reported, moved && !unread[level].isEmpty()) << int(race) << " level " << level << '\n' << all.constData();
+        }
+        EXPECT_EQ(countOf(recorder.lines, "enter "), countOf(recorder.lines, "leave ")) << all.constData();
+        EXPECT_EQ(recorder.lines.last(), "leave .");
+        EXPECT_EQ(openDescriptors(), before) << "what a failed climb opened is closed";
+    }
 }
 
 // Also through the split walk, where a subtree waits in the queue between its folder's status
