@@ -14,6 +14,7 @@
 #include <QProcess>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QThread>
 
 #include <gtest/gtest.h>
 #include <csignal>
@@ -81,6 +82,7 @@ protected:
         // Made first, so they are the oldest copies of their groups.
         tree.file(QStringLiteral("home/docs/report.pdf"), 1'500'000, 'r');
         tree.file(QStringLiteral("home/pictures/b/photo.jpg"), 1'200'000, 'p');
+        QThread::msleep(20);  // birth times come from a coarse clock: copies made in its tick would tie
         tree.file(QStringLiteral("home/backup/report.pdf"), 1'500'000, 'r');
         tree.file(QStringLiteral("home/mail/report.pdf"), 1'500'000, 'r');
         tree.file(QStringLiteral("home/pictures/a/photo.jpg"), 1'200'000, 'p');
