@@ -54,14 +54,18 @@ QString emulatorDetail(qint64 latestChange)
 
 ScanOutputs AndroidScanner::scan(const ScanContext& context) const
 {
-    std::optional<QSet<QString>> running;
-    std::thread listing([&] { running = runningAVDs(&context.cancellation); });
     const std::vector<QString> folders = emulatorFolders(context.home);
+    // The process list only frees emulators: without one it is not worth a child process.
+    std::optional<QSet<QString>> running;
+    std::thread listing;
+    if (!folders.empty())
+        listing = std::thread([&] { running = runningAVDs(&context.cancellation); });
     // Every emulator starts locked and is freed only when the process list shows it idle.
     const auto measured = Concurrency::map(folders, measuringLimit, context.cancellation, [&](const QString& avd) {
         return emulatorRow(avd, true, context);
     });
-    listing.join();
+    if (listing.joinable())
+        listing.join();
     ScanOutput output;
     for (std::optional<CleanupItem> row : measured) {
         if (!row)

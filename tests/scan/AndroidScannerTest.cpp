@@ -92,6 +92,17 @@ TEST_F(AndroidScannerTest, AnUnreadableProcessListLocksEveryEmulator)
     allLocked();
 }
 
+TEST_F(AndroidScannerTest, WithoutEmulatorsTheProcessListIsNotRead)
+{
+    ASSERT_FALSE(scan().items.isEmpty());
+    EXPECT_EQ(ps.calls().size(), 1);
+    TempTree bare;
+    bare.file(QStringLiteral(".android/avd/notes.txt"), 10);
+    context.home = bare.root();
+    EXPECT_TRUE(scan().items.isEmpty());
+    EXPECT_EQ(ps.calls().size(), 1) << "no emulator folder, no ps";
+}
+
 TEST(AndroidScannerRealTool, TheSystemsPsReadsCommandLines)
 {
     // One command line for both systems: procps' ps must accept the BSD-style arguments and
