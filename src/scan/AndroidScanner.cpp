@@ -5,6 +5,8 @@
 #include "machinery/FileInfo.h"
 #include "machinery/FileSizer.h"
 #include "machinery/ProcessRunner.h"
+#include "machinery/ToolLocations.h"
+#include "platform/Platform.h"
 #include "scan/KnownLocations.h"
 #include "scan/LocationScanner.h"
 #include "vocabulary/RemovalReasons.h"
@@ -83,8 +85,12 @@ ScanOutputs AndroidScanner::scan(const ScanContext& context) const
 
 std::optional<QSet<QString>> AndroidScanner::runningAVDs(const CancellationToken* cancellation) const
 {
+    if (!m_environment.ps) {
+        if (const std::optional<QStringList> commandLines = Platform::runningCommandLines())
+            return avdNames(commandLines->join(QLatin1Char('\n')));
+    }
     const ProcessRunner::Result result = ProcessRunner::run(
-        m_environment.ps, {QStringLiteral("-axww"), QStringLiteral("-o"), QStringLiteral("command=")}, m_environment.psTimeLimit, {}, cancellation);
+        m_environment.ps.value_or(ToolLocations::standard({}).ps), {QStringLiteral("-axww"), QStringLiteral("-o"), QStringLiteral("command=")}, m_environment.psTimeLimit, {}, cancellation);
     if (!result.launched() || result.output->status != 0 || result.output->timedOut)
         return std::nullopt;
     return avdNames(result.output->standardOutput);
