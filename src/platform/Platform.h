@@ -45,6 +45,11 @@ std::optional<qint64> processStartTime(pid_t pid);
 // The executable path of every process the person can see.
 QStringList runningExecutables();
 
+// The command line of every process the person can see, its arguments joined by spaces as
+// `ps -o command=` prints them (processes without arguments, such as kernel threads, left out).
+// Absent where the system's list is read by running ps instead (macOS).
+std::optional<QStringList> runningCommandLines();
+
 // Makes this process the adopter of its descendants' orphans (a Linux child subreaper), so a
 // tool's grandchild whose parent exited stays findable and can be stopped. False where the
 // system has no such notion (macOS: orphans go to launchd and are found by process group).

@@ -134,6 +134,24 @@ QStringList runningExecutables()
     return paths;
 }
 
+std::optional<QStringList> runningCommandLines()
+{
+    QStringList lines;
+    for (pid_t id : allProcessIds()) {
+        QFile file(QStringLiteral("/proc/%1/cmdline").arg(id));
+        if (!file.open(QIODevice::ReadOnly))
+            continue;  // ended while the list was read
+        QByteArray arguments = file.readAll();
+        while (arguments.endsWith('\0'))
+            arguments.chop(1);
+        if (arguments.isEmpty())
+            continue;
+        arguments.replace('\0', ' ');
+        lines.append(QFile::decodeName(arguments));
+    }
+    return lines;
+}
+
 std::optional<QString> applicationForBundleIdentifier(const QString&)
 {
     return std::nullopt;  // no registry of applications by identifier on Linux desktops

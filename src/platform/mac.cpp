@@ -146,6 +146,11 @@ QStringList runningExecutables()
     return paths;
 }
 
+std::optional<QStringList> runningCommandLines()
+{
+    return std::nullopt;  // read by running ps here (AndroidScanner)
+}
+
 std::optional<QString> applicationForBundleIdentifier(const QString& bundleIdentifier)
 {
     const QByteArray utf8 = bundleIdentifier.toUtf8();

@@ -5,6 +5,8 @@
 #include "machinery/FileInfo.h"
 #include "machinery/FileSizer.h"
 #include "machinery/ProcessRunner.h"
+#include "machinery/ToolLocations.h"
+#include "platform/Platform.h"
 #include "scan/KnownLocations.h"
 #include "scan/LocationScanner.h"
 #include "vocabulary/RemovalReasons.h"
@@ -54,14 +56,18 @@ QString emulatorDetail(qint64 latestChange)
 
 ScanOutputs AndroidScanner::scan(const ScanContext& context) const
 {
-    std::optional<QSet<QString>> running;
-    std::thread listing([&] { running = runningAVDs(&context.cancellation); });
     const std::vector<QString> folders = emulatorFolders(context.home);
+    // The process list only frees emulators: without one it is not worth a child process.
+    std::optional<QSet<QString>> running;
+    std::thread listing;
+    if (!folders.empty())
+        listing = std::thread([&] { running = runningAVDs(&context.cancellation); });
     // Every emulator starts locked and is freed only when the process list shows it idle.
     const auto measured = Concurrency::map(folders, measuringLimit, context.cancellation, [&](const QString& avd) {
         return emulatorRow(avd, true, context);
     });
-    listing.join();
+    if (listing.joinable())
+        listing.join();
     ScanOutput output;
     for (std::optional<CleanupItem> row : measured) {
         if (!row)
@@ -79,8 +85,12 @@ ScanOutputs AndroidScanner::scan(const ScanContext& context) const
 
 std::optional<QSet<QString>> AndroidScanner::runningAVDs(const CancellationToken* cancellation) const
 {
+    if (!m_environment.ps) {
+        if (const std::optional<QStringList> commandLines = Platform::runningCommandLines())
+            return avdNames(commandLines->join(QLatin1Char('\n')));
+    }
     const ProcessRunner::Result result = ProcessRunner::run(
-        m_environment.ps, {QStringLiteral("-axww"), QStringLiteral("-o"), QStringLiteral("command=")}, m_environment.psTimeLimit, {}, cancellation);
+        m_environment.ps.value_or(ToolLocations::standard({}).ps), {QStringLiteral("-axww"), QStringLiteral("-o"), QStringLiteral("command=")}, m_environment.psTimeLimit, {}, cancellation);
     if (!result.launched() || result.output->status != 0 || result.output->timedOut)
         return std::nullopt;
     return avdNames(result.output->standardOutput);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "machinery/ToolLocations.h"
 #include "scan/Scanner.h"
 #include "vocabulary/CleanupItem.h"
 
@@ -18,7 +17,8 @@ class AndroidScanner : public Scanner {
 public:
     // The process lister and its time limit; the defaults are the real ones.
     struct Environment {
-        QString ps = ToolLocations::standard({}).ps;
+        // A ps to run; absent: the system's own list, read in this process where it can be.
+        std::optional<QString> ps;
         std::chrono::milliseconds psTimeLimit{10'000};
     };
 

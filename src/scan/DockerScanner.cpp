@@ -143,11 +143,12 @@ ScanOutput DockerScanner::scanDocker(const ScanContext& context) const
     if (!tool)
         return {{}, {notInstalledNote()}, {}};
     const auto variable = m_environment.hostVariable ? m_environment.hostVariable() : DockerEndpoint::hostVariable();
-    const std::optional<QString> host = DockerEndpoint::localHost(*tool, variable, &context.cancellation);
+    const std::optional<QString> host = DockerEndpoint::localHost(
+        *tool, variable, &context.cancellation, m_environment.configFolder.value_or(DockerEndpoint::configFolder()));
     if (!host)
         return {{}, {remoteNote()}, {}};
     const Docker docker(*this, *tool, *host, context);
-    if (!docker.output(command("info", "{{.ServerVersion}}")))
+    if (!DockerEndpoint::mayAnswer(*host) || !docker.output(command("info", "{{.ServerVersion}}")))
         return {{}, {notRunningNote()}, {}};
     const auto stopped = docker.output(command(
         "ps -a --no-trunc --size --filter status=exited --filter status=created --filter status=dead", "{{json .}}"));

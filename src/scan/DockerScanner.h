@@ -29,6 +29,7 @@ public:
         std::optional<QStringList> candidates;  // where docker may be; absent: the standard places
         std::function<std::optional<QString>()> hostVariable;  // DOCKER_HOST; null: this process's
         std::chrono::milliseconds timeLimit{30'000};           // of every command but the context's
+        std::optional<QString> configFolder;  // the tool's settings; absent: this process's
     };
 
     // One line of `docker ps --format {{json .}}`.

@@ -2,7 +2,7 @@
 
 #include "machinery/TreeWalker.h"
 #include "platform/Platform.h"
-#include "scan/WalkNames.h"
+#include "scan/ShallowNewest.h"
 #include "vocabulary/FileStatus.h"
 
 #include <QDir>
@@ -16,18 +16,9 @@
 
 namespace {
 
-// Files in the project folder and two levels of folders below it count; deeper folders are
-// not entered.
-constexpr int deepestEnteredLevel = 2;
-
-QDateTime fromNanoseconds(qint64 nanoseconds)
-{
-    return QDateTime::fromMSecsSinceEpoch(nanoseconds / 1'000'000, QTimeZone::utc());
-}
-
 QDateTime modificationDate(const struct stat& info)
 {
-    return fromNanoseconds(Platform::modificationNanoseconds(info));
+    return ShallowNewest::dateOf(Platform::modificationNanoseconds(info));
 }
 
 QString nameOf(const QString& path)
@@ -41,15 +32,6 @@ QString parentOf(const QString& path)
     return slash <= 0 ? QStringLiteral("/") : path.left(slash);
 }
 
-bool isEnteredFolder(const TreeEntry& entry)
-{
-    if (entry.depth() == 0)
-        return true;
-    const std::string_view name = entry.name();
-    return entry.depth() <= deepestEnteredLevel && name.front() != '.'
-        && !WalkNames::contains(WalkNames::buildFolders, name);
-}
-
 // The newest file time in the shallow part of a project, giving up after `limit` entries.
 class NewestFile : public TreeVisitor {
 public:
@@ -61,7 +43,7 @@ public:
     {
         if (!counted())
             return Verdict::Stop;
-        return isEnteredFolder(entry) ? Verdict::Enter : Verdict::Skip;
+        return ShallowNewest::enters(entry.name(), entry.depth()) ? Verdict::Enter : Verdict::Skip;
     }
 
     Verdict visitItem(const TreeEntry& entry) override
@@ -91,7 +73,8 @@ std::optional<QDateTime> newer(const std::optional<QDateTime>& a, const std::opt
 
 }  // namespace
 
-ProjectInfo ProjectInfo::of(const QString& path, const QString& home, const CancellationToken* cancellation)
+ProjectInfo ProjectInfo::of(const QString& path, const QString& home, const CancellationToken* cancellation,
+                            const ShallowNewest::Known* known)
 {
     ProjectInfo info;
     info.path = path;
@@ -99,7 +82,11 @@ ProjectInfo ProjectInfo::of(const QString& path, const QString& home, const Canc
     info.title = nameOf(path);
     if (info.root != path)
         info.title = nameOf(info.root) + path.mid(info.root.size());
-    info.lastActivity = lastActivityOf(path, info.root, cancellation);
+    const auto found = known ? known->constFind(path) : ShallowNewest::Known::const_iterator();
+    if (known && found != known->cend())
+        info.lastActivity = newestOf(found->has_value() ? std::optional(ShallowNewest::dateOf(**found)) : std::nullopt, info.root);
+    else
+        info.lastActivity = lastActivityOf(path, info.root, cancellation);
     return info;
 }
 
@@ -116,10 +103,14 @@ QString ProjectInfo::repositoryRoot(const QString& path, const QString& home)
 std::optional<QDateTime> ProjectInfo::lastActivityOf(const QString& path, const QString& root,
                                                    const CancellationToken* cancellation)
 {
-    std::optional<QDateTime> latest = newestChange(path, projectEntryLimit, cancellation);
+    return newestOf(newestChange(path, projectEntryLimit, cancellation), root);
+}
+
+std::optional<QDateTime> ProjectInfo::newestOf(std::optional<QDateTime> newestFile, const QString& root)
+{
     for (const QDateTime& date : gitDates(root))
-        latest = newer(latest, date);
-    return latest;
+        newestFile = newer(newestFile, date);
+    return newestFile;
 }
 
 QList<QDateTime> ProjectInfo::gitDates(const QString& workingCopy)
@@ -165,5 +156,5 @@ std::optional<QDateTime> ProjectInfo::newestChange(const QString& workingCopy, q
     NewestFile visitor(limit);
     TreeWalker(options).walk(QFile::encodeName(workingCopy), visitor);
     const std::optional<qint64>& newest = visitor.newest;
-    return newest ? std::optional(fromNanoseconds(*newest)) : std::nullopt;
+    return newest ? std::optional(ShallowNewest::dateOf(*newest)) : std::nullopt;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "machinery/CancellationToken.h"
+#include "scan/ShallowNewest.h"
 #include "vocabulary/HashCombine.h"
 
 #include <QDateTime>
@@ -23,8 +24,11 @@ struct ProjectInfo {
 
     // The info of the project folder `path`, whose repository root is searched from `path` up
     // to, but not including, `home` (a home folder under git for its dotfiles is no project).
+    // The newest file of its working copy is taken from `known` when that holds the project
+    // (a walk already looked at it), else walked for.
     [[nodiscard]] static ProjectInfo of(const QString& path, const QString& home,
-                                        const CancellationToken* cancellation = nullptr);
+                                        const CancellationToken* cancellation = nullptr,
+                                        const ShallowNewest::Known* known = nullptr);
 
     // The first folder from `path` upwards, below `home` (or "/"), holding a ".git" entry;
     // `path` itself when there is none.
@@ -33,6 +37,9 @@ struct ProjectInfo {
     // The newer of git's own dates for `root` and the newest file in `path`'s working copy.
     [[nodiscard]] static std::optional<QDateTime> lastActivityOf(const QString& path, const QString& root,
                                                                  const CancellationToken* cancellation = nullptr);
+
+    // The newer of `newestFile` and git's own dates for `root`.
+    [[nodiscard]] static std::optional<QDateTime> newestOf(std::optional<QDateTime> newestFile, const QString& root);
 
     // Modification times of git's "HEAD" and "index" for the working copy `workingCopy`; a
     // ".git" file (worktree, submodule) is followed through its "gitdir:" line first. Empty
@@ -43,9 +50,9 @@ struct ProjectInfo {
     // working copy); absent when ".git" is no such file.
     [[nodiscard]] static std::optional<QString> gitFileTarget(const QString& workingCopy);
 
-    // The newest modification time of a regular file in the first three levels of
-    // `workingCopy`, looking at no more than `limit` entries, entering no folder whose name
-    // starts with "." and no build folder, staying on one volume. Absent when no file was found.
+    // The newest modification time of a regular file in the shallow part of `workingCopy`
+    // (ShallowNewest's rule), looking at no more than `limit` entries, staying on one volume.
+    // Absent when no file was found.
     [[nodiscard]] static std::optional<QDateTime> newestChange(const QString& workingCopy, qint64 limit,
                                                                const CancellationToken* cancellation = nullptr);
 

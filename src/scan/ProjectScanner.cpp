@@ -37,15 +37,15 @@ bool liesInAny(const QString& path, const QStringList& folders)
                        [&](const QString& folder) { return PathRules::isAtOrBelow(path, folder); });
 }
 
-QHash<QString, ProjectInfo> projectInfos(const QList<Artifact>& artifacts, const ScanContext& context)
+QHash<QString, ProjectInfo> projectInfos(const Walk& walk, const ScanContext& context)
 {
     std::vector<QString> projects;
-    for (const Artifact& artifact : artifacts) {
+    for (const Artifact& artifact : walk.artifacts()) {
         if (std::find(projects.begin(), projects.end(), artifact.project) == projects.end())
             projects.push_back(artifact.project);
     }
     const auto infos = Concurrency::map(projects, projectsAtOnce, context.cancellation, [&](const QString& project) {
-        return ProjectInfo::of(project, context.home, &context.cancellation);
+        return ProjectInfo::of(project, context.home, &context.cancellation, &walk.projectDates());
     });
     QHash<QString, ProjectInfo> byPath;
     for (const ProjectInfo& info : infos)
@@ -76,7 +76,7 @@ QList<CleanupItem> rows(const QList<Item>& found, const ScanContext& context, Ma
 
 ScanOutput projectRows(const Walk& walk, const std::optional<QString>& git, const ScanContext& context)
 {
-    const QHash<QString, ProjectInfo> infos = projectInfos(walk.artifacts(), context);
+    const QHash<QString, ProjectInfo> infos = projectInfos(walk, context);
     ScanOutput output;
     output.items = rows(walk.artifacts(), context, [&](const Artifact& artifact) {
         const auto info = infos.constFind(artifact.project);

@@ -3,6 +3,7 @@
 #include "machinery/SplitWalk.h"
 #include "platform/Platform.h"
 #include "scan/KnownLocations.h"
+#include "scan/ProjectInfo.h"
 #include "scan/WalkNames.h"
 #include "vocabulary/FileStatus.h"
 #include "vocabulary/PathRules.h"
@@ -108,66 +109,90 @@ WalkSettings::WalkSettings(const ScanContext& context, const QString& root)
 // results.
 class Walk::Pass : public SplittableVisitor {
 public:
-    Pass(const WalkSettings& settings, QStringList repositories);
-
-    Findings& found() { return m_found; }
+    Pass(const WalkSettings& settings, QStringList repositories, ShallowNewest newest);
 
     std::unique_ptr<SplittableVisitor> fork() const override;
     void join(SplittableVisitor& later) override;
     Verdict enterFolder(const TreeEntry& entry) override;
     Verdict visitItem(const TreeEntry& entry) override;
+    void leaveFolder(const TreeEntry& entry) override;
     void problem(const TreeEntry& entry, TreeProblem kind, int error) override;
+
+    // Puts the project dates in with the rest of the findings.
+    Findings& finished();
 
 private:
     Verdict visitDirectory(const TreeEntry& entry);
     void noteRepository(const TreeEntry& entry, std::string_view path);
     bool isSkippedInPlace(std::string_view path, std::string_view name) const;
-    bool skipsBuildFolder(std::string_view path, std::string_view name);
+    bool skipsBuildFolder(const TreeEntry& entry, std::string_view path, std::string_view name);
     void showProgress(std::string_view path) const;
     void visitFile(const TreeEntry& entry);
     bool liesInHiddenFolder(std::string_view path) const;
 
     const WalkSettings& m_settings;
     Findings m_found;
+    ShallowNewest m_newest;
     std::string m_probe;  // reused buffer for the ".git" test
 };
 
-Walk::Pass::Pass(const WalkSettings& settings, QStringList repositories) : m_settings(settings)
+Walk::Pass::Pass(const WalkSettings& settings, QStringList repositories, ShallowNewest newest)
+    : m_settings(settings), m_newest(std::move(newest))
 {
     m_found.repositories = std::move(repositories);
 }
 
 std::unique_ptr<SplittableVisitor> Walk::Pass::fork() const
 {
-    return std::make_unique<Pass>(m_settings, m_found.repositories);
+    return std::make_unique<Pass>(m_settings, m_found.repositories, m_newest.forked());
 }
 
 void Walk::Pass::join(SplittableVisitor& later)
 {
-    m_found.append(std::move(static_cast<Pass&>(later).m_found));
+    auto& piece = static_cast<Pass&>(later);
+    m_newest.append(std::move(piece.m_newest));
+    m_found.append(std::move(piece.m_found));
+}
+
+Walk::Findings& Walk::Pass::finished()
+{
+    m_found.projectDates.insert(m_newest.known());
+    return m_found;
 }
 
 TreeVisitor::Verdict Walk::Pass::enterFolder(const TreeEntry& entry)
 {
-    if (entry.depth() == 0)
-        return Verdict::Enter;
-    if (!entry.nameDecodes()) {
+    Verdict verdict = Verdict::Enter;
+    if (entry.depth() > 0 && !entry.nameDecodes()) {
         ++m_found.undecodable;  // nothing in it could be shown or removed by its path
-        return Verdict::Skip;
+        verdict = Verdict::Skip;
+    } else if (entry.depth() > 0) {
+        verdict = visitDirectory(entry);
     }
-    return visitDirectory(entry);
+    if (verdict == Verdict::Enter)
+        m_newest.entered(entry);
+    else
+        m_newest.passedOver(entry);
+    return verdict;
 }
 
 TreeVisitor::Verdict Walk::Pass::visitItem(const TreeEntry& entry)
 {
+    m_newest.visited(entry);
     if (S_ISREG(entry.status().st_mode))
         visitFile(entry);
     return Verdict::Enter;  // links, sockets and devices are not the walk's business
 }
 
-// Entries whose status cannot be read are passed over, as if they had vanished.
-void Walk::Pass::problem(const TreeEntry&, TreeProblem kind, int)
+void Walk::Pass::leaveFolder(const TreeEntry& entry)
 {
+    m_newest.left(entry);
+}
+
+// Entries whose status cannot be read are passed over, as if they had vanished.
+void Walk::Pass::problem(const TreeEntry& entry, TreeProblem kind, int)
+{
+    m_newest.problem(entry);
     if (kind != TreeProblem::CannotExamine)
         ++m_found.unreadable;
 }
@@ -177,7 +202,7 @@ TreeVisitor::Verdict Walk::Pass::visitDirectory(const TreeEntry& entry)
     const std::string_view path = entry.pathView();
     const std::string_view name = entry.name();
     noteRepository(entry, path);
-    if (isSkippedInPlace(path, name) || skipsBuildFolder(path, name))
+    if (isSkippedInPlace(path, name) || skipsBuildFolder(entry, path, name))
         return Verdict::Skip;
     if (entry.depth() <= 2)
         showProgress(path);
@@ -215,7 +240,7 @@ bool Walk::Pass::isSkippedInPlace(std::string_view path, std::string_view name) 
 
 // A proven build folder is recorded and never entered; an unproven "node_modules" is not
 // worth entering either. Other unproven names are ordinary folders.
-bool Walk::Pass::skipsBuildFolder(std::string_view path, std::string_view name)
+bool Walk::Pass::skipsBuildFolder(const TreeEntry& entry, std::string_view path, std::string_view name)
 {
     if (!WalkNames::contains(WalkNames::buildFolders, name))
         return false;
@@ -225,6 +250,7 @@ bool Walk::Pass::skipsBuildFolder(std::string_view path, std::string_view name)
     if (!Walk::isBuildFolder(folderName, folder, project))
         return name == "node_modules";
     m_found.artifacts.append({folder, folderName, project});
+    m_newest.markProjectHolding(entry);
     return true;
 }
 
@@ -274,12 +300,12 @@ void Walk::run(const QString& root)
 {
     adoptRepositoryAbove(root);
     const WalkSettings settings(m_context, root);
-    Pass pass(settings, m_found.repositories);
+    Pass pass(settings, m_found.repositories, ShallowNewest(ProjectInfo::projectEntryLimit));
     SplitWalk::Options options;
     options.walker.progress = m_context.progress.get();
     options.walker.cancellation = &m_context.cancellation;
     SplitWalk(options).walk(settings.root, pass);
-    m_found.append(std::move(pass.found()));
+    m_found.append(std::move(pass.finished()));
 }
 
 // A scan folder inside a working copy: everything under it counts as inside a repository.
@@ -323,4 +349,5 @@ void Walk::Findings::append(Findings&& later)
     undecodable += later.undecodable;
     repositories = std::move(later.repositories);  // the later piece's position is the walk's
     mainRepositories.append(std::move(later.mainRepositories));
+    projectDates.insert(later.projectDates);
 }

@@ -4,6 +4,7 @@
 #include "scan/Artifact.h"
 #include "scan/DuplicateFinder.h"
 #include "scan/LargeFile.h"
+#include "scan/ShallowNewest.h"
 
 #include <QList>
 #include <QSet>
@@ -38,6 +39,9 @@ public:
     [[nodiscard]] qint64 undecodable() const { return m_found.undecodable; }
     // Every folder found whose ".git" is a directory (not an extra worktree's ".git" file).
     [[nodiscard]] const QStringList& mainRepositories() const { return m_found.mainRepositories; }
+    // The newest file of each project's shallow part (ProjectInfo::newestChange with the project
+    // entry limit), for the projects whose every such entry the walk met.
+    [[nodiscard]] const ShallowNewest::Known& projectDates() const { return m_found.projectDates; }
 
     // Whether the folder `path`, named `name` and lying in `parent`, is a build folder that
     // its project's marker file proves (or, for "build", Xcode output inside it).
@@ -63,6 +67,7 @@ private:
         QStringList repositories;
         QStringList mainRepositories;
         QSet<QString> artifactPaths;  // filled by append only
+        ShallowNewest::Known projectDates;
 
         [[nodiscard]] bool insideRepository(const QString& path);
         // Adds what a later piece of the walk found; a build folder already found stays once.

@@ -68,6 +68,29 @@ TEST(Platform, ProcessTableListsAChildWithItsParentAndGroupUntilItIsCollected)
     EXPECT_EQ(entryOf(pid), std::nullopt);
 }
 
+TEST(Platform, CommandLinesShowAChildAsPsWouldWhileItRuns)
+{
+    const QString marker = QStringLiteral("dustlark-test-%1").arg(::getpid());
+    QProcess child;
+    child.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), QStringLiteral("read line"), QStringLiteral("sh"), marker,
+                                            QStringLiteral("two words")});
+    ASSERT_TRUE(child.waitForStarted());
+    const std::optional<QStringList> lines = Platform::runningCommandLines();
+    QProcess ps;
+    ps.start(QStringLiteral("/bin/ps"), {QStringLiteral("-p"), QString::number(child.processId()), QStringLiteral("-ww"),
+                                         QStringLiteral("-o"), QStringLiteral("command=")});
+    ASSERT_TRUE(ps.waitForFinished());
+    const QString shownByPs = QString::fromLocal8Bit(ps.readAllStandardOutput()).trimmed();
+    child.closeWriteChannel();
+    child.waitForFinished();
+    if (!lines)
+        GTEST_SKIP() << "this system's list is read by running ps";
+    const QString expected = QStringLiteral("/bin/sh -c read line sh ") + marker + QStringLiteral(" two words");
+    EXPECT_EQ(shownByPs, expected) << "ps itself";
+    EXPECT_TRUE(lines->contains(expected)) << qPrintable(lines->filter(marker).join(QLatin1Char('\n')));
+    EXPECT_FALSE(Platform::runningCommandLines()->contains(expected)) << "the child has ended";
+}
+
 TEST(Platform, ProcessStartTimeIsStableAndTellsProcessesApart)
 {
     const qint64 before = nowInMicroseconds();

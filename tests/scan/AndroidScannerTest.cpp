@@ -1,5 +1,6 @@
 #include "format/RelativeDate.h"
 #include "actions/ToolStandIn.h"
+#include "machinery/ToolLocations.h"
 #include "scan/AndroidScanner.h"
 #include "support/ScanRows.h"
 #include "support/TempTree.h"
@@ -92,20 +93,40 @@ TEST_F(AndroidScannerTest, AnUnreadableProcessListLocksEveryEmulator)
     allLocked();
 }
 
-TEST(AndroidScannerRealTool, TheSystemsPsReadsCommandLines)
+TEST_F(AndroidScannerTest, WithoutEmulatorsTheProcessListIsNotRead)
 {
-    // One command line for both systems: procps' ps must accept the BSD-style arguments and
-    // print whole command lines, however long.
+    ASSERT_FALSE(scan().items.isEmpty());
+    EXPECT_EQ(ps.calls().size(), 1);
+    TempTree bare;
+    bare.file(QStringLiteral(".android/avd/notes.txt"), 10);
+    context.home = bare.root();
+    EXPECT_TRUE(scan().items.isEmpty());
+    EXPECT_EQ(ps.calls().size(), 1) << "no emulator folder, no ps";
+}
+
+TEST(AndroidScannerRealTool, TheSystemsListAndItsPsBothShowARunningEmulator)
+{
+    // The system's own list (read in this process where it can be, else by ps) and ps itself
+    // with the arguments both systems take: procps' ps must accept the BSD-style ones and print
+    // whole command lines, however long.
     const QString name = QStringLiteral("Dustlark_Test_") + QString::number(QCoreApplication::applicationPid()) + QString(300, QLatin1Char('x'));
     QProcess emulator;
     emulator.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), QStringLiteral("read line"),
                                                QStringLiteral("emulator"), QStringLiteral("-avd"), name});
     ASSERT_TRUE(emulator.waitForStarted());
-    const auto running = AndroidScanner().runningAVDs();
+    const auto listed = AndroidScanner().runningAVDs();
+    AndroidScanner::Environment byPs;
+    byPs.ps = ToolLocations::standard({}).ps;
+    const auto shownByPs = AndroidScanner(byPs).runningAVDs();
     emulator.closeWriteChannel();
     emulator.waitForFinished();
-    ASSERT_TRUE(running.has_value());
-    EXPECT_TRUE(running->contains(name));
+    ASSERT_TRUE(listed.has_value());
+    EXPECT_TRUE(listed->contains(name));
+    ASSERT_TRUE(shownByPs.has_value());
+    EXPECT_TRUE(shownByPs->contains(name));
+    const auto afterwards = AndroidScanner().runningAVDs();
+    ASSERT_TRUE(afterwards.has_value());
+    EXPECT_FALSE(afterwards->contains(name)) << "an emulator that ended is no longer listed";
 }
 
 }  // namespace

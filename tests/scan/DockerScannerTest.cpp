@@ -14,7 +14,6 @@
 
 namespace {
 
-const QString socket = QStringLiteral("unix:///var/run/docker.sock");
 const QString dbImage = QStringLiteral("sha256:1111111111111111111111111111111111111111111111111111111111111111");
 const QString webImage = QStringLiteral("sha256:2222222222222222222222222222222222222222222222222222222222222222");
 const QString apiImage = QStringLiteral("sha256:3333333333333333333333333333333333333333333333333333333333333333");
@@ -37,12 +36,16 @@ const QStringList dfCommand = words("system df") + QStringList{QStringLiteral("-
 const QStringList volumesCommand = words("system df -v") + QStringList{QStringLiteral("--format"), QStringLiteral("{{json .Volumes}}")};
 
 // A docker stand-in that describes one engine: three stopped containers, one running, four
-// images (one under two tags, one untagged), a build cache and four volumes.
+// images (one under two tags, one untagged), a build cache and four volumes. Its endpoint is a
+// socket in the temporary home, which the tool's settings file names as the current context's.
 class DockerScannerTest : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        docker.answerWithFixture(contextCommand, QStringLiteral("docker/context-inspect.txt"));
+        socket = QStringLiteral("unix://") + home.socketFile(QStringLiteral("run/docker.sock"));
+        home.file(QStringLiteral(".docker/config.json"), QByteArray(R"({"currentContext": "colima"})"));
+        environment.configFolder = home.path(QStringLiteral(".docker"));
+        docker.answer(contextCommand, socket + QLatin1Char('\n'));
         docker.answerWithFixture(infoCommand, QStringLiteral("docker/info.txt"));
         docker.answerWithFixture(stoppedCommand, QStringLiteral("docker/ps-stopped.jsonl"));
         docker.answerWithFixture(idsCommand, QStringLiteral("docker/ps-all-ids.txt"));
@@ -83,6 +86,7 @@ protected:
 
     ToolStandIn docker{QStringLiteral("docker-standin"), QStringLiteral("docker")};
     TempTree home;
+    QString socket;
     DockerScanner::Environment environment;
     std::optional<QString> hostVariable;
     ScanContext context;
@@ -205,6 +209,23 @@ TEST_F(DockerScannerTest, MissingRemoteOrStoppedDockerGivesOnlyItsNote)
     EXPECT_EQ(scan(), down);
 }
 
+TEST_F(DockerScannerTest, TheDefaultContextWithoutItsSocketNeedsNoRunOfTheTool)
+{
+    QFile::remove(home.path(QStringLiteral(".docker/config.json")));
+    const ScanOutput output = scan();
+    const QString contextCall = contextCommand.join(QLatin1Char(' '));
+    EXPECT_FALSE(docker.calls().contains(contextCall)) << "nothing chooses another context than the default one";
+    if (!QFileInfo::exists(QStringLiteral("/var/run/docker.sock"))) {
+        EXPECT_TRUE(docker.calls().isEmpty()) << qPrintable(docker.calls().join(QLatin1Char('\n')));
+        EXPECT_EQ(output, (ScanOutput{{}, {DockerScanner::notRunningNote()}, {}}));
+    }
+
+    home.file(QStringLiteral(".docker/config.json"), QByteArray("{}"));
+    docker.answer(contextCommand, QStringLiteral("unix://") + home.path(QStringLiteral("run/gone.sock")) + QLatin1Char('\n'));
+    EXPECT_EQ(scan(), (ScanOutput{{}, {DockerScanner::notRunningNote()}, {}}));
+    EXPECT_EQ(docker.calls(), QStringList{contextCall}) << "a settings file may name any context; a missing socket answers nothing";
+}
+
 TEST_F(DockerScannerTest, AHangingServerCheckEndsInTheNotRunningNote)
 {
     environment.timeLimit = std::chrono::milliseconds(300);
@@ -278,6 +299,7 @@ TEST_F(DockerScannerTest, TheReportToolFindsTheHomeFoldersDockerAndItsHostVariab
     ASSERT_TRUE(QFile::link(QFileInfo(docker.path()).path(), home.dir(QStringLiteral(".docker")) + QStringLiteral("/bin")));
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.remove(QStringLiteral("DOCKER_HOST"));
+    environment.insert(QStringLiteral("DOCKER_CONFIG"), home.path(QStringLiteral(".docker")));  // names the stand-in's context
 
     const CliScan local = CliScan::run(home.root(), {QStringLiteral("docker")}, environment, *wrapper);
     ASSERT_EQ(local.program.exitCode, 0) << local.program.standardError.constData();

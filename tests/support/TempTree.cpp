@@ -8,7 +8,9 @@
 #include <cstring>
 #include <fcntl.h>
 #include <grp.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #ifdef __linux__
@@ -79,6 +81,25 @@ QString TempTree::symlink(const QString& relative, const QString& target) const
     QDir().mkpath(QFileInfo(absolute).path());
     if (::symlink(QFile::encodeName(target).constData(), QFile::encodeName(absolute).constData()) != 0)
         qFatal("cannot link %s", qPrintable(absolute));
+    return absolute;
+}
+
+QString TempTree::socketFile(const QString& relative) const
+{
+    const QString absolute = path(relative);
+    QDir().mkpath(QFileInfo(absolute).path());
+    const QByteArray encoded = QFile::encodeName(absolute);
+    struct sockaddr_un address {};
+    address.sun_family = AF_UNIX;
+    if (size_t(encoded.size()) >= sizeof address.sun_path)
+        qFatal("socket path too long: %s", encoded.constData());
+    std::memcpy(address.sun_path, encoded.constData(), size_t(encoded.size()));
+    const int fd = ::socket(AF_UNIX, SOCK_STREAM, 0);
+    const bool bound = fd >= 0 && ::bind(fd, reinterpret_cast<const struct sockaddr*>(&address), sizeof address) == 0;
+    if (fd >= 0)
+        ::close(fd);
+    if (!bound)
+        qFatal("cannot make the socket %s: %s", encoded.constData(), std::strerror(errno));
     return absolute;
 }
 

@@ -28,6 +28,8 @@ public:
     QString allocatedFile(const QString& relative, qint64 size) const;
     QString symlink(const QString& relative, const QString& target) const;
     QString hardlink(const QString& relative, const QString& existingRelative) const;
+    // A socket file as a server leaves it (bound, nobody listening), for endpoints a tool is given.
+    QString socketFile(const QString& relative) const;
     // Sets modification and access time, seconds since 1970.
     void setTimes(const QString& relative, qint64 secondsSinceEpoch) const;
 
