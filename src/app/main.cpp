@@ -36,6 +36,7 @@ void measureWhenAsked(QWidget* window)
         QObject::connect(qApp, &QCoreApplication::aboutToQuit, meter, [meter] {
             std::fprintf(stderr, "longest stall %lld ms in %lld ms\n", static_cast<long long>(meter->longestStall()),
                          static_cast<long long>(meter->watched()));
+            std::fprintf(stderr, "busiest turn %lld ms of processor time\n", static_cast<long long>(meter->busiestTurn()));
         });
     }
 }

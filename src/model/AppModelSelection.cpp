@@ -3,6 +3,8 @@
 #include "model/SettingsStore.h"
 #include "format/RelativeDate.h"
 
+#include <algorithm>
+
 void AppModel::setSelected(const CleanupItem& item, bool selected)
 {
     if (m_selection.set(item, selected))
@@ -91,8 +93,14 @@ QList<CleanupItem> AppModel::visibleItems(CategoryID category, const QString& se
 {
     const qint64 minimum = SizeFilters::minimumBytes(sizeFilter());
     const QString needle = search.trimmed();
+    const QList<CleanupItem> items = result(category).items;
+    // Most often every row passes: the list is then shared, not copied row by row (a list
+    // of tens of thousands of rows took longer to copy than to show).
+    if (needle.isEmpty()
+        && std::all_of(items.begin(), items.end(), [minimum](const CleanupItem& item) { return item.size >= minimum; }))
+        return items;
     QList<CleanupItem> shown;
-    for (const CleanupItem& item : result(category).items) {
+    for (const CleanupItem& item : items) {
         if (item.size < minimum)
             continue;
         if (!needle.isEmpty() && !item.title.contains(needle, Qt::CaseInsensitive)

@@ -12,6 +12,7 @@
 
 #include <QHeaderView>
 #include <QMenu>
+#include <QStyle>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -39,6 +40,7 @@ QStringList headings()
 LargeFoldersPage::LargeFoldersPage(AppModel* model, QWidget* parent)
     : QWidget(parent), m_model(model), m_list(new QTreeWidget(this)), m_bars(new SizeBarDelegate(this))
 {
+    m_folderIcon = style()->standardIcon(QStyle::SP_DirIcon);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(24, 20, 24, 20);
     layout->setSpacing(12);
@@ -81,7 +83,7 @@ void LargeFoldersPage::refresh()
                                                  StorageBuckets::title(folder.kind)});
         row->setData(folderColumn, pathRole, folder.path);
         row->setToolTip(folderColumn, folder.path);
-        row->setIcon(folderColumn, style()->standardIcon(QStyle::SP_DirIcon));
+        row->setIcon(folderColumn, m_folderIcon);
         row->setIcon(kindColumn, StorageBucketStyle::swatch(StorageBucketStyle::colour(folder.kind)));
         row->setData(sizeColumn, SizeBarDelegate::bytesRole, folder.bytes);
         row->setData(sizeColumn, SizeBarDelegate::colourRole, StorageBucketStyle::colour(folder.kind));

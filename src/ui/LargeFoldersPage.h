@@ -2,6 +2,7 @@
 
 #include "storage/StorageReport.h"
 
+#include <QIcon>
 #include <QWidget>
 
 class AppModel;
@@ -26,5 +27,8 @@ private:
 
     AppModel* m_model;
     QTreeWidget* m_list;
+    // The style's folder icon, made once: each call of standardIcon reads and decodes its images again,
+    // which a list of a thousand folders paid for once per row.
+    QIcon m_folderIcon;
     SizeBarDelegate* m_bars;
 };

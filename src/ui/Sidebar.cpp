@@ -4,6 +4,7 @@
 #include "ui/BusyGlyph.h"
 #include "ui/CategoryIcon.h"
 
+#include <QEvent>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
@@ -166,7 +167,7 @@ QSize Sidebar::minimumSizeHint() const
     // The size column as wide as it gets: the largest size beside the busy glyph of a scan,
     // measured as the header measures it when it resizes the column to its contents.
     option.text = ByteCount::format(999'990'000'000);
-    option.icon = BusyGlyph::frame(0, palette().color(QPalette::PlaceholderText));
+    option.icon = busyFrame(0);
     option.font = font();
     option.fontMetrics = fontMetrics();
     const int sizes = style()->sizeFromContents(QStyle::CT_ItemViewItem, &option, QSize(), this).width();
@@ -201,33 +202,54 @@ void Sidebar::setCategorySize(CategoryID category, const QString& size)
         item->setText(1, size);
 }
 
+// Only the row that changed: a scan's start and each arriving result touch one category, and
+// every icon set through the model measures the size column again.
 void Sidebar::setCategoryBusy(CategoryID category, bool busy)
 {
     if (busy == m_busy.contains(category))
         return;
-    QTreeWidgetItem* item = itemFor(SidebarDestination::of(category));
-    if (busy) {
+    if (busy)
         m_busy.insert(category);
-    } else {
+    else
         m_busy.remove(category);
-        if (item)
-            item->setIcon(1, QIcon());
-    }
+    if (QTreeWidgetItem* item = itemFor(SidebarDestination::of(category)))
+        item->setIcon(1, busy ? busyFrame(m_busyStep) : QIcon());
     if (m_busy.isEmpty())
         m_busyTimer.stop();
     else if (!m_busyTimer.isActive())
         m_busyTimer.start();
-    advanceBusyFrames();
 }
 
 void Sidebar::advanceBusyFrames()
 {
     m_busyStep = (m_busyStep + 1) % BusyGlyph::frameCount;
-    const QIcon frame = BusyGlyph::frame(m_busyStep, palette().color(QPalette::PlaceholderText));
-    for (CategoryID category : m_busy) {
-        if (QTreeWidgetItem* item = itemFor(SidebarDestination::of(category)))
-            item->setIcon(1, frame);
+    const QIcon frame = busyFrame(m_busyStep);
+    {
+        // Every frame has the same size, so the size column needs no measuring again: the
+        // model stays quiet (it would measure once per row) and one repaint shows the new frame.
+        const QSignalBlocker quiet(model());
+        for (CategoryID category : m_busy) {
+            if (QTreeWidgetItem* item = itemFor(SidebarDestination::of(category)))
+                item->setIcon(1, frame);
+        }
     }
+    viewport()->update();
+}
+
+QIcon Sidebar::busyFrame(int step) const
+{
+    if (m_busyFrames.isEmpty()) {
+        for (int each = 0; each < BusyGlyph::frameCount; ++each)
+            m_busyFrames.append(BusyGlyph::frame(each, palette().color(QPalette::PlaceholderText)));
+    }
+    return m_busyFrames.at(step);
+}
+
+void Sidebar::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        m_busyFrames.clear();
+    QTreeWidget::changeEvent(event);
 }
 
 void Sidebar::emitChoice()

@@ -30,6 +30,7 @@ public:
 
 protected:
     void updateGeometries() override;
+    void changeEvent(QEvent* event) override;
 
 signals:
     // The person picked a row; the window decides whether it becomes the shown screen.
@@ -43,8 +44,11 @@ private:
     int headingHeight() const;
     void emitChoice();
     void advanceBusyFrames();
+    QIcon busyFrame(int step) const;
 
     QSet<CategoryID> m_busy;
     QTimer m_busyTimer;
     int m_busyStep = 0;
+    // The glyph's frames in the palette's colour, drawn once: a scan turns them for seconds.
+    mutable QList<QIcon> m_busyFrames;
 };

@@ -1,5 +1,18 @@
 #include "ui/StallMeter.h"
 
+#include <time.h>
+
+namespace {
+
+qint64 threadProcessorMicroseconds()
+{
+    timespec spent{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &spent);
+    return qint64(spent.tv_sec) * 1'000'000 + spent.tv_nsec / 1'000;
+}
+
+}  // namespace
+
 StallMeter::StallMeter(std::chrono::milliseconds interval, QObject* parent) : QObject(parent), m_interval(interval)
 {
     m_timer.setTimerType(Qt::PreciseTimer);
@@ -20,9 +33,13 @@ void StallMeter::tick()
     if (!m_sinceFirst.isValid()) {
         m_sinceFirst.start();
         m_last = 0;
+        m_lastBusy = threadProcessorMicroseconds();
         return;
     }
     const qint64 now = m_sinceFirst.elapsed();
     m_longest = std::max(m_longest, now - m_last - m_interval.count());
     m_last = now;
+    const qint64 busy = threadProcessorMicroseconds();
+    m_busiest = std::max(m_busiest, (busy - m_lastBusy) / 1'000);
+    m_lastBusy = busy;
 }

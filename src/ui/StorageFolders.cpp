@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
+#include <QStyle>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -43,6 +44,8 @@ StorageFolders::StorageFolders(AppModel* model, QWidget* parent)
       m_remeasure(new QPushButton(FolderActions::remeasureTitle(), this)), m_sunburst(new Sunburst(this)),
       m_contents(new QTreeWidget(this)), m_bars(new SizeBarDelegate(this))
 {
+    m_folderIcon = style()->standardIcon(QStyle::SP_DirIcon);
+    m_fileIcon = style()->standardIcon(QStyle::SP_FileIcon);
     m_breadcrumb->setTextFormat(Qt::RichText);
     m_breadcrumb->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     m_contents->setRootIsDecorated(false);
@@ -168,7 +171,7 @@ void StorageFolders::addFileRows(const QString& folder)
     files.erase(std::unique(files.begin(), files.end()), files.end());
     for (const StorageReport::FileUsage& file : files.first(std::min(filesShown, files.size())))
         addRow(file.path.mid(prefix.size()), file.bytes, {}, file.path, false)
-            ->setIcon(nameColumn, style()->standardIcon(QStyle::SP_FileIcon));
+            ->setIcon(nameColumn, m_fileIcon);
 }
 
 QTreeWidgetItem* StorageFolders::addRow(const QString& name, qint64 bytes, const QString& files, const QString& path, bool folder)
@@ -178,7 +181,7 @@ QTreeWidgetItem* StorageFolders::addRow(const QString& name, qint64 bytes, const
     row->setData(nameColumn, folderRole, folder);
     row->setToolTip(nameColumn, path);
     if (folder)
-        row->setIcon(nameColumn, style()->standardIcon(QStyle::SP_DirIcon));
+        row->setIcon(nameColumn, m_folderIcon);
     row->setData(sizeColumn, SizeBarDelegate::bytesRole, bytes);
     row->setData(sizeColumn, SizeBarDelegate::colourRole, StorageBucketStyle::remainderColour());
     row->setTextAlignment(sizeColumn, Qt::AlignRight | Qt::AlignVCenter);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QStringList>
+#include <QIcon>
 #include <QWidget>
 
 class AppModel;
@@ -49,5 +50,9 @@ private:
     QPushButton* m_remeasure;
     Sunburst* m_sunburst;
     QTreeWidget* m_contents;
+    // The style's icons, made once: each call of standardIcon reads and decodes its images again,
+    // which a list of a thousand folders paid for once per row.
+    QIcon m_folderIcon;
+    QIcon m_fileIcon;
     SizeBarDelegate* m_bars;
 };

@@ -24,6 +24,7 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QTabWidget>
+#include <QStyle>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -76,6 +77,8 @@ StoragePage::StoragePage(AppModel* model, QWidget* parent)
       //: Button of the storage drill-down: go up one level
       m_back(new QPushButton(tr("Back"), this)), m_details(nullptr), m_bars(new SizeBarDelegate(this))
 {
+    m_folderIcon = style()->standardIcon(QStyle::SP_DirIcon);
+    m_fileIcon = style()->standardIcon(QStyle::SP_FileIcon);
     // The page scrolls when the window is shorter than its parts: otherwise the window's
     // minimum height would be theirs, taller than a 1280x800 screen leaves for it.
     auto* content = new QWidget(this);
@@ -276,7 +279,7 @@ void StoragePage::fillFolders(const StorageReport& report, StorageBucket bucket)
         row->setData(detailName, rowKindRole, folderRow);
         row->setText(detailSize, StorageChange::withSize(row->text(detailSize), StorageChange::ofFolder(
             m_model->history()->storageComparison(), StorageBuckets::rawValue(bucket), folder.path)));
-        row->setIcon(detailName, style()->standardIcon(QStyle::SP_DirIcon));
+        row->setIcon(detailName, m_folderIcon);
         row->setToolTip(detailName, folder.path);
     }
     FolderActions::markGone(m_details, pathRole, m_model);
@@ -298,13 +301,13 @@ void StoragePage::fillFolder(const StorageReport::FolderUsage& folder, StorageBu
                                          usage.bytes, StorageFolders::fileCount(usage.fileCount), bucket);
         row->setData(detailName, pathRole, name.isEmpty() ? folder.path : folder.path + QLatin1Char('/') + name);
         row->setData(detailName, rowKindRole, groupRow);
-        row->setIcon(detailName, style()->standardIcon(QStyle::SP_DirIcon));
+        row->setIcon(detailName, m_folderIcon);
     }
     for (const StorageReport::FileUsage& file : folder.files) {
         QTreeWidgetItem* row = addDetail(file.path.mid(folder.path.size() + 1), file.bytes, {}, bucket);
         row->setData(detailName, pathRole, file.path);
         row->setData(detailName, rowKindRole, fileRow);
-        row->setIcon(detailName, style()->standardIcon(QStyle::SP_FileIcon));
+        row->setIcon(detailName, m_fileIcon);
         row->setToolTip(detailName, file.path);
     }
     FolderActions::markGone(m_details, pathRole, m_model);

@@ -2,6 +2,7 @@
 
 #include "storage/StorageReport.h"
 
+#include <QIcon>
 #include <QWidget>
 
 #include <optional>
@@ -63,6 +64,10 @@ private:
     QLabel* m_place;
     QPushButton* m_back;
     QTreeWidget* m_details;
+    // The style's icons, made once: each call of standardIcon reads and decodes its images again,
+    // which a list of a thousand folders paid for once per row.
+    QIcon m_folderIcon;
+    QIcon m_fileIcon;
     SizeBarDelegate* m_bars;
     QTabWidget* m_views = nullptr;
     StorageFolders* m_folders = nullptr;

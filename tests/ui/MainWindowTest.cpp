@@ -30,6 +30,23 @@ QTreeWidgetItem* heading(Sidebar* sidebar, const QString& title)
     return found.isEmpty() ? nullptr : found.first();
 }
 
+// Counts the paint events of a widget for as long as it lives.
+class PaintCounter : public QObject {
+public:
+    PaintCounter(QWidget* widget, int& paints) : m_paints(paints) { widget->installEventFilter(this); }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint)
+            ++m_paints;
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    int& m_paints;
+};
+
 }  // namespace
 
 TEST(MainWindow, SidebarListsBothGroupsInOrderAndSetsApartWhatCantFillOnLinux)
@@ -87,6 +104,37 @@ TEST(MainWindow, TheChosenSidebarRowIsHighlightedInOneColourAcrossTheRow)
         }
     }
     EXPECT_TRUE(seams.isEmpty()) << seams.size() << " pixels differ, first at " << seams.value(0).toStdString();
+}
+
+// The glyph of every scanning row turns in step and is painted as it turns; a row that ends
+// loses it at once while the others go on.
+TEST(MainWindow, SidebarGlyphTurnsOnEveryScanningRowAndLeavesARowThatEnds)
+{
+    Sidebar sidebar;
+    sidebar.show();
+    QTreeWidgetItem* logs = sidebar.itemFor(SidebarDestination::of(CategoryID::logs));
+    QTreeWidgetItem* projects = sidebar.itemFor(SidebarDestination::of(CategoryID::projects));
+    ASSERT_TRUE(logs && projects);
+    int paints = 0;
+    PaintCounter counter(sidebar.viewport(), paints);
+    sidebar.setCategoryBusy(CategoryID::logs, true);
+    sidebar.setCategoryBusy(CategoryID::projects, true);
+    ASSERT_FALSE(logs->icon(1).isNull());
+    const qint64 first = logs->icon(1).cacheKey();
+    EXPECT_EQ(projects->icon(1).cacheKey(), first);
+    ASSERT_TRUE(waitUntil([&] { return logs->icon(1).cacheKey() != first; }, 2'000));
+    paints = 0;
+    const qint64 second = logs->icon(1).cacheKey();
+    ASSERT_TRUE(waitUntil([&] { return logs->icon(1).cacheKey() != second; }, 2'000));
+    EXPECT_EQ(projects->icon(1).cacheKey(), logs->icon(1).cacheKey());
+    EXPECT_TRUE(waitUntil([&] { return paints > 0; }, 2'000)) << "the turned glyph was never painted";
+
+    sidebar.setCategoryBusy(CategoryID::logs, false);
+    EXPECT_TRUE(logs->icon(1).isNull());
+    EXPECT_FALSE(projects->icon(1).isNull());
+    EXPECT_TRUE(sidebar.isCategoryBusy(CategoryID::projects));
+    sidebar.setCategoryBusy(CategoryID::projects, false);
+    EXPECT_TRUE(projects->icon(1).isNull());
 }
 
 TEST(MainWindow, ScanShowsProgressThenFillsListsAndSizes)

@@ -11,6 +11,19 @@
 
 #include <gtest/gtest.h>
 
+#include <time.h>
+
+namespace {
+
+qint64 threadProcessorMs()
+{
+    timespec spent{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &spent);
+    return qint64(spent.tv_sec) * 1'000 + spent.tv_nsec / 1'000'000;
+}
+
+}  // namespace
+
 TEST(ResponsivenessMeasuresTest, FirstPaintIsToldOnceAndCountsFromTheLaunch)
 {
     QWidget window;
@@ -33,4 +46,22 @@ TEST(ResponsivenessMeasuresTest, StallMeterKeepsTheLongestBlockButNotTheStartUpB
     ASSERT_TRUE(waitUntil([&] { return meter.watched() >= 300; }));
     EXPECT_GE(meter.longestStall(), 140);
     EXPECT_LT(meter.longestStall(), 400);
+}
+
+// Waiting is not work: a turn that sleeps leaves the busiest turn alone, one that computes sets it
+// (counted in processor time, so a loaded machine neither adds to it nor takes from it).
+TEST(ResponsivenessMeasuresTest, BusiestTurnCountsTheThreadsOwnWorkNotItsWaiting)
+{
+    StallMeter meter(std::chrono::milliseconds(10));
+    ASSERT_TRUE(waitUntil([&] { return meter.watched() >= 30; }));
+    QTimer::singleShot(0, [] { QThread::msleep(300); });
+    ASSERT_TRUE(waitUntil([&] { return meter.watched() >= 400; }));
+    EXPECT_LT(meter.busiestTurn(), 200) << "a sleeping turn counted as work";
+    QTimer::singleShot(0, [] {
+        const qint64 until = threadProcessorMs() + 300;
+        volatile quint64 spin = 0;
+        while (threadProcessorMs() < until)
+            spin = spin + 1;
+    });
+    ASSERT_TRUE(waitUntil([&] { return meter.busiestTurn() >= 250; }, 20'000)) << "busiest " << meter.busiestTurn() << " ms";
 }
