@@ -135,8 +135,8 @@ ScanFilter AppModel::makeFilter() const
 
 std::unique_ptr<ScanTask> AppModel::makeTask(std::vector<std::shared_ptr<const Scanner>> scanners, const QUuid& id)
 {
-    return std::make_unique<ScanTask>(std::move(scanners), makeContext(), this,
-                                      [this, id](const ScanOutputs& outputs) { outputArrived(id, outputs); });
+    return std::make_unique<ScanTask>(std::move(scanners), makeContext(), makeFilter(), this,
+                                      [this, id](const FilteredOutputs& outputs) { outputArrived(id, outputs); });
 }
 
 void AppModel::startScan()
@@ -151,6 +151,7 @@ void AppModel::startScan()
     startStorageAnalysis();
     clearSelection();
     m_results.clear();
+    indexDuplicates();  // the old list's groups go with it
     for (CategoryID category : Categories::allCases())
         m_results[category].state = CategoryResult::State::scanning;
     m_isScanning = true;
@@ -207,12 +208,12 @@ void AppModel::setState(CategoryID category, CategoryResult::State state)
     emit resultsChanged(category);
 }
 
-void AppModel::outputArrived(const QUuid& id, const ScanOutputs& outputs)
+void AppModel::outputArrived(const QUuid& id, const FilteredOutputs& outputs)
 {
     const auto found = m_scans.find(id);
     if (found == m_scans.end())
         return;
-    for (const auto& [category, output] : outputs)
+    for (const auto& [category, output] : outputs.outputs)
         m_scannedAt[category] = found->second.started;
     apply(outputs, found->second.task->isCancelled());
     if (--found->second.outputsLeft == 0)
@@ -259,21 +260,30 @@ void AppModel::markUnfinishedDone(const QList<CategoryID>& categories, bool stop
 
 void AppModel::apply(const ScanOutputs& outputs, bool stopped)
 {
+    apply(FilteredOutputs::unfiltered(outputs, makeFilter(), m_settings->scanRoots()), stopped);
+}
+
+void AppModel::apply(const FilteredOutputs& outputs, bool stopped)
+{
     const ScanFilter filter = makeFilter();
-    for (const auto& [category, output] : outputs) {
+    const QStringList scanFolders = m_settings->scanRoots();
+    for (const auto& [category, output] : outputs.outputs) {
         CategoryResult result;
         result.state = CategoryResult::State::done;
-        result.items = filter.shown(output.items, m_settings->scanRoots());
+        result.items = outputs.shownFor(category, filter, scanFolders);
         result.notes = output.notes;
         if (stopped)
             //: Banner of a category whose scanner returned early because the scan was stopped
             result.notes.append(tr("The scan was stopped; this list may be incomplete."));
         result.summary = output.summary;
         m_results[category] = std::move(result);
-        indexDuplicates();
+        // The duplicate groups change only with the duplicates list; other lists leave them be.
+        if (category == CategoryID::duplicates)
+            indexDuplicates();
         emit resultsChanged(category);
     }
-    removeLoneCopies();
+    if (outputs.outputs.contains(CategoryID::duplicates))
+        removeLoneCopies();
 }
 
 void AppModel::refreshSystemState()

@@ -112,6 +112,8 @@ public:
     void refreshSystemState();
     // Folds scanner outputs into the results, dropping what the person protected.
     void apply(const ScanOutputs& outputs, bool stopped);
+    // The same, reusing the rows filtered on the scanner's thread while the filter is unchanged.
+    void apply(const FilteredOutputs& outputs, bool stopped);
     CategoryResult result(CategoryID category) const;
     std::shared_ptr<ScanProgress> progress() const { return m_progress; }
     const SystemState& systemState() const { return m_systemState; }
@@ -251,7 +253,7 @@ private:
 
     ScanFilter makeFilter() const;
     std::unique_ptr<ScanTask> makeTask(std::vector<std::shared_ptr<const Scanner>> scanners, const QUuid& id);
-    void outputArrived(const QUuid& id, const ScanOutputs& outputs);
+    void outputArrived(const QUuid& id, const FilteredOutputs& outputs);
     void finishScan(const QUuid& id);
     void markUnfinishedDone(const QList<CategoryID>& categories, bool stopped);
     void setState(CategoryID category, CategoryResult::State state);

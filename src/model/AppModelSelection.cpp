@@ -34,6 +34,8 @@ void AppModel::removeLoneCopies()
     if (found == m_results.end())
         return;
     const QSet<QString> lone = Selection::loneCopyIds(found->second.items);
+    if (lone.isEmpty())
+        return;  // removeIf would copy a list the screens share, to remove nothing
     const qsizetype before = found->second.items.size();
     bool selectionChangedHere = false;
     found->second.items.removeIf([&](const CleanupItem& item) {

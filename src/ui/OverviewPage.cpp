@@ -91,7 +91,10 @@ OverviewPage::OverviewPage(AppModel* model, QWidget* parent)
     layout->addWidget(makeHistory());
     layout->addStretch(1);
 
-    connect(m_model, &AppModel::resultsChanged, this, &OverviewPage::refreshGroups);
+    // Only the changed category's group: a group holding a list of tens of thousands of rows
+    // would otherwise be summed again each time any other list changes.
+    connect(m_model, &AppModel::resultsChanged, this,
+            [this](CategoryID category) { refreshGroup(Categories::group(category)); });
     connect(m_model, &AppModel::scanStateChanged, this, &OverviewPage::refreshGroups);
     connect(m_model, &AppModel::systemStateChanged, this, &OverviewPage::refreshAccessBanner);
     connect(m_model->stats(), &StatsStore::statsChanged, this, &OverviewPage::refreshStats);

@@ -11,6 +11,11 @@
 class ScanFilter {
 public:
     ScanFilter(QString home, QSet<QString> safeItemIds, QStringList protectedPaths);
+    // Same home and Safe List: the two drop and lock the same rows.
+    bool operator==(const ScanFilter& other) const
+    {
+        return m_home == other.m_home && m_safeItemIds == other.m_safeItemIds && m_protectedPaths == other.m_protectedPaths;
+    }
 
     // The Safe List's own rule: the item's id is on it, or its project or one of its paths is at
     // or below a protected path. The one predicate behind both `drops` and

@@ -95,6 +95,46 @@ TEST(AppModelScan, ApplyDropsSafeListAndICloudItems)
     EXPECT_EQ(kept.first().id, "/Users/a/Documents/CloudKit");
 }
 
+// Rows are filtered on the scanner's thread with the Safe List the scan started with; one
+// changed while a scanner still runs is what that scanner's rows are shown by.
+TEST(AppModelScan, ScannedRowsAreFilteredByTheSafeListInForceWhenTheyArrive)
+{
+    CleanupItem tool = rowAt(CategoryID::appCaches, "/Users/a/Library/Caches/tool");
+    tool.id = "docker:buildcache";
+    auto caches = std::make_shared<FakeScanner>(QList{CategoryID::appCaches},
+        outputOf(CategoryID::appCaches, {
+            rowAt(CategoryID::appCaches, "/Users/a/Library/Caches/b"),
+            tool,
+            rowAt(CategoryID::appCaches, "/Users/a/Library/CloudStorage"),
+            rowAt(CategoryID::appCaches, "/opt/shared/cache"),
+            rowAt(CategoryID::appCaches, "/Users/a/Library/Caches/a"),
+        }));
+    auto logs = std::make_shared<FakeScanner>(QList{CategoryID::logs},
+        outputOf(CategoryID::logs, {rowAt(CategoryID::logs, "/Users/a/Library/Logs/Kept/x.log"),
+                                    rowAt(CategoryID::logs, "/Users/a/Library/Logs/Private/y.log")}));
+    logs->holdUntilReleased();
+    ModelFixture fixture({caches, logs});
+    AppModel& model = fixture.model();
+    fixture.settings().addSafeItem(tool);
+
+    model.startScan();
+    ASSERT_TRUE(waitUntil([&] { return model.result(CategoryID::appCaches).state == CategoryResult::State::done; }));
+    model.addSafeFolder("/Users/a/Library/Logs/Private");
+    logs->release();
+    ASSERT_TRUE(waitUntil([&] { return !model.isScanning(); }));
+
+    const QList<CleanupItem> cached = model.result(CategoryID::appCaches).items;
+    ASSERT_EQ(cached.size(), 3);
+    EXPECT_EQ(cached[0].id, "/Users/a/Library/Caches/b");
+    EXPECT_EQ(cached[1].id, "/opt/shared/cache");
+    EXPECT_TRUE(cached[1].isLocked()) << "outside the home: shown, never removable";
+    EXPECT_EQ(cached[2].id, "/Users/a/Library/Caches/a");
+    EXPECT_FALSE(cached[2].isLocked());
+    const QList<CleanupItem> logged = model.result(CategoryID::logs).items;
+    ASSERT_EQ(logged.size(), 1) << "a folder made safe during the scan stays hidden";
+    EXPECT_EQ(logged.first().id, "/Users/a/Library/Logs/Kept/x.log");
+}
+
 TEST(AppModelScan, RescanRerunsEveryScannerOfTheCategoryAndRefreshesTheirCategories)
 {
     auto walk = std::make_shared<FakeScanner>(QList{CategoryID::projects, CategoryID::largeFiles},

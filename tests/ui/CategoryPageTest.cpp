@@ -6,6 +6,7 @@
 #include "ui/CategoryListModel.h"
 #include "ui/CategoryPage.h"
 #include "ui/Reveal.h"
+#include "ui/StallMeter.h"
 #include "ui/Toast.h"
 
 #include <QApplication>
@@ -357,4 +358,61 @@ TEST(CategoryPage, TheMoreButtonIsVisibleOnTheSelectedRow)
             dotPixels += std::abs(QColor(picture.pixel(x, y)).lightness() - pill) > 80 ? 1 : 0;
     }
     EXPECT_GT(dotPixels, 6) << "the dots vanish into the pill";
+}
+
+namespace {
+
+// `count` rows whose paths lie in the home; duplicates come three copies to a group.
+QList<CleanupItem> bigList(const TempTree& home, CategoryID category, int count)
+{
+    QList<CleanupItem> rows;
+    rows.reserve(count);
+    for (int i = 0; i < count; ++i) {
+        CleanupItem item;
+        FileTarget target;
+        target.path = home.path(QStringLiteral("big/%1/file-%2.bin").arg(i / 100).arg(i));
+        item.id = target.path;
+        item.category = category;
+        item.title = QStringLiteral("file-%1.bin").arg(i);
+        item.size = 200'000'000 - i;
+        item.removal = Removal::trash({target});
+        if (category == CategoryID::duplicates)
+            item.duplicateGroup = QStringLiteral("group-%1").arg(i / 3);
+        rows.append(item);
+    }
+    return rows;
+}
+
+}  // namespace
+
+// A list of tens of thousands of rows arriving at once with the list on screen: every row shows,
+// in order. The GUI thread's time for the arrival is printed (not asserted) for the benchmarks.
+TEST(CategoryPage, BigListsArriveWholeAndInOrder)
+{
+    for (CategoryID category : {CategoryID::largeFiles, CategoryID::duplicates}) {
+        for (int count : {20'000, 50'000}) {
+            WindowFixture fixture;
+            const QList<CleanupItem> rows = bigList(fixture.home(), category, count);
+            fixture.start({scannerOf(category, rows)});
+            fixture.show(category);
+            QCoreApplication::processEvents();
+            StallMeter meter(std::chrono::milliseconds(5));
+            ASSERT_TRUE(waitUntil([&] { return meter.watched() >= 20; }));
+            ASSERT_TRUE(fixture.scan());
+            QCoreApplication::processEvents();
+            std::printf("[ measure  ] %s %d rows: busiest GUI turn %lld ms, longest stall %lld ms\n",
+                        qPrintable(Categories::title(category)), count,
+                        static_cast<long long>(meter.busiestTurn()), static_cast<long long>(meter.longestStall()));
+
+            const CategoryListModel* list = fixture.window().categoryPage()->listModel();
+            const QList<CleanupItem>& shown = list->shownItems();
+            ASSERT_EQ(shown.size(), count);
+            for (int i = 0; i < count; ++i)
+                ASSERT_EQ(shown[i].id, rows[i].id) << "row " << i;
+            EXPECT_EQ(list->itemAt(list->index(list->rowCount() - 1))->id, rows.last().id);
+            fixture.model().setAll(shown, true);
+            const int kept = category == CategoryID::duplicates ? (count + 2) / 3 : 0;  // a copy of each stays
+            EXPECT_EQ(fixture.model().selectedItems().size(), count - kept);
+        }
+    }
 }
