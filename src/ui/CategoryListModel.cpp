@@ -87,29 +87,9 @@ CategoryListModel::Row CategoryListModel::sectionFor(const QString& key, const Q
     row.title = first.title;
     //: Section heading of a group of identical files; %n is the number of copies shown, %1 the size of one copy
     row.subtitle = tr("%n copies of %1 each", nullptr, int(members.size())).arg(ByteCount::format(first.size));
-    row.size = freeableSize(members);  // one copy always stays
+    // One copy always stays; summed by index, since thousands of sections arrive at once.
+    row.size = CategoryResult::freeableSize(members, [this](int i) -> const CleanupItem& { return m_items[i]; });
     return row;
-}
-
-// CategoryResult::freeableSize of the members, without copying them: a section is nearly always
-// one duplicate group, so its largest copy is what stays. Thousands of sections arrive at once.
-qint64 CategoryListModel::freeableSize(const QList<int>& members) const
-{
-    const std::optional<QString>& group = m_items[members.first()].duplicateGroup;
-    qint64 total = 0;
-    qint64 largest = 0;
-    for (int i : members) {
-        const CleanupItem& item = m_items[i];
-        if (item.duplicateGroup != group) {
-            QList<CleanupItem> copies;
-            for (int each : members)
-                copies.append(m_items[each]);
-            return CategoryResult::freeableSize(copies);
-        }
-        total += item.size;
-        largest = std::max(largest, item.size);
-    }
-    return group ? total - largest : total;
 }
 
 const CleanupItem* CategoryListModel::itemAt(const QModelIndex& index) const

@@ -56,7 +56,6 @@ private:
     // The key that groups a row under a section header; absent for lists without sections.
     std::optional<QString> sectionKey(const CleanupItem& item) const;
     Row sectionFor(const QString& key, const QList<int>& members) const;
-    qint64 freeableSize(const QList<int>& members) const;
     QVariant itemData(const CleanupItem& item, int role) const;
     void selectionDidChange();
 
