@@ -47,7 +47,7 @@ QStringList runningExecutables();
 
 // The command line of every process the person can see, its arguments joined by spaces as
 // `ps -o command=` prints them (processes without arguments, such as kernel threads, left out).
-// Absent where the system's list is read by running ps instead (macOS).
+// Absent when the system would not say (then ps is run instead).
 std::optional<QStringList> runningCommandLines();
 
 // Makes this process the adopter of its descendants' orphans (a Linux child subreaper), so a

@@ -1,5 +1,6 @@
 #include "platform/Platform.h"
 #include "platform/DesktopNotification.h"
+#include "platform/ProcessArguments.h"
 
 #include <QFile>
 #include <QTimeZone>
@@ -20,6 +21,11 @@
 #include <sys/proc.h>
 #include <sys/sysctl.h>
 #include <unistd.h>
+
+// Public in every SDK's ps, but declared only under __APPLE_API_UNSTABLE in some.
+#ifndef KERN_PROCARGS2
+#define KERN_PROCARGS2 49
+#endif
 
 namespace Platform {
 
@@ -148,7 +154,23 @@ QStringList runningExecutables()
 
 std::optional<QStringList> runningCommandLines()
 {
-    return std::nullopt;  // read by running ps here (AndroidScanner)
+    int argumentsLimit = 0;
+    size_t limitSize = sizeof argumentsLimit;
+    int limitName[] = {CTL_KERN, KERN_ARGMAX};
+    if (::sysctl(limitName, 2, &argumentsLimit, &limitSize, nullptr, 0) != 0 || argumentsLimit <= 0)
+        return std::nullopt;  // then AndroidScanner runs ps
+    QStringList lines;
+    std::vector<char> record(static_cast<size_t>(argumentsLimit));
+    for (pid_t id : allProcessIds()) {
+        int name[] = {CTL_KERN, KERN_PROCARGS2, int(id)};
+        size_t size = record.size();
+        if (::sysctl(name, 3, record.data(), &size, nullptr, 0) != 0)
+            continue;  // ended meanwhile, or another user's
+        const QString line = commandLineOfProcessArguments(QByteArrayView(record.data(), qsizetype(size)));
+        if (!line.isEmpty())
+            lines.append(line);
+    }
+    return lines;
 }
 
 std::optional<QString> applicationForBundleIdentifier(const QString& bundleIdentifier)
