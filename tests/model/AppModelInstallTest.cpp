@@ -98,17 +98,6 @@ TEST_F(AppModelInstallTest, AVerifiedReleaseIsInstalledAndRelaunched)
     EXPECT_TRUE(codesign.calls().join(QLatin1Char('\n')).contains(QStringLiteral("leaf[subject.OU] = \"AB12CD34EF\"")));
 }
 
-TEST_F(AppModelInstallTest, AnImageOneCharacterOffItsDigestIsNeverMounted)
-{
-    QString wrong = digest();
-    wrong[10] = wrong[10] == QLatin1Char('a') ? QLatin1Char('b') : QLatin1Char('a');
-    offer(wrong);
-    EXPECT_EQ(install(), QStringLiteral("The downloaded update didn't pass the check. This copy wasn't changed."));
-    EXPECT_EQ(runningBinary(), QByteArray("old"));
-    EXPECT_TRUE(hdiutil.calls().isEmpty());
-    EXPECT_TRUE(relaunched.isEmpty());
-}
-
 TEST_F(AppModelInstallTest, ADownloadCutShortChangesNothing)
 {
     HttpsTestServer::Response cut(200, imageBytes.left(50'000));

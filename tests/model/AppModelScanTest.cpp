@@ -76,25 +76,6 @@ TEST(AppModelScan, OutputsArrivingAfterAStopAreMarkedIncomplete)
     EXPECT_EQ(fixture.model().result(CategoryID::logs).items.size(), 1);
 }
 
-TEST(AppModelScan, ApplyDropsSafeListAndICloudItems)
-{
-    ModelFixture fixture;
-    CleanupItem tool = rowAt(CategoryID::appCaches, "/Users/a/Library/Caches/tool");
-    tool.id = "docker:buildcache";
-    fixture.settings().addSafeItem(tool);
-
-    fixture.model().apply(outputOf(CategoryID::appCaches, {
-        tool,
-        rowAt(CategoryID::appCaches, "/Users/a/Library/Caches/com.apple.cloudkit.foo"),
-        rowAt(CategoryID::appCaches, "/Users/a/Library/CloudStorage"),
-        rowAt(CategoryID::appCaches, "/Users/a/Documents/CloudKit"),
-    }), false);
-
-    const QList<CleanupItem> kept = fixture.model().result(CategoryID::appCaches).items;
-    ASSERT_EQ(kept.size(), 1);
-    EXPECT_EQ(kept.first().id, "/Users/a/Documents/CloudKit");
-}
-
 // Rows are filtered on the scanner's thread with the Safe List the scan started with; one
 // changed while a scanner still runs is what that scanner's rows are shown by.
 TEST(AppModelScan, ScannedRowsAreFilteredByTheSafeListInForceWhenTheyArrive)

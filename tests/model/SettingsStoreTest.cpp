@@ -133,23 +133,6 @@ TEST_F(SettingsStoreTest, ProtectedPathsListFoldersFirstAndFollowEveryChange)
     EXPECT_TRUE(settings->protectedPaths().isEmpty());
 }
 
-TEST_F(SettingsStoreTest, IsSafeMatchesIdsAndWholePathComponents)
-{
-    const auto settings = store(file.settings());
-    settings->addSafeFolder(QStringLiteral("/tmp"));
-    settings->addSafeItem(trashItem(QStringLiteral("docker:container:abc"), CategoryID::docker, {}));
-
-    EXPECT_TRUE(settings->isSafe(trashItem(QStringLiteral("docker:container:abc"), CategoryID::docker, {})));
-    EXPECT_TRUE(settings->isSafe(pathItem(QStringLiteral("/tmp"))));
-    EXPECT_TRUE(settings->isSafe(trashItem(QStringLiteral("x"), CategoryID::temporary,
-        {QStringLiteral("/var/x"), QStringLiteral("/tmp/y")})));
-    CleanupItem inProject = pathItem(QStringLiteral("/elsewhere/build"), CategoryID::projects);
-    inProject.projectPath = QStringLiteral("/tmp/project");
-    EXPECT_TRUE(settings->isSafe(inProject));
-    inProject.projectPath = QStringLiteral("/tmpdir/project");
-    EXPECT_FALSE(settings->isSafe(inProject));
-}
-
 TEST_F(SettingsStoreTest, UndecodableSafeItemInfoReadsEmptyAndKeepsTheOtherKeys)
 {
     const QByteArray garbage[] = {

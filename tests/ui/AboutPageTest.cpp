@@ -1,16 +1,13 @@
-#include "WindowFixture.h"
 #include "support/ModelFixture.h"
 #include "support/TempTree.h"
 #include "support/Wait.h"
 #include "ui/AboutPage.h"
-#include "ui/Sidebar.h"
 #include "ui/UpdateBox.h"
 #include "support/HttpsTestServer.h"
 
 #include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
-#include <QTreeWidgetItem>
 
 #include <gtest/gtest.h>
 
@@ -28,16 +25,6 @@ TEST(AboutPage, ShowsTheBuildAndEveryShippedLicenceInFull)
     }
     EXPECT_TRUE(AboutPage::licenceText(libraries[1].texts[0]).contains(QStringLiteral("Apache License")));
     EXPECT_TRUE(AboutPage::licenceText(libraries[2].texts[0]).contains(QStringLiteral("Version 2.1")));
-}
-
-TEST(AboutPage, TheWindowOffersIt)
-{
-    WindowFixture fixture;
-    fixture.start({});
-    const auto about = SidebarDestination::screen(SidebarDestination::Kind::about);
-    QTreeWidgetItem* row = fixture.window().sidebar()->itemFor(about);
-    ASSERT_TRUE(row);
-    EXPECT_TRUE(row->flags() & Qt::ItemIsEnabled);
 }
 
 TEST(AboutPage, ChecksForUpdatesAndOpensOnlyTheMakersPage)

@@ -1,5 +1,5 @@
-// Emptying the Trash from its category over the real window: the progress sheet, Stop, and the
-// quit question, which waits for the emptying as it waits for a cleanup.
+// Emptying the Trash from its category over the real window: the question before, the progress
+// sheet, Stop, and the quit question, which waits for the emptying as it waits for a cleanup.
 #include "WindowFixture.h"
 #include "actions/FreedesktopTrash.h"
 #include "support/Wait.h"
@@ -7,6 +7,7 @@
 #include "ui/TrashProgress.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QLabel>
 #include <QMessageBox>
 #include <QProgressBar>
@@ -76,6 +77,41 @@ bool isQuitQuestion(const QMessageBox* box)
 }
 
 }  // namespace
+
+TEST(EmptyTrash, AsksThenEmptiesOrReportsWhy)
+{
+    WindowFixture fixture;
+    std::atomic<int> emptied{0};
+    CategoryPage* page = fixture.open(CategoryID::trash, {trashRow()}, [&](AppModel::Services& services) {
+        services.emptyTrash = [&emptied](const FreedesktopTrash::EmptyProgress&, const CancellationToken&) -> std::optional<QString> {
+            if (++emptied == 1)
+                return std::nullopt;
+            return QStringLiteral("Finder isn't allowed to empty the Trash.");
+        };
+    });
+    ASSERT_TRUE(page && page->emptyTrashButton()->isVisible());
+    EXPECT_FALSE(page->selectAll()->isEnabled());
+
+    page->emptyTrashButton()->click();
+    ASSERT_TRUE(fixture.question());
+    EXPECT_EQ(fixture.question()->informativeText(), "Everything in the Trash is deleted for good, including files you put there yourself. This can't be undone.");
+    WindowFixture::answer(fixture.question(), "Cancel");
+    EXPECT_EQ(emptied, 0);
+
+    page->emptyTrashButton()->click();
+    WindowFixture::answer(fixture.question(), "Empty Trash");
+    ASSERT_TRUE(waitUntil([&] { return emptied == 1 && !fixture.model().trashState().isEmptying; }));
+    EXPECT_EQ(fixture.question(), nullptr);
+
+    // The Trash is looked at again after emptying; the button asks once that is done.
+    ASSERT_TRUE(waitUntil([&] { return page->emptyTrashButton()->isVisible() && page->emptyTrashButton()->isEnabled(); }));
+    page->emptyTrashButton()->click();
+    ASSERT_TRUE(fixture.question());
+    WindowFixture::answer(fixture.question(), "Empty Trash");
+    ASSERT_TRUE(waitUntil([&] { return fixture.question() != nullptr; }));
+    EXPECT_EQ(fixture.question()->text(), "Couldn't empty the Trash");
+    EXPECT_EQ(fixture.question()->informativeText(), "Finder isn't allowed to empty the Trash.");
+}
 
 TEST(EmptyTrash, ShowsItemsRemovedAndStopsBetweenThem)
 {

@@ -75,6 +75,8 @@ TEST(MainWindow, SidebarListsBothGroupsInOrderAndSetsApartWhatCantFillOnLinux)
     EXPECT_EQ(fixture.window().destination(), SidebarDestination::of(CategoryID::xcode));
     EXPECT_TRUE(showsLabel(*fixture.window().categoryPage(), Categories::explanation(CategoryID::xcode)));
     EXPECT_TRUE(Categories::explanation(CategoryID::xcode).contains("this computer has none of its data"));
+    const QTreeWidgetItem* about = sidebar->itemFor(SidebarDestination::screen(SidebarDestination::Kind::about));
+    EXPECT_TRUE(about && about->flags() & Qt::ItemIsEnabled) << "the About screen is offered";
 }
 
 TEST(MainWindow, TheChosenSidebarRowIsHighlightedInOneColourAcrossTheRow)
@@ -183,9 +185,6 @@ TEST(MainWindow, ChoosingAnotherScreenWithASelectionAsksFirst)
     fixture.clickCheckbox(row.id);
     ASSERT_TRUE(fixture.model().selection().contains(row.id));
 
-    fixture.show(CategoryID::logs);
-    EXPECT_EQ(fixture.question(), nullptr) << "choosing the shown screen asks nothing";
-
     fixture.show(CategoryID::trash);
     QMessageBox* box = fixture.question();
     ASSERT_TRUE(box);
@@ -193,7 +192,6 @@ TEST(MainWindow, ChoosingAnotherScreenWithASelectionAsksFirst)
     EXPECT_EQ(box->informativeText(), "You selected 1 item here (" + ByteCount::format(row.size)
               + "). Clean it now, or clear the selection and go on.");
     EXPECT_EQ(fixture.window().destination(), SidebarDestination::of(CategoryID::logs));
-    EXPECT_EQ(fixture.window().navigation().pendingDestination(), SidebarDestination::of(CategoryID::trash));
 
     WindowFixture::answer(box, "Cancel");
     EXPECT_EQ(fixture.window().destination(), SidebarDestination::of(CategoryID::logs));

@@ -1,35 +1,14 @@
-// One copy per user: a second launch, in this process or as the real app, asks the first to
-// come to the front and ends.
+// One copy per user: a second launch asks the first to come to the front and ends.
 #include "support/Wait.h"
 #include "ui/SingleInstance.h"
 
 #include <QFileInfo>
 #include <QProcess>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
 using namespace std::chrono_literals;
-
-TEST(SingleInstance, ASecondClaimRaisesTheFirstAndALaterOneRunsOnceItHasGone)
-{
-    QTemporaryDir folder;
-    ASSERT_TRUE(folder.isValid());
-    auto first = std::make_unique<SingleInstance>(folder.path());
-    QSignalSpy raised(first.get(), &SingleInstance::activationRequested);
-    ASSERT_TRUE(first->claim());
-
-    SingleInstance second(folder.path());
-    EXPECT_FALSE(second.claim(2s));
-    EXPECT_TRUE(waitUntil([&] { return raised.count() == 1; }));
-
-    first.reset();
-    SingleInstance third(folder.path());
-    EXPECT_TRUE(third.claim(2s)) << "the lock of a copy that ended must not hold the next launch";
-    SingleInstance fourth(folder.path());
-    EXPECT_FALSE(fourth.claim(2s));
-}
 
 namespace {
 

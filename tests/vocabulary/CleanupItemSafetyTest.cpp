@@ -91,61 +91,53 @@ TEST(CleanupItemSafety, PathRulesTurnExactlyAtTheirBoundaries)
         EXPECT_EQ(item(c.category, QString::fromUtf8(c.path)).safety(home), c.expected) << c.path;
 }
 
-TEST(CleanupItemSafety, FixedLabelsIgnoreTheScannersVerdict)
+// Some categories always show their own label; others take the scanner's verdict, with a
+// default of their own without one; rows of tools, runtimes and leftovers by what they hold.
+TEST(CleanupItemSafety, EachCategoryFixesItsLabelOrTakesTheScannersVerdict)
 {
-    for (CategoryID category : {CategoryID::aiModels, CategoryID::installers, CategoryID::oldDownloads, CategoryID::duplicates})
-        EXPECT_EQ(item(category, "/Users/a/f", Safety::safe).safety(home), Safety::askAI);
-    for (CategoryID category : {CategoryID::apps, CategoryID::largeFiles, CategoryID::trash})
-        EXPECT_EQ(item(category, "/Users/a/f", Safety::safe).safety(home), Safety::risky);
-    EXPECT_EQ(item(CategoryID::browserCaches, "/Users/a/x", Safety::risky).safety(home), Safety::safe);
-}
-
-TEST(CleanupItemSafety, ScannersVerdictWinsWhereTheCategoryConsultsIt)
-{
-    // Without a verdict each category has its own default.
-    EXPECT_EQ(item(CategoryID::projects, "/p/node_modules").safety(home), Safety::safe);
-    EXPECT_EQ(item(CategoryID::worktrees, "/p/wt").safety(home), Safety::risky);
-    EXPECT_EQ(item(CategoryID::aiAgents, "/Users/a/.claude/x").safety(home), Safety::askAI);
-    const PathCase cases[] = {
-        {CategoryID::projects, "/p/build", Safety::askAI},
-        {CategoryID::worktrees, "/p/wt", Safety::askAI},
-        {CategoryID::aiAgents, "/Users/a/.claude/x", Safety::safe},
-        {CategoryID::xcode, "/Users/a/Library/Developer/Xcode/Archives/a", Safety::askAI},
-        {CategoryID::temporary, "/tmp/x", Safety::risky},  // counts even outside the home folder
-    };
-    for (const PathCase& c : cases)
-        EXPECT_EQ(item(c.category, QString::fromUtf8(c.path), c.expected).safety(home), c.expected) << c.path;
-}
-
-TEST(CleanupItemSafety, ItemsWithoutTargetsAreSafeAndLeftoversAskWhenTheyHoldPersonalData)
-{
-    for (CategoryID category : {CategoryID::xcode, CategoryID::devices, CategoryID::temporary, CategoryID::packageCaches})
-        EXPECT_EQ(item(category).safety(home), Safety::safe);
     CleanupItem leftover = item(CategoryID::leftovers, "/Users/a/Library/Application Support/com.x.app");
-    EXPECT_EQ(leftover.safety(home), Safety::safe);
-    leftover.userData = {"/Users/a/Library/Application Support/com.x.app/Documents"};
-    EXPECT_EQ(leftover.safety(home), Safety::askAI);
-}
-
-TEST(CleanupItemSafety, DockerLabelsFollowTheOperation)
-{
-    EXPECT_EQ(dockerItem({DockerOperation::Volume{"db", "2024-01-01"}}).safety(home), Safety::risky);
-    EXPECT_EQ(dockerItem({DockerOperation::BuildCache{}}).safety(home), Safety::safe);
-    EXPECT_EQ(dockerItem({DockerOperation::Container{"abc"}}).safety(home), Safety::askAI);
-    EXPECT_EQ(dockerItem({DockerOperation::Image{"sha256:1", {}, {}}}).safety(home), Safety::askAI);
-    EXPECT_EQ(item(CategoryID::docker, "/Users/a/x").safety(home), Safety::askAI);
-}
-
-TEST(CleanupItemSafety, SimulatorRuntimesAlwaysAsk)
-{
+    CleanupItem withData = leftover;
+    withData.userData = {"/Users/a/Library/Application Support/com.x.app/Documents"};
     CleanupItem runtime = item(CategoryID::simulators, {}, Safety::safe);
     runtime.removal = {Removal::SimulatorRuntime{"com.apple.runtime.17"}};
-    EXPECT_EQ(runtime.safety(home), Safety::askAI);
     CleanupItem device = item(CategoryID::simulators, {}, Safety::safe);
     device.removal = {Removal::SimulatorDevice{"UDID", std::nullopt}};
-    EXPECT_EQ(device.safety(home), Safety::safe);
-    device.safetyLevel.reset();
-    EXPECT_EQ(device.safety(home), Safety::askAI);
+    CleanupItem unjudgedDevice = device;
+    unjudgedDevice.safetyLevel.reset();
+    const std::vector<std::pair<CleanupItem, Safety>> cases = {
+        {item(CategoryID::aiModels, "/Users/a/f", Safety::safe), Safety::askAI},
+        {item(CategoryID::installers, "/Users/a/f", Safety::safe), Safety::askAI},
+        {item(CategoryID::oldDownloads, "/Users/a/f", Safety::safe), Safety::askAI},
+        {item(CategoryID::duplicates, "/Users/a/f", Safety::safe), Safety::askAI},
+        {item(CategoryID::apps, "/Users/a/f", Safety::safe), Safety::risky},
+        {item(CategoryID::largeFiles, "/Users/a/f", Safety::safe), Safety::risky},
+        {item(CategoryID::trash, "/Users/a/f", Safety::safe), Safety::risky},
+        {item(CategoryID::browserCaches, "/Users/a/x", Safety::risky), Safety::safe},
+        {item(CategoryID::projects, "/p/node_modules"), Safety::safe},
+        {item(CategoryID::worktrees, "/p/wt"), Safety::risky},
+        {item(CategoryID::aiAgents, "/Users/a/.claude/x"), Safety::askAI},
+        {item(CategoryID::projects, "/p/build", Safety::askAI), Safety::askAI},
+        {item(CategoryID::worktrees, "/p/wt", Safety::askAI), Safety::askAI},
+        {item(CategoryID::aiAgents, "/Users/a/.claude/x", Safety::safe), Safety::safe},
+        {item(CategoryID::xcode, "/Users/a/Library/Developer/Xcode/Archives/a", Safety::askAI), Safety::askAI},
+        {item(CategoryID::temporary, "/tmp/x", Safety::risky), Safety::risky},  // even outside the home folder
+        {item(CategoryID::xcode), Safety::safe},
+        {item(CategoryID::devices), Safety::safe},
+        {item(CategoryID::temporary), Safety::safe},
+        {item(CategoryID::packageCaches), Safety::safe},
+        {leftover, Safety::safe},
+        {withData, Safety::askAI},
+        {dockerItem({DockerOperation::Volume{"db", "2024-01-01"}}), Safety::risky},
+        {dockerItem({DockerOperation::BuildCache{}}), Safety::safe},
+        {dockerItem({DockerOperation::Container{"abc"}}), Safety::askAI},
+        {dockerItem({DockerOperation::Image{"sha256:1", {}, {}}}), Safety::askAI},
+        {item(CategoryID::docker, "/Users/a/x"), Safety::askAI},
+        {runtime, Safety::askAI},
+        {device, Safety::safe},
+        {unjudgedDevice, Safety::askAI},
+    };
+    for (size_t i = 0; i < cases.size(); ++i)
+        EXPECT_EQ(cases[i].first.safety(home), cases[i].second) << "case " << i << ": " << Categories::rawValue(cases[i].first.category).toStdString();
 }
 
 TEST(CleanupItem, MovingNeedsPathsNoLockAndNotAWorktree)

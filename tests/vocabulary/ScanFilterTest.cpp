@@ -37,24 +37,12 @@ TEST(ScanFilter, SafeListIdsAndProtectedPaths)
     EXPECT_TRUE(filter.drops(itemAt("/Users/a/Projects/keep/node_modules")));
     EXPECT_FALSE(filter.drops(itemAt("/Users/a/Projects/keeper")));
     EXPECT_FALSE(filter.drops(itemAt("/tmpdir/x")));
+    CleanupItem twoPlaces = itemAt("/var/x");
+    twoPlaces.removal = Removal::trash({*itemAt("/var/x").removal.as<Removal::Trash>()->targets.begin(),
+                                        *itemAt("/tmp/y").removal.as<Removal::Trash>()->targets.begin()});
+    EXPECT_TRUE(filter.drops(twoPlaces)) << "one protected path of the item is enough";
 
     CleanupItem inProject = itemAt("/Users/a/elsewhere/build");
     inProject.projectPath = "/Users/a/Projects/keep";
     EXPECT_TRUE(filter.drops(inProject));
-}
-
-// A row the remover would refuse for its place is shown locked with the same sentence, never
-// offered and then refused; a row locked for another reason keeps that reason.
-TEST(ScanFilter, RowsWhereRemovalCannotReachAreShownLocked)
-{
-    const ScanFilter filter("/Users/a", {"/Users/a/safe"}, {});
-    CleanupItem running = itemAt("/opt/tool/cache");
-    running.lockedReason = QStringLiteral("Running. Quit Tool to remove it.");
-    const QList<CleanupItem> shown = filter.shown({itemAt("/Users/a/Library/Caches/x"), itemAt("/private/tmp/old"),
-                                                   itemAt("/Users/a/safe"), running},
-                                                  {"/Users/a"});
-    ASSERT_EQ(shown.size(), 3);
-    EXPECT_FALSE(shown[0].lockedReason.has_value());
-    EXPECT_EQ(shown[1].lockedReason, "It is outside your home folder.");
-    EXPECT_EQ(shown[2].lockedReason, "Running. Quit Tool to remove it.");
 }

@@ -2,9 +2,13 @@
 // translated and not empty, the same placeholders as the source in every form, every plural form
 // the language has, and a translator comment on every source text. The catalogue of the source
 // language (English) needs only the forms of its counted texts; its other texts are the sources.
+// Those forms read right for one and for many, and no counted text of the sources is missing.
+#include <QCoreApplication>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QRegularExpression>
+#include <QSet>
 #include <QXmlStreamReader>
 
 #include <gtest/gtest.h>
@@ -132,6 +136,33 @@ QStringList catalogueFiles()
     return files;
 }
 
+// The string literals of the sources that hold a count placeholder, read line by line: a token is
+// a string literal or the comment that ends the line (translator comments quote texts too).
+QSet<QString> countedLiterals()
+{
+    static const QRegularExpression charLiteral(QStringLiteral(R"re('(?:[^'\\]|\\.)')re"));
+    static const QRegularExpression token(QStringLiteral(R"re("((?:[^"\\]|\\.)*)"|//.*)re"));
+    static const QRegularExpression count(QStringLiteral("%L?n"));
+    QSet<QString> found;
+    QDirIterator files(QStringLiteral(DUSTLARK_SOURCE_DIR "/src"), {QStringLiteral("*.cpp")}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        QFile file(files.next());
+        if (!file.open(QIODevice::ReadOnly))
+            continue;
+        for (QString line : QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'))) {
+            line.remove(charLiteral);
+            for (const auto& match : token.globalMatch(line)) {
+                if (match.captured(0).startsWith(QLatin1String("//")))
+                    break;
+                if (match.captured(1).contains(count))
+                    found.insert(match.captured(1).replace(QStringLiteral("\\\""), QStringLiteral("\"")));
+            }
+        }
+    }
+    return found;
+}
+
 }  // namespace
 
 TEST(TranslationCatalogues, EveryMessageIsFinishedWithTheSourcesPlaceholdersAndEveryPluralForm)
@@ -176,4 +207,26 @@ TEST(TranslationCatalogues, TheCheckSeesEachKindOfFault)
     Message lostCount = counted;
     lostCount.forms[0] = "eine Datei in %1";
     EXPECT_FALSE(problems(lostCount, false, 2).isEmpty());
+}
+
+TEST(PluralTexts, EveryCountedEnglishTextReadsRightForOneAndForMany)
+{
+    // "1 files", "1 items are": a count of one followed by a plural word.
+    static const QRegularExpression pluralAfterOne(QStringLiteral(R"(\b1 (?:\S+ )?(\w+s|are|They)\b)"));
+    QSet<QString> catalogued;
+    for (const Message& text : read(QStringLiteral(DUSTLARK_SOURCE_DIR "/translations/dustlark_en.ts")).messages) {
+        if (!text.counted)
+            continue;
+        catalogued.insert(text.source);
+        const QByteArray context = text.context.toUtf8();
+        const QByteArray source = text.source.toUtf8();
+        const QString one = QCoreApplication::translate(context.constData(), source.constData(), nullptr, 1);
+        const QString two = QCoreApplication::translate(context.constData(), source.constData(), nullptr, 2);
+        EXPECT_FALSE(pluralAfterOne.match(one).hasMatch()) << one.toStdString();
+        EXPECT_TRUE(two.contains(QLatin1Char('2'))) << two.toStdString();
+    }
+    ASSERT_FALSE(catalogued.isEmpty());
+    for (const QString& literal : countedLiterals())
+        EXPECT_TRUE(catalogued.contains(literal)) << "run the dustlark_core_lupdate target and write both English forms: "
+                                                  << literal.toStdString();
 }
