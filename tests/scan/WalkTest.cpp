@@ -1,5 +1,4 @@
 #include "WalkFixture.h"
-#include "scan/ProjectScanner.h"
 
 #include <QFile>
 
@@ -76,18 +75,6 @@ TEST_F(WalkFiles, HiddenFoldersBelowTheRootAndSyncedHomeFoldersAreIgnored)
     EXPECT_EQ(candidates(home), QStringList({"home/Documents/Google Drive/big", "home/Projects/.bigfile"}));
 }
 
-TEST_F(WalkFiles, SymbolicLinksAreNeverFollowed)
-{
-    tree.sparseFile("outside/big", 300'000'000);
-    tree.sparseFile("outside/folder/big", 300'000'000);
-    tree.symlink("scan/file-link", tree.path("outside/big"));
-    tree.symlink("scan/folder-link", tree.path("outside/folder"));
-    tree.symlink("scan/dangling", tree.path("nowhere"));
-    const Walk walk = walked({"scan"});
-    EXPECT_TRUE(walk.duplicateCandidates().isEmpty());
-    EXPECT_TRUE(walk.largeFiles().isEmpty());
-}
-
 using WalkSkips = WalkFixture;
 
 TEST_F(WalkSkips, PackagesInAnyCaseAreNeverEntered)
@@ -115,34 +102,6 @@ TEST_F(WalkSkips, SafeFoldersGoPackagesAndHomeToolFolders)
     const Walk walk = walked({"home"});
     EXPECT_EQ(candidates(walk), QStringList({"home/Documents/Library/big", "home/Work/other/big", "home/go/src/big"}));
     EXPECT_TRUE(walk.artifacts().isEmpty()) << qPrintable(artifacts(walk).join(", "));
-}
-
-TEST_F(WalkSkips, NestedScanFoldersAreWalkedOnce)
-{
-    tree.sparseFile("home/code/app/big", 2'000'000);
-    tree.sparseFile("home/code/lib/big", 2'000'000);
-    const QStringList roots = ProjectScanner::distinctRoots(
-        {tree.path("home/code/app"), "~/code", tree.path("home/code/lib/")}, context.home);
-    ASSERT_EQ(roots, QStringList({tree.path("home/code")}));
-    Walk walk(context);
-    for (const QString& root : roots)
-        walk.run(root);
-    EXPECT_EQ(candidates(walk), QStringList({"home/code/app/big", "home/code/lib/big"}));
-}
-
-TEST_F(WalkFiles, UnreadableFoldersAreCountedAndTheWalkGoesOn)
-{
-    tree.sparseFile("scan/open/big", 2'000'000);
-    tree.sparseFile("scan/locked/big", 2'000'000);
-    ::chmod(QFile::encodeName(tree.path("scan/locked")).constData(), 0);
-    const auto result = tree.runUnprivileged([&] {
-        const Walk walk = walked({"scan"});
-        return QByteArray::number(walk.unreadable()) + ' ' + candidates(walk).join(',').toUtf8();
-    });
-    ::chmod(QFile::encodeName(tree.path("scan/locked")).constData(), 0755);
-    if (!result)
-        GTEST_SKIP() << "running as root, and a child as 'nobody' could not be started to honour folder modes";
-    EXPECT_EQ(*result, "1 scan/open/big");
 }
 
 // A name that is not valid text could be neither shown nor found again by its path: such
