@@ -9,21 +9,16 @@
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
 namespace {
 
-// Allocated bytes of a folder's own files and blocks, without its sub-folders (du -S).
+// Allocated bytes of a folder's own files and blocks, without its sub-folders.
 qint64 duOwn(const QString& folder)
 {
-    QProcess process;
-    process.start(QStringLiteral("du"), {QStringLiteral("-s"), QStringLiteral("-S"), QStringLiteral("-x"),
-                                         QStringLiteral("-B1"), folder});
-    process.waitForFinished(60'000);
-    return process.readAllStandardOutput().split('\t').first().toLongLong();
+    return StorageFixture::du({folder}, {QStringLiteral("-S")});
 }
 
 // The blocks of one entry itself (a folder's list of names, not what it holds).

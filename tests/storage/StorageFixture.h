@@ -24,11 +24,11 @@ public:
     }
 
     // Allocated bytes of the given paths by `du -s -x -B1`: a file with several links once, no
-    // other volume entered.
-    static qint64 du(const QStringList& paths)
+    // other volume entered; `options` adds du's own (-S: without sub-folders).
+    static qint64 du(const QStringList& paths, const QStringList& options = {})
     {
         QProcess process;
-        process.start(QStringLiteral("du"), QStringList{QStringLiteral("-s"), QStringLiteral("-x"), QStringLiteral("-B1")} + paths);
+        process.start(QStringLiteral("du"), QStringList{QStringLiteral("-s"), QStringLiteral("-x"), QStringLiteral("-B1")} + options + paths);
         process.waitForFinished(60'000);
         qint64 sum = 0;
         for (const QByteArray& line : process.readAllStandardOutput().split('\n'))
