@@ -45,15 +45,6 @@ QString firstUnbalanced(const FolderNode& node, const QString& path = {})
 
 class FolderTreeTest : public ::testing::Test, public StorageFixture {
 protected:
-    StorageReport analyzed(qsizetype treeNodes = HomeTree::nodesKept) const
-    {
-        StorageAnalyzer::Request asked = request();
-        asked.treeNodes = treeNodes;
-        const auto report = StorageAnalyzer::analyze(asked);
-        EXPECT_TRUE(report.has_value());
-        return report.value_or(StorageReport{});
-    }
-
     QStringList homeRoots() const
     {
         QStringList paths = roots();
@@ -147,7 +138,7 @@ TEST_F(FolderTreeTest, TheNodeBoundKeepsTheLargestFoldersAndEveryByte)
     file("many/g0/f000/deeper/x.bin", 4'096);
 
     constexpr qsizetype limit = 40;
-    const StorageReport report = analyzed(limit);
+    const StorageReport report = analyzed(true, limit);
     EXPECT_EQ(firstUnbalanced(report.tree), QString());
     EXPECT_LE(report.tree.nodeCount(), limit);
     EXPECT_GT(report.tree.nodeCount(), limit / 2) << "the bound folds the smallest, not nearly all";

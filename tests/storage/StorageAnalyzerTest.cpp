@@ -27,13 +27,6 @@ const StorageReport::FolderUsage* usageAt(const StorageReport& report, StorageBu
 
 class StorageAnalyzerTest : public ::testing::Test, public StorageFixture {
 protected:
-    StorageReport analyzed(bool fullDiskAccess = true) const
-    {
-        const auto report = StorageAnalyzer::analyze(request(fullDiskAccess));
-        EXPECT_TRUE(report.has_value());
-        return report.value_or(StorageReport{});
-    }
-
     qint64 duOf(const QString& relative) const { return du({home + '/' + relative}); }
 };
 

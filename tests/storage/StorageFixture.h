@@ -4,6 +4,7 @@
 #include "support/TempTree.h"
 
 #include <QProcess>
+#include <gtest/gtest.h>
 #include <QStringList>
 
 // A fixture home ("home") and applications folder ("Applications") in a temporary tree, and
@@ -21,6 +22,16 @@ public:
         request.applications = applications;
         request.fullDiskAccess = fullDiskAccess;
         return request;
+    }
+
+    // The analysis of the fixture, its tree bounded to `treeNodes`; a failed one fails the test.
+    StorageReport analyzed(bool fullDiskAccess = true, qsizetype treeNodes = HomeTree::nodesKept) const
+    {
+        StorageAnalyzer::Request asked = request(fullDiskAccess);
+        asked.treeNodes = treeNodes;
+        const auto report = StorageAnalyzer::analyze(asked);
+        EXPECT_TRUE(report.has_value());
+        return report.value_or(StorageReport{});
     }
 
     // Allocated bytes of the given paths by `du -s -x -B1`: a file with several links once, no
