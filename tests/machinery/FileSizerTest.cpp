@@ -1,6 +1,7 @@
 #include "machinery/FileSizer.h"
 #include "machinery/Fingerprint.h"
 #include "machinery/ScanProgress.h"
+#include "support/AllocatedBytes.h"
 #include "support/LockedFolders.h"
 #include "support/TempTree.h"
 
@@ -13,14 +14,6 @@
 #include <unistd.h>
 
 namespace {
-
-qint64 allocated(const QString& path)
-{
-    struct stat info {};
-    if (::lstat(QFile::encodeName(path).constData(), &info) != 0)
-        return -1;
-    return static_cast<qint64>(info.st_blocks) * 512;
-}
 
 QByteArray describe(const FileSizer::Measurement& m)
 {
@@ -37,8 +30,8 @@ TEST(FileSizer, CountsBlocksOfFilesAndFoldersAndLogicalLengthOfFiles)
     tree.sparseFile("top/sub/hole.bin", 50'000'000);
     const FileSizer::Measurement m = FileSizer::measure(tree.path("top"));
 
-    const qint64 folders = allocated(tree.path("top")) + allocated(tree.path("top/sub"));
-    EXPECT_EQ(m.bytes, folders + allocated(data) + allocated(tree.path("top/sub/hole.bin")));
+    const qint64 folders = allocatedBytes(tree.path("top")) + allocatedBytes(tree.path("top/sub"));
+    EXPECT_EQ(m.bytes, folders + allocatedBytes(data) + allocatedBytes(tree.path("top/sub/hole.bin")));
     EXPECT_LT(m.bytes, 1'000'000) << "a hole takes no blocks";
     EXPECT_EQ(m.logicalBytes, 50'300'000);
     EXPECT_EQ(m.files, 2);
@@ -59,7 +52,7 @@ TEST(FileSizer, MeasuresASingleFileAndNothingForAMissingPath)
 {
     TempTree tree;
     const QString file = tree.file("lone", 5000);
-    EXPECT_EQ(FileSizer::measure(file).bytes, allocated(file));
+    EXPECT_EQ(FileSizer::measure(file).bytes, allocatedBytes(file));
 
     const FileSizer::Measurement missing = FileSizer::measure(tree.path("missing"));
     EXPECT_EQ(describe(missing), "1 incomplete 0");

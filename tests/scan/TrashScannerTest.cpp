@@ -3,7 +3,6 @@
 #include "support/TempTree.h"
 #include "vocabulary/SystemPlaces.h"
 
-#include <QDir>
 #include <QFile>
 
 #include <gtest/gtest.h>
@@ -22,13 +21,7 @@ protected:
     }
     ~TrashScannerTest() override { qputenv("XDG_DATA_HOME", dataHome); }
 
-    void put(const QString& relative, qint64 size) const
-    {
-        QDir().mkpath(QFileInfo(trash + QLatin1Char('/') + relative).path());
-        QFile file(trash + QLatin1Char('/') + relative);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(QByteArray(size, 'x'));
-    }
+    void put(const QString& relative, qint64 size) const { tree.file(trash.mid(tree.root().size() + 1) + QLatin1Char('/') + relative, size); }
 
     ScanOutput scanned() const { return TrashScanner().scan(context).at(CategoryID::trash); }
 

@@ -1,20 +1,10 @@
 #include "WalkFixture.h"
+#include "support/AllocatedBytes.h"
 
 #include <QFile>
 
 #include <fcntl.h>
 #include <sys/stat.h>
-
-namespace {
-
-qint64 allocated(const QString& path)
-{
-    struct stat info {};
-    ::lstat(QFile::encodeName(path).constData(), &info);
-    return static_cast<qint64>(info.st_blocks) * 512;
-}
-
-}  // namespace
 
 using WalkFiles = WalkFixture;
 
@@ -51,11 +41,11 @@ TEST_F(WalkFiles, CandidatesCarryIdentitySizesAndNanosecondTime)
                                    [&](const DuplicateFinder::File& f) { return f.path == path; });
     ASSERT_NE(real, walk.duplicateCandidates().end());
     EXPECT_EQ(real->size, 1'200'000);
-    EXPECT_EQ(real->allocated, allocated(path));
+    EXPECT_EQ(real->allocated, allocatedBytes(path));
     EXPECT_EQ(real->stamp.modified, 1'700'000'000'123'456'789);
 
     ASSERT_EQ(walk.largeFiles().size(), 1);
-    EXPECT_EQ(walk.largeFiles().front().size, allocated(sparse)) << "a large file's size is what it takes on disk";
+    EXPECT_EQ(walk.largeFiles().front().size, allocatedBytes(sparse)) << "a large file's size is what it takes on disk";
     EXPECT_LT(walk.largeFiles().front().size, 1'000'000);
 }
 
