@@ -119,24 +119,6 @@ TEST(SplitWalk, PiecesDeeperThanTheDescriptorLimitAreWalkedWhole)
     EXPECT_EQ(std::count_if(split.lines.begin(), split.lines.end(), [](const QByteArray& line) { return line.endsWith("/bottom"); }), 4);
 }
 
-TEST(SplitWalk, HardLinksInDifferentPiecesAreReportedOnce)
-{
-    TempTree tree;
-    tree.file("top/a/x/original", 10);
-    for (const char* copy : {"top/b/x/second", "top/c/x/third", "top/d/fourth"})
-        tree.hardlink(copy, "top/a/x/original");
-    tree.file("top/c/x/single", 10);
-
-    WalkRecorder recorder(bytes(tree.path("top")));
-    SplitWalk::Options options = splitting();
-    options.walker.hardLinksOnce = true;
-    SplitWalk(options).walk(bytes(tree.path("top")), recorder);
-
-    const qsizetype items = std::count_if(recorder.lines.begin(), recorder.lines.end(),
-                                          [](const QByteArray& line) { return line.startsWith("item "); });
-    EXPECT_EQ(items, 2) << recorder.lines.join('\n').constData();
-}
-
 TEST(SplitWalk, CancellationEndsEveryThreadAndReportsIt)
 {
     TempTree tree;

@@ -4,6 +4,7 @@
 #include "machinery/SplitWalk.h"
 #include "machinery/TreeWalker.h"
 #include "support/DeepChain.h"
+#include "support/LockedFolders.h"
 #include "support/TempTree.h"
 #include "support/WalkRecorder.h"
 
@@ -175,57 +176,6 @@ TEST(TreeWalker, ChainPastTheDescriptorAndPathLimitsIsMeasuredWholeWithinTheBoun
     }
     EXPECT_EQ(FileSizer::measure(tree.path("top")).bytes, duBytes) << "split into pieces, as the scans measure";
     EXPECT_EQ(openDescriptors(), openAtStart);
-}
-
-// With two descriptors the ancestors of a deep folder are closed; when one of them is moved
-// away meanwhile it cannot be reopened: the entries it had not given yet are given up with
-// one problem per folder, and the walk goes on with the rest of the tree. Which entries were
-// still to come depends on the listing order, so the test notes them at the moment of the move.
-TEST(TreeWalker, AncestorMovedWhileClosedIsGivenUpAndTheWalkGoesOn)
-{
-    TempTree tree;
-    tree.file("top/a/b/c/d/deep");
-    QByteArrayList siblings;
-    for (int i = 0; i < 6; ++i) {
-        for (const char* folder : {"a/b/s", "a/s"}) {
-            siblings.append(QByteArray(folder) + QByteArray::number(i));
-            tree.file(QString::fromLatin1("top/" + siblings.last()));
-        }
-    }
-    tree.file("top/other/file");
-    Recorder recorder(bytes(tree.path("top")));
-    QByteArrayList unread;
-    recorder.onEnter = [&](const TreeEntry& entry) {
-        if (entry.name() == "d") {
-            for (const QByteArray& sibling : siblings) {
-                if (!recorder.lines.contains("item " + sibling))
-                    unread.append(sibling);
-            }
-            QDir().rename(tree.path("top/a"), tree.path("moved"));
-        }
-        return TreeVisitor::Verdict::Enter;
-    };
-    TreeWalker::Options options;
-    options.descriptorLimit = 2;
-    const TreeWalker::Result result = TreeWalker(options).walk(bytes(tree.path("top")), recorder);
-
-    const QByteArray all = recorder.lines.join('\n');
-    EXPECT_EQ(result.end, TreeWalker::End::Finished);
-    if (unread.isEmpty())
-        GTEST_SKIP() << "this listing order read every sibling before the deep folder";
-    EXPECT_TRUE(recorder.lines.contains("item a/b/c/d/deep")) << all.constData();
-    EXPECT_TRUE(recorder.lines.contains("item other/file")) << all.constData();
-    for (const QByteArray& folder : {QByteArray("a/b"), QByteArray("a")}) {
-        const bool givenUp = std::any_of(unread.begin(), unread.end(), [&](const QByteArray& sibling) {
-            return sibling.startsWith(folder + "/s");
-        });
-        EXPECT_EQ(recorder.lines.contains("cannot-open(No such file or directory) " + folder), givenUp)
-            << folder.constData() << '\n' << all.constData();
-    }
-    for (const QByteArray& sibling : unread)
-        EXPECT_FALSE(recorder.lines.contains("item " + sibling)) << "never reported from the moved folder";
-    EXPECT_EQ(countOf(recorder.lines, "enter "), countOf(recorder.lines, "leave ")) << all.constData();
-    EXPECT_EQ(recorder.lines.last(), "leave .");
 }
 
 namespace {
@@ -404,17 +354,14 @@ TEST(TreeWalker, UnreadableFolderIsReportedAndTheWalkGoesOn)
     TempTree tree;
     tree.file("top/a-locked/secret");
     tree.file("top/b-open/visible");
-    ::chmod(bytes(tree.path("top/a-locked")).constData(), 0);
-
-    const auto lines = tree.runUnprivileged([&] {
+    const auto lines = withFoldersLocked(tree, {tree.path("top/a-locked")}, [&] {
         Recorder recorder(bytes(tree.path("top")));
         TreeWalker({}).walk(bytes(tree.path("top")), recorder);
         std::sort(recorder.lines.begin(), recorder.lines.end());
         return recorder.lines.join('|');
     });
-    ::chmod(bytes(tree.path("top/a-locked")).constData(), 0755);
     if (!lines)
-        GTEST_SKIP() << "running as root, and a child as 'nobody' could not be started to honour folder modes";
+        GTEST_SKIP() << cannotLockFolders;
     EXPECT_EQ(*lines, "cannot-open(Permission denied) a-locked|enter .|enter a-locked|enter b-open|"
                       "item b-open/visible|leave .|leave a-locked|leave b-open");
 }

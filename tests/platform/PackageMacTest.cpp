@@ -45,30 +45,24 @@ QStringList imageLines()
             QStringLiteral("rm -rf out/dmg-stage")};
 }
 
-TEST(PackageMac, AdHocByDefaultWithoutHardenedRuntimeOrNotarization)
+// Ad hoc by default, without the hardened runtime or notarization; a Developer ID signs hardened
+// with a timestamp and notarizes the image.
+TEST(PackageMac, SigningDecidesTheRuntimeTheTimestampAndNotarization)
 {
-    const DryRun run = dryRun({});
-    ASSERT_EQ(run.status, 0) << qPrintable(run.error);
-    const QStringList expected = QStringList{
-        QStringLiteral("/opt/qt/bin/macdeployqt out/bin/Dustlark.app -always-overwrite"),
-        QStringLiteral("codesign --force --sign - --entitlements resources/macos/Dustlark.entitlements --deep out/bin/Dustlark.app"),
-        QStringLiteral("codesign --verify --deep --strict --verbose=2 out/bin/Dustlark.app")} + imageLines();
-    EXPECT_EQ(run.lines, expected);
-}
+    const QString deploy = QStringLiteral("/opt/qt/bin/macdeployqt out/bin/Dustlark.app -always-overwrite");
+    const QString sign = QStringLiteral("codesign --force --sign %1 --entitlements resources/macos/Dustlark.entitlements %2--deep out/bin/Dustlark.app");
+    const QString verify = QStringLiteral("codesign --verify --deep --strict --verbose=2 out/bin/Dustlark.app");
 
-TEST(PackageMac, ADeveloperIdSignsHardenedWithATimestampAndNotarizesTheImage)
-{
-    const DryRun run = dryRun({QStringLiteral("DUSTLARK_SIGN_IDENTITY=") + developerId, QStringLiteral("DUSTLARK_NOTARY_PROFILE=dustlark-notary")});
-    ASSERT_EQ(run.status, 0) << qPrintable(run.error);
-    const QStringList expected = QStringList{
-        QStringLiteral("/opt/qt/bin/macdeployqt out/bin/Dustlark.app -always-overwrite"),
-        QStringLiteral("codesign --force --sign %1 --entitlements resources/macos/Dustlark.entitlements --options runtime --timestamp --deep out/bin/Dustlark.app").arg(shownId),
-        QStringLiteral("codesign --verify --deep --strict --verbose=2 out/bin/Dustlark.app")}
-        + imageLines()
-        + QStringList{QStringLiteral("codesign --force --sign %1 --timestamp out/Dustlark-%2.dmg").arg(shownId, version),
-                      QStringLiteral("xcrun notarytool submit out/Dustlark-%1.dmg --keychain-profile dustlark-notary --wait").arg(version),
-                      QStringLiteral("xcrun stapler staple out/Dustlark-%1.dmg").arg(version)};
-    EXPECT_EQ(run.lines, expected);
+    const DryRun adHoc = dryRun({});
+    ASSERT_EQ(adHoc.status, 0) << qPrintable(adHoc.error);
+    EXPECT_EQ(adHoc.lines, QStringList({deploy, sign.arg(QStringLiteral("-"), QString()), verify}) + imageLines());
+
+    const DryRun developer = dryRun({QStringLiteral("DUSTLARK_SIGN_IDENTITY=") + developerId, QStringLiteral("DUSTLARK_NOTARY_PROFILE=dustlark-notary")});
+    ASSERT_EQ(developer.status, 0) << qPrintable(developer.error);
+    EXPECT_EQ(developer.lines, (QStringList({deploy, sign.arg(shownId, QStringLiteral("--options runtime --timestamp ")), verify}) + imageLines()
+                                + QStringList{QStringLiteral("codesign --force --sign %1 --timestamp out/Dustlark-%2.dmg").arg(shownId, version),
+                                              QStringLiteral("xcrun notarytool submit out/Dustlark-%1.dmg --keychain-profile dustlark-notary --wait").arg(version),
+                                              QStringLiteral("xcrun stapler staple out/Dustlark-%1.dmg").arg(version)}));
 }
 
 TEST(PackageMac, AppleIdCredentialsNotarizeWithoutShowingThePassword)

@@ -1,8 +1,8 @@
 #include "format/RelativeDate.h"
-#include "machinery/FileSizer.h"
 #include "platform/Platform.h"
 #include "scan/AgentsScanner.h"
 #include "support/AgentsFixture.h"
+#include "support/LockedFolders.h"
 #include "support/ScanRows.h"
 #include "vocabulary/RemovalReasons.h"
 
@@ -152,29 +152,13 @@ TEST_F(AgentsScannerTest, CodexBackupsKeepOneIdentifierWhileTheirNumberChanges)
     EXPECT_EQ(three->id, two->id);
 }
 
-TEST_F(AgentsScannerTest, RowsOfAMillionBytesOrLessAreNotShown)
-{
-    install("claude");
-    const QString folder = home(QStringLiteral(".claude/projects/-p"));
-    qint64 below = 0;
-    for (qint64 length = 960'000;; length += 4096) {
-        tree.file(QStringLiteral("home/.claude/projects/-p/s.jsonl"), length);
-        const qint64 measured = FileSizer::measure(folder).bytes;
-        if (measured > 999'999)
-            break;
-        below = measured;
-        EXPECT_TRUE(items().isEmpty()) << measured;
-    }
-    ASSERT_GT(below, 990'000);
-    ASSERT_EQ(items().size(), 1);
-    EXPECT_LT(items().first().size, 1'010'000);
-}
-
-TEST_F(AgentsScannerTest, SessionEntriesThatAreLinksMeasureToNothing)
+// A link measures to nothing and a small session folder falls below the size rows start at.
+TEST_F(AgentsScannerTest, LinkedOrSmallSessionFoldersGiveNoRow)
 {
     install("claude");
     big(QStringLiteral("elsewhere/big"));
     tree.symlink(QStringLiteral("home/.claude/projects/-linked"), home(QStringLiteral("elsewhere")));
+    tree.file(QStringLiteral("home/.claude/projects/-small/s.jsonl"), 900'000);
     big(QStringLiteral(".claude/projects/-Users-me-two words\nand a line/s.jsonl"));
     const auto found = items();
     ASSERT_EQ(found.size(), 1);
@@ -294,20 +278,11 @@ TEST_F(AgentsScannerTest, UnreadableFoldersCountAsEmptyAndHideOnlyThemselves)
     big(QStringLiteral(".claude/projects/-locked/a.jsonl"));
     const QStringList locked = {home(QStringLiteral(".codex/sessions/2024")), home(QStringLiteral(".claude/projects/-readable/locked")),
                                 home(QStringLiteral(".claude/projects/-locked"))};
-    for (const QString& folder : locked)
-        QFile::setPermissions(folder, {});
     context.now = QDateTime::currentDateTimeUtc().addDays(3);
 
-    const auto found = tree.runUnprivileged([&] {
-        QStringList titles;
-        for (const CleanupItem& item : items())
-            titles.append(item.title);
-        return titles.join(QLatin1Char('|')).toUtf8();
-    });
-    for (const QString& folder : locked)
-        QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    const auto found = withFoldersLocked(tree, locked, [&] { return titles().join(QLatin1Char('|')).toUtf8(); });
     if (!found)
-        GTEST_SKIP() << "running as root, and a child as 'nobody' could not be started to honour folder modes";
+        GTEST_SKIP() << cannotLockFolders;
     // A project whose own folder can't be read can't be measured; one with a locked subfolder can.
     EXPECT_EQ(*found, QByteArray("Claude Code sessions · /readable|Codex sessions · 2025-03"));
 }

@@ -124,9 +124,6 @@ TEST(AndroidScannerRealTool, TheSystemsListAndItsPsBothShowARunningEmulator)
     EXPECT_TRUE(listed->contains(name));
     ASSERT_TRUE(shownByPs.has_value());
     EXPECT_TRUE(shownByPs->contains(name));
-    const auto afterwards = AndroidScanner().runningAVDs();
-    ASSERT_TRUE(afterwards.has_value());
-    EXPECT_FALSE(afterwards->contains(name)) << "an emulator that ended is no longer listed";
 }
 
 }  // namespace

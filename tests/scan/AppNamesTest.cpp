@@ -1,3 +1,4 @@
+#include "scan/AppFixture.h"
 #include "scan/AppNames.h"
 #include "support/TempTree.h"
 
@@ -7,17 +8,6 @@
 
 namespace {
 
-QByteArray infoPlist(const QString& identifier, const QString& name, const QString& displayName = {})
-{
-    QByteArray xml = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">\n<dict>\n";
-    xml += "<key>CFBundleIdentifier</key><string>" + identifier.toUtf8() + "</string>\n";
-    if (!name.isEmpty())
-        xml += "<key>CFBundleName</key><string>" + name.toUtf8() + "</string>\n";
-    if (!displayName.isEmpty())
-        xml += "<key>CFBundleDisplayName</key><string>" + displayName.toUtf8() + "</string>\n";
-    return xml + "</dict>\n</plist>\n";
-}
-
 // Two application folders as a Mac has them: apps directly inside, apps grouped in a vendor
 // folder, an app with a binary Info.plist, and bundles that tell nothing.
 class AppNamesTest : public ::testing::Test {
@@ -25,13 +15,12 @@ protected:
     AppNamesTest()
     {
         tree.file(QStringLiteral("Applications/Visual Studio Code.app/Contents/Info.plist"),
-                  infoPlist(QStringLiteral("com.microsoft.VSCode"), QStringLiteral("Code"), QStringLiteral("Visual Studio Code")));
+                  plistXml({"CFBundleIdentifier", "com.microsoft.VSCode", "CFBundleName", "Code", "CFBundleDisplayName", "Visual Studio Code"}));
         tree.file(QStringLiteral("Applications/Arc.app/Contents/Info.plist"),
-                  infoPlist(QStringLiteral("company.thebrowser.Browser"), QStringLiteral("Arc")));
-        tree.file(QStringLiteral("Applications/Nameless.app/Contents/Info.plist"),
-                  infoPlist(QStringLiteral("com.example.nameless"), QString()));
+                  plistXml({"CFBundleIdentifier", "company.thebrowser.Browser", "CFBundleName", "Arc"}));
+        tree.file(QStringLiteral("Applications/Nameless.app/Contents/Info.plist"), plistXml({"CFBundleIdentifier", "com.example.nameless"}));
         tree.file(QStringLiteral("Applications/Microsoft Office/Microsoft Word.app/Contents/Info.plist"),
-                  infoPlist(QStringLiteral("com.microsoft.Word"), QStringLiteral("Microsoft Word")));
+                  plistXml({"CFBundleIdentifier", "com.microsoft.Word", "CFBundleName", "Microsoft Word"}));
         tree.file(QStringLiteral("Applications/Broken.app/Contents/Info.plist"), QByteArray("garbage"));
         tree.dir(QStringLiteral("Applications/Empty.app/Contents"));
         QFile::copy(QStringLiteral(DUSTLARK_FIXTURES "/plists/BinaryInfo.plist"),

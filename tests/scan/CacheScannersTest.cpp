@@ -5,8 +5,8 @@
 #include "scan/KnownLocations.h"
 #include "scan/RunningApps.h"
 #include "support/AgentsFixture.h"
-
-#include <QFile>
+#include "support/LockedFolders.h"
+#include "support/ScanRows.h"
 
 #include <gtest/gtest.h>
 
@@ -27,15 +27,6 @@ protected:
     }
     QList<CleanupItem> editorCaches() const { return EditorsScanner(environment()).scan(scanContext()).at(CategoryID::editors).items; }
 };
-
-const CleanupItem* titled(const QList<CleanupItem>& items, const QString& title)
-{
-    for (const CleanupItem& item : items) {
-        if (item.title == title)
-            return &item;
-    }
-    return nullptr;
-}
 
 }  // namespace
 
@@ -140,12 +131,9 @@ TEST_F(CacheScannersTest, EditorCachesOfUninstalledAgentsAndRunningEditors)
     big(QStringLiteral("Library/Caches/JetBrains/IntelliJIdea2024.1/x"));
     big(QStringLiteral(".config/Code/Cache/x"));
 
-    QStringList titles;
     const QList<CleanupItem> idle = editorCaches();
-    for (const CleanupItem& item : idle)
-        titles.append(item.title);
-    EXPECT_EQ(titles, (QStringList{QStringLiteral("VS Code caches"), QStringLiteral("JetBrains cache · IntelliJIdea2024.1")}));
-    const CleanupItem* jetBrains = titled(idle, QStringLiteral("JetBrains cache · IntelliJIdea2024.1"));
+    EXPECT_EQ(titlesOf(idle), (QStringList{QStringLiteral("VS Code caches"), QStringLiteral("JetBrains cache · IntelliJIdea2024.1")}));
+    const CleanupItem* jetBrains = rowTitled(idle, QStringLiteral("JetBrains cache · IntelliJIdea2024.1"));
     ASSERT_TRUE(jetBrains);
     EXPECT_EQ(jetBrains->safety(context.home), Safety::askAI);
     EXPECT_FALSE(jetBrains->lockedReason);
@@ -154,10 +142,10 @@ TEST_F(CacheScannersTest, EditorCachesOfUninstalledAgentsAndRunningEditors)
     running = {QStringLiteral("/opt/jetbrains-toolbox/jetbrains-toolbox"), QStringLiteral("/usr/share/code/code")};
     const QList<CleanupItem> rows = editorCaches();
     ASSERT_EQ(rows.size(), 3);
-    EXPECT_EQ(titled(rows, QStringLiteral("VS Code caches"))->removal.paths().size(), linuxBuild() ? 2 : 1);
-    EXPECT_EQ(titled(rows, QStringLiteral("VS Code caches"))->lockedReason, QStringLiteral("Running. Quit VS Code to clean its caches."));
-    EXPECT_FALSE(titled(rows, QStringLiteral("Cursor caches"))->lockedReason);
-    EXPECT_EQ(titled(rows, QStringLiteral("JetBrains cache · IntelliJIdea2024.1"))->lockedReason,
+    EXPECT_EQ(rowTitled(rows, QStringLiteral("VS Code caches"))->removal.paths().size(), linuxBuild() ? 2 : 1);
+    EXPECT_EQ(rowTitled(rows, QStringLiteral("VS Code caches"))->lockedReason, QStringLiteral("Running. Quit VS Code to clean its caches."));
+    EXPECT_FALSE(rowTitled(rows, QStringLiteral("Cursor caches"))->lockedReason);
+    EXPECT_EQ(rowTitled(rows, QStringLiteral("JetBrains cache · IntelliJIdea2024.1"))->lockedReason,
               QStringLiteral("Running. Quit JetBrains Toolbox to clean its caches."));
 }
 
@@ -178,17 +166,11 @@ TEST_F(CacheScannersTest, AnUnreadableCacheFolderGivesTheNoteAndTheRestIsListed)
 {
     big(QStringLiteral("Library/Caches/com.nowhere.Open/x"));
     big(QStringLiteral("Library/Caches/com.nowhere.Locked/x"));
-    const QString locked = home(QStringLiteral("Library/Caches/com.nowhere.Locked"));
-    QFile::setPermissions(locked, {});
-    const auto found = tree.runUnprivileged([&] {
+    const auto found = withFoldersLocked(tree, {home(QStringLiteral("Library/Caches/com.nowhere.Locked"))}, [&] {
         const ScanOutput output = AppCachesScanner(environment()).scan(scanContext()).at(CategoryID::appCaches);
-        QStringList lines = output.notes;
-        for (const CleanupItem& item : output.items)
-            lines.append(item.title);
-        return lines.join(QLatin1Char('|')).toUtf8();
+        return (output.notes + titlesOf(output.items)).join(QLatin1Char('|')).toUtf8();
     });
-    QFile::setPermissions(locked, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     if (!found)
-        GTEST_SKIP() << "running as root, and a child as 'nobody' could not be started to honour folder modes";
+        GTEST_SKIP() << cannotLockFolders;
     EXPECT_EQ(*found, QByteArray("Some folders couldn't be read: their permissions don't let you open them.|Open"));
 }

@@ -92,7 +92,7 @@ protected:
     ScanContext context;
 };
 
-TEST_F(DockerScannerTest, ImagesFollowWhatTheContainersRun)
+TEST_F(DockerScannerTest, ImagesFollowWhatTheContainersRunAndStoppedContainersAreRows)
 {
     const ScanOutput output = scan();
 
@@ -117,24 +117,20 @@ TEST_F(DockerScannerTest, ImagesFollowWhatTheContainersRun)
     EXPECT_EQ(untagged->size, 1'610'612'736);
     EXPECT_EQ(untagged->removal, scanned({DockerOperation::Image{untaggedImage, {}, {}}}));
     EXPECT_EQ(untagged->safety(home.root()), Safety::askAI);
-}
 
-TEST_F(DockerScannerTest, StoppedContainersSkipLinesThatDoNotDecode)
-{
-    const ScanOutput output = scan();
-
-    const CleanupItem* web = row(output, QStringLiteral("docker:container:c0ffee02a1b2c3d4e5f60718293a4b5c6d7e8f90a1b2c3d4e5f60718293a4b5c"));
-    ASSERT_NE(web, nullptr);
-    EXPECT_EQ(web->title, QStringLiteral("web-test"));
-    EXPECT_EQ(web->badge, QStringLiteral("Container"));
-    EXPECT_EQ(web->detail, QStringLiteral("web:dev · Exited (137) 2 weeks ago"));
-    EXPECT_EQ(web->size, 12'000) << "only the container's own layer counts, not the virtual size";
+    // Stopped containers: a line that doesn't decode is skipped, not the rest.
+    const CleanupItem* webTest = row(output, QStringLiteral("docker:container:c0ffee02a1b2c3d4e5f60718293a4b5c6d7e8f90a1b2c3d4e5f60718293a4b5c"));
+    ASSERT_NE(webTest, nullptr);
+    EXPECT_EQ(webTest->title, QStringLiteral("web-test"));
+    EXPECT_EQ(webTest->badge, QStringLiteral("Container"));
+    EXPECT_EQ(webTest->detail, QStringLiteral("web:dev · Exited (137) 2 weeks ago"));
+    EXPECT_EQ(webTest->size, 12'000) << "only the container's own layer counts, not the virtual size";
     const CleanupItem* created = row(output, QStringLiteral("docker:container:c0ffee03a1b2c3d4e5f60718293a4b5c6d7e8f90a1b2c3d4e5f60718293a4b5c"));
     ASSERT_NE(created, nullptr) << "the line after the broken one still counts";
     EXPECT_EQ(created->size, 0) << "no size printed";
 }
 
-TEST_F(DockerScannerTest, UnusedVolumesWithTheirOriginAndCreationTime)
+TEST_F(DockerScannerTest, UnusedVolumesBuildCacheSummaryAndOrder)
 {
     const ScanOutput output = scan();
 
@@ -154,11 +150,6 @@ TEST_F(DockerScannerTest, UnusedVolumesWithTheirOriginAndCreationTime)
     const QStringList inspections = docker.calls().filter(QStringLiteral("volume inspect"));
     ASSERT_EQ(inspections.size(), 1);
     EXPECT_TRUE(inspections[0].contains(QStringLiteral("{{.Name}}\t{{.CreatedAt}}"))) << qPrintable(inspections[0]);
-}
-
-TEST_F(DockerScannerTest, SummaryBuildCacheAndOrder)
-{
-    const ScanOutput output = scan();
 
     EXPECT_EQ(output.summary, QStringLiteral("Docker uses: images 4.1 GB, containers 12 KB, local volumes 2.5 GB, build cache 640 MB"));
     const CleanupItem* cache = row(output, QStringLiteral("docker:buildcache"));
@@ -207,6 +198,9 @@ TEST_F(DockerScannerTest, MissingRemoteOrStoppedDockerGivesOnlyItsNote)
     docker.answerWithFixture(infoCommand, QStringLiteral("docker/info.txt"));
     docker.answer(stoppedCommand, QString(), 1, QStringLiteral("error during connect"));
     EXPECT_EQ(scan(), down);
+    environment.timeLimit = std::chrono::milliseconds(300);
+    docker.hang(infoCommand);
+    EXPECT_EQ(scan(), down) << "a server check that hangs";
 }
 
 TEST_F(DockerScannerTest, TheDefaultContextWithoutItsSocketNeedsNoRunOfTheTool)
@@ -224,15 +218,6 @@ TEST_F(DockerScannerTest, TheDefaultContextWithoutItsSocketNeedsNoRunOfTheTool)
     docker.answer(contextCommand, QStringLiteral("unix://") + home.path(QStringLiteral("run/gone.sock")) + QLatin1Char('\n'));
     EXPECT_EQ(scan(), (ScanOutput{{}, {DockerScanner::notRunningNote()}, {}}));
     EXPECT_EQ(docker.calls(), QStringList{contextCall}) << "a settings file may name any context; a missing socket answers nothing";
-}
-
-TEST_F(DockerScannerTest, AHangingServerCheckEndsInTheNotRunningNote)
-{
-    environment.timeLimit = std::chrono::milliseconds(300);
-    docker.hang(infoCommand);
-    const ScanOutput output = scan();
-    EXPECT_TRUE(output.items.isEmpty());
-    EXPECT_EQ(output.notes, QStringList{DockerScanner::notRunningNote()});
 }
 
 TEST_F(DockerScannerTest, ALaterListingThatFailsLeavesOutOnlyItsRows)
@@ -282,14 +267,6 @@ std::optional<QStringList> hidingEarlierDockers()
                        QStringLiteral("sh")};
 }
 
-QStringList titles(const QJsonObject& category)
-{
-    QStringList list;
-    for (const QJsonValue& item : category[QStringLiteral("items")].toArray())
-        list << item[QStringLiteral("title")].toString();
-    return list;
-}
-
 // The report tool finds the docker of the home folder's ~/.docker/bin and reads DOCKER_HOST itself.
 TEST_F(DockerScannerTest, TheReportToolFindsTheHomeFoldersDockerAndItsHostVariable)
 {
@@ -303,19 +280,12 @@ TEST_F(DockerScannerTest, TheReportToolFindsTheHomeFoldersDockerAndItsHostVariab
 
     const CliScan local = CliScan::run(home.root(), {QStringLiteral("docker")}, environment, *wrapper);
     ASSERT_EQ(local.program.exitCode, 0) << local.program.standardError.constData();
-    EXPECT_EQ(titles(local.category(QStringLiteral("docker"))),
-              (QStringList{QStringLiteral("shop_pgdata"), QStringLiteral("Untagged image"), QStringLiteral("web:dev"),
-                           QStringLiteral("Build cache"), QStringLiteral("postgres:15"), QStringLiteral("Anonymous volume 9f86d081884c"),
-                           QStringLiteral("web-test"), QStringLiteral("old-db"), QStringLiteral("scratchpad")}));
-    EXPECT_EQ(local.item(QStringLiteral("shop_pgdata"))[QStringLiteral("removal")].toString(), QStringLiteral("docker"));
-    EXPECT_TRUE(local.category(QStringLiteral("docker"))[QStringLiteral("summary")].toString().startsWith(QLatin1String("Docker uses: images 4.1 GB")));
+    EXPECT_EQ(local.items(QStringLiteral("docker")).size(), 9) << "every row the stand-in's engine gives";
 
     const qsizetype callsBefore = docker.calls().size();
     environment.insert(QStringLiteral("DOCKER_HOST"), QStringLiteral("tcp://build-server:2375"));
     const CliScan remote = CliScan::run(home.root(), {QStringLiteral("docker")}, environment, *wrapper);
     EXPECT_TRUE(remote.items(QStringLiteral("docker")).isEmpty());
-    EXPECT_EQ(remote.category(QStringLiteral("docker"))[QStringLiteral("notes")].toArray(),
-              QJsonArray{QStringLiteral("Docker is set to use another computer. Dustlark cleans only Docker on this computer.")});
     EXPECT_EQ(docker.calls().size(), callsBefore) << "the tool is not even run";
 }
 

@@ -1,13 +1,11 @@
 #include "format/RelativeDate.h"
 #include "scan/InstallersScanner.h"
 #include "scan/OldDownloadsScanner.h"
+#include "support/LockedFolders.h"
 #include "support/ScanRows.h"
 #include "support/TempTree.h"
 
-#include <QFile>
-
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 namespace {
 
@@ -31,7 +29,6 @@ protected:
     {
         return ScannerType().scan(context).at(category);
     }
-
 
     TempTree tree;
     ScanContext context;
@@ -69,18 +66,14 @@ TEST_F(DownloadsScannersTest, UnreadableDownloadsGiveANoteAndNoRows)
     aged(QStringLiteral("Downloads/old.pdf"), 400);
     tree.dir(QStringLiteral("home/Desktop"));
     tree.file(QStringLiteral("home/Desktop/locked/Setup.pkg"), 10);
-    ::chmod(QFile::encodeName(tree.path(QStringLiteral("home/Downloads"))).constData(), 0);
-    ::chmod(QFile::encodeName(tree.path(QStringLiteral("home/Desktop/locked"))).constData(), 0);
 
-    const auto seen = tree.runUnprivileged([&] {
+    const auto seen = withFoldersLocked(tree, {tree.path(QStringLiteral("home/Downloads")), tree.path(QStringLiteral("home/Desktop/locked"))}, [&] {
         const ScanOutput downloads = scanned<OldDownloadsScanner>(CategoryID::oldDownloads);
         const ScanOutput installers = scanned<InstallersScanner>(CategoryID::installers);
         return (QStringList{QString::number(downloads.items.size())} + downloads.notes
                 + QStringList{QString::number(installers.items.size())} + installers.notes).join(QLatin1Char('|')).toUtf8();
     });
-    ::chmod(QFile::encodeName(tree.path(QStringLiteral("home/Downloads"))).constData(), 0755);
-    ::chmod(QFile::encodeName(tree.path(QStringLiteral("home/Desktop/locked"))).constData(), 0755);
-    ASSERT_TRUE(seen.has_value()) << "could not run without privileges";
+    ASSERT_TRUE(seen.has_value()) << cannotLockFolders;
     EXPECT_EQ(*seen, "0|Downloads couldn't be read: its permissions don't let you open it."
                      "|0|Some folders couldn't be read: their permissions don't let you open them.");
 }
@@ -111,19 +104,4 @@ TEST_F(DownloadsScannersTest, InstallersAreFoundByExtensionOutsideAppsAndLinks)
     EXPECT_TRUE(InstallersScanner::isInstaller(QStringLiteral("A.Pkg")));
     EXPECT_FALSE(InstallersScanner::isInstaller(QStringLiteral("notes.debian")));
     EXPECT_FALSE(InstallersScanner::isInstaller(QStringLiteral(".dmg")));
-}
-
-TEST_F(DownloadsScannersTest, LinuxPackagesAndAppImagesAreInstallersNotOldDownloads)
-{
-    for (const char* name : {"Downloads/tool_1.2_amd64.deb", "Downloads/tool-1.2.x86_64.RPM",
-                             "Downloads/Editor-3.1.AppImage", "Desktop/org.example.App.flatpakref"})
-        aged(QString::fromLatin1(name), 200);
-    aged(QStringLiteral("Downloads/notes.deb.txt"), 200);
-
-    QStringList installers = titlesOf(scanned<InstallersScanner>(CategoryID::installers).items);
-    installers.sort();
-    EXPECT_EQ(installers, QStringList({"Editor-3.1.AppImage", "org.example.App.flatpakref", "tool-1.2.x86_64.RPM",
-                                       "tool_1.2_amd64.deb"}));
-    EXPECT_EQ(titlesOf(scanned<OldDownloadsScanner>(CategoryID::oldDownloads).items), QStringList({"notes.deb.txt"}))
-        << "an installer is listed once, under Installers";
 }

@@ -1,6 +1,7 @@
 #include "platform/Platform.h"
 #include "scan/KnownLocations.h"
 #include "scan/LocationScanner.h"
+#include "support/ScanRows.h"
 #include "support/TempTree.h"
 #include "vocabulary/PathRules.h"
 
@@ -102,11 +103,7 @@ TEST_F(KnownLinuxLocations, ALinuxHomesCachesAreFoundWhereLinuxKeepsThem)
     tree.file(QStringLiteral("home/Android/Sdk/ndk/26.1/source.properties"), 2'000'000);
     tree.file(QStringLiteral("home/.config/Code/logs/main.log"), 2'000'000);
     const auto titles = [&](CategoryID category, const QList<Location>& group) {
-        QStringList found;
-        const ScanOutputs outputs = LocationScanner(category, group).scan(context);
-        for (const CleanupItem& row : outputs.at(category).items)
-            found.append(row.title);
-        return found;
+        return titlesOf(LocationScanner(category, group).scan(context).at(category).items);
     };
     EXPECT_EQ(titles(CategoryID::packageCaches, KnownLocations::packageCaches()),
               QStringList({"pnpm store", "pip cache"}));

@@ -23,11 +23,12 @@ LeftoversScanner scannerFor(const AppFixture& fixture)
 }
 
 // Files made now change now; a scan that runs `daysLater` days from now sees them that old.
-ScanOutput scanLeftovers(const LeftoversScanner& scanner, const AppFixture& fixture, int daysLater = 31)
+ScanOutput scanLeftovers(const LeftoversScanner& scanner, const AppFixture& fixture, int daysLater = 31, bool fullDiskAccess = true)
 {
     ScanContext context;
     context.home = fixture.home();
     context.now = QDateTime::currentDateTimeUtc().addDays(daysLater);
+    context.fullDiskAccess = fullDiskAccess;
     return scanner.scan(context)[CategoryID::leftovers];
 }
 
@@ -95,11 +96,7 @@ TEST(LeftoversScanner, OnlyRemovedAppsOfVendorsWithNothingInstalledAreListed)
     EXPECT_EQ(viewer->badge, "2 places");
     EXPECT_EQ(viewer->safety(f.home()), Safety::safe);
 
-    ScanContext withoutAccess;
-    withoutAccess.home = f.home();
-    withoutAccess.now = QDateTime::currentDateTimeUtc().addDays(31);
-    withoutAccess.fullDiskAccess = false;
-    EXPECT_EQ(titlesOf(scannerFor(f).scan(withoutAccess)[CategoryID::leftovers].items), QStringList{"com.gone.Viewer"});
+    EXPECT_EQ(titlesOf(scanLeftovers(scannerFor(f), f, 31, false).items), QStringList{"com.gone.Viewer"});
 }
 
 TEST(LeftoversScanner, AGroupContainerAnInstalledAppSignedForIsNotLeftOver)

@@ -1,4 +1,5 @@
 #include "machinery/FileSizer.h"
+#include "scan/AppFixture.h"
 #include "scan/KnownLocations.h"
 #include "scan/LocationScanner.h"
 #include "support/TempTree.h"
@@ -47,12 +48,6 @@ Location fixedAt(QStringList paths, const char* title)
 Location perChildAt(const QString& path, Naming naming, std::optional<QString> detail = std::nullopt)
 {
     return Location{{path}, std::move(naming), true, std::move(detail), {}};
-}
-
-QByteArray workspacePlist(const QString& workspace)
-{
-    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict>"
-           "<key>WorkspacePath</key><string>" + workspace.toUtf8() + "</string></dict></plist>\n";
 }
 
 }  // namespace
@@ -202,10 +197,10 @@ TEST_F(LocationScannerTest, DerivedDataDetailNamesTheProjectAndWhetherItStillExi
 {
     const QString live = tree.dir(QStringLiteral("home/Projects/Shop/Shop.xcodeproj"));
     const QString data = QStringLiteral("home/Library/Developer/Xcode/DerivedData/");
-    tree.file(data + QStringLiteral("Shop-abcdefghijklmnopqrstuvwxyzab/info.plist"), workspacePlist(live));
+    tree.file(data + QStringLiteral("Shop-abcdefghijklmnopqrstuvwxyzab/info.plist"), plistXml({"WorkspacePath", live}));
     tree.file(data + QStringLiteral("Gone-bcdefghijklmnopqrstuvwxyzabc/info.plist"),
-              workspacePlist(home(QStringLiteral("Projects/Gone/Gone.xcworkspace"))));
-    tree.file(data + QStringLiteral("Elsewhere-cdefghijklmnopqrstuvwxyzabcd/info.plist"), workspacePlist(QStringLiteral("/Volumes/Work/X.xcodeproj")));
+              plistXml({"WorkspacePath", home(QStringLiteral("Projects/Gone/Gone.xcworkspace"))}));
+    tree.file(data + QStringLiteral("Elsewhere-cdefghijklmnopqrstuvwxyzabcd/info.plist"), plistXml({"WorkspacePath", QStringLiteral("/Volumes/Work/X.xcodeproj")}));
     tree.file(data + QStringLiteral("NoInfo-defghijklmnopqrstuvwxyzabcde/Build/x"), 10);
     tree.file(data + QStringLiteral("Broken-efghijklmnopqrstuvwxyzabcdef/info.plist"), QByteArray("<plist"));
 

@@ -1,6 +1,8 @@
 #include "format/RelativeDate.h"
 #include "scan/ProjectScanner.h"
 #include "scan/ProjectScannerGit.h"
+#include "support/LockedFolders.h"
+#include "support/ScanRows.h"
 #include "support/TempTree.h"
 
 #include <QFile>
@@ -54,15 +56,6 @@ protected:
         return ProjectScanner(gitCandidates).scan(context);
     }
 
-    static const CleanupItem* find(const ScanOutput& output, const QString& id)
-    {
-        for (const CleanupItem& item : output.items) {
-            if (item.id == id)
-                return &item;
-        }
-        return nullptr;
-    }
-
     QString changedFact(const CleanupItem& item) const
     {
         return item.date ? "project changed " + RelativeDate::format(*item.date, context.now) : QString();
@@ -105,14 +98,14 @@ TEST_F(ProjectScannerScan, CommittedBuildFolderAsksAIAndAnUntrackedOneStaysSafe)
     const ScanOutput projects = scan()[CategoryID::projects];
     ASSERT_EQ(projects.items.size(), 2);
 
-    const CleanupItem* app = find(projects, tree.path("home/code/app/android/build"));
+    const CleanupItem* app = findRow(projects.items, tree.path("home/code/app/android/build"));
     ASSERT_NE(app, nullptr);
     EXPECT_EQ(app->title, "app/android");
     ASSERT_TRUE(app->date.has_value()) << "git and the working copy date the project";
     EXPECT_EQ(RelativeDate::expand(app->detail, context.now), changedFact(*app) + " · 2 files in it are tracked by git");
     EXPECT_EQ(app->safety(home), Safety::askAI);
 
-    const CleanupItem* lib = find(projects, tree.path("home/code/lib/build"));
+    const CleanupItem* lib = findRow(projects.items, tree.path("home/code/lib/build"));
     ASSERT_NE(lib, nullptr);
     EXPECT_EQ(RelativeDate::expand(lib->detail, context.now), changedFact(*lib));
     EXPECT_EQ(lib->safety(home), Safety::safe);
@@ -134,7 +127,7 @@ TEST_F(ProjectScannerScan, OnlyABuildFolderEverRunsGit)
     EXPECT_TRUE(calls[0].endsWith("-C " + tree.path("home/code/droid") + " ls-files -z -- build")) << qPrintable(calls[0]);
     EXPECT_TRUE(calls[0].startsWith("-c core.fsmonitor=false -c core.hooksPath=/dev/null ")) << qPrintable(calls[0]);
 
-    const CleanupItem* modules = find(projects, tree.path("home/code/web/node_modules"));
+    const CleanupItem* modules = findRow(projects.items, tree.path("home/code/web/node_modules"));
     ASSERT_NE(modules, nullptr);
     EXPECT_EQ(modules->safety(home), Safety::safe);
     EXPECT_FALSE(modules->detail.contains("tracked"));
@@ -165,7 +158,7 @@ TEST_F(ProjectScannerScan, LargeFilesSayWhenOpenedIfReadAfterWritingElseWhenChan
 
     const ScanOutput large = scan()[CategoryID::largeFiles];
     ASSERT_EQ(large.items.size(), 2);
-    const CleanupItem* openedRow = find(large, opened);
+    const CleanupItem* openedRow = findRow(large.items, opened);
     ASSERT_NE(openedRow, nullptr);
     EXPECT_EQ(openedRow->date, QDateTime::fromSecsSinceEpoch(jan2020 + 30 * day, QTimeZone::utc()));
     EXPECT_EQ(RelativeDate::expand(openedRow->detail, context.now), "opened " + RelativeDate::format(*openedRow->date, context.now));
@@ -175,7 +168,7 @@ TEST_F(ProjectScannerScan, LargeFilesSayWhenOpenedIfReadAfterWritingElseWhenChan
     EXPECT_EQ(target.content->size, 200'000'000);
     EXPECT_EQ(target.content->modified, jan2020 * 1'000'000'000);
 
-    const CleanupItem* writtenRow = find(large, written);
+    const CleanupItem* writtenRow = findRow(large.items, written);
     ASSERT_NE(writtenRow, nullptr);
     EXPECT_EQ(writtenRow->date, QDateTime::fromSecsSinceEpoch(jan2020, QTimeZone::utc()));
     EXPECT_EQ(RelativeDate::expand(writtenRow->detail, context.now), "changed " + RelativeDate::format(*writtenRow->date, context.now));
@@ -186,19 +179,15 @@ TEST_F(ProjectScannerScan, UnreadableFoldersAreNotedOnProjectsAndLargeFiles)
     tree.file("home/open/x");
     tree.file("home/locked/y");
     tree.file("home/shut/z");
-    for (const char* folder : {"home/locked", "home/shut"})
-        ::chmod(QFile::encodeName(tree.path(folder)).constData(), 0);
-    const auto notes = tree.runUnprivileged([&] {
+    const auto notes = withFoldersLocked(tree, {tree.path("home/locked"), tree.path("home/shut")}, [&] {
         const ScanOutputs outputs = scan();
         return (outputs.at(CategoryID::projects).notes + outputs.at(CategoryID::largeFiles).notes
                 + outputs.at(CategoryID::duplicates).notes + outputs.at(CategoryID::worktrees).notes)
             .join('|')
             .toUtf8();
     });
-    for (const char* folder : {"home/locked", "home/shut"})
-        ::chmod(QFile::encodeName(tree.path(folder)).constData(), 0755);
     if (!notes)
-        GTEST_SKIP() << "running as root, and a child as 'nobody' could not be started to honour folder modes";
+        GTEST_SKIP() << cannotLockFolders;
     // Linux has no privacy prompt to point to: the note names the folders' permissions.
     const QByteArray note = "2 folders couldn't be read: their permissions don't let you open them.";
     EXPECT_EQ(*notes, note + '|' + note);

@@ -81,11 +81,8 @@ TEST_F(SimulatorScannerTest, DeviceRowsCarryTheirRuntimeUseAndLock)
     // The removal carries the exact instant the scan saw, so a later use is noticed.
     EXPECT_EQ(tablet.removal, (Removal{Removal::SimulatorDevice{QStringLiteral("A1B2C3D4-0000-4000-8000-00000000BEEF"),
                                                                 QDateTime::fromString(QStringLiteral("2024-06-01T17:40:02.250Z"), Qt::ISODateWithMs)}}));
-}
 
-TEST_F(SimulatorScannerTest, DevicesOfAGoneRuntimeSayWhyTheyCantRun)
-{
-    const ScanOutput output = scan();
+    // Devices of a runtime that is gone say why they can't run.
     const CleanupItem& withReason = row(output, QStringLiteral("sim:device:0E9D8C7B-6A5F-4E3D-2C1B-0A9F8E7D6C5B"));
     EXPECT_EQ(withReason.badge, QStringLiteral("Unavailable"));
     EXPECT_EQ(withReason.detail, QStringLiteral("removing it keeps iOS 16.4 · never used · can't run: its iOS is gone "

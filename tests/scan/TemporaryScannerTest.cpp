@@ -1,6 +1,7 @@
 #include "actions/TargetCheck.h"
 #include "scan/NewestChange.h"
 #include "scan/TemporaryScanner.h"
+#include "support/ScanRows.h"
 #include "support/TempTree.h"
 #include "vocabulary/RemovalReasons.h"
 
@@ -40,9 +41,7 @@ protected:
 
     QStringList titles() const
     {
-        QStringList found;
-        for (const CleanupItem& item : scanned())
-            found.append(item.title);
+        QStringList found = titlesOf(scanned());
         found.sort();
         return found;
     }

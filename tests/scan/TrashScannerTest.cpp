@@ -1,12 +1,11 @@
 #include "scan/TrashScanner.h"
+#include "support/LockedFolders.h"
 #include "support/TempTree.h"
 #include "vocabulary/SystemPlaces.h"
 
-#include <QDir>
 #include <QFile>
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 namespace {
 
@@ -20,19 +19,9 @@ protected:
         qputenv("XDG_DATA_HOME", QFile::encodeName(tree.dir(QStringLiteral("home/.local/share"))));
         trash = SystemPlaces::trashFolder(context.home);
     }
-    ~TrashScannerTest() override
-    {
-        ::chmod(QFile::encodeName(trash + QStringLiteral("/folder")).constData(), 0755);
-        qputenv("XDG_DATA_HOME", dataHome);
-    }
+    ~TrashScannerTest() override { qputenv("XDG_DATA_HOME", dataHome); }
 
-    void put(const QString& relative, qint64 size) const
-    {
-        QDir().mkpath(QFileInfo(trash + QLatin1Char('/') + relative).path());
-        QFile file(trash + QLatin1Char('/') + relative);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(QByteArray(size, 'x'));
-    }
+    void put(const QString& relative, qint64 size) const { tree.file(trash.mid(tree.root().size() + 1) + QLatin1Char('/') + relative, size); }
 
     ScanOutput scanned() const { return TrashScanner().scan(context).at(CategoryID::trash); }
 
@@ -79,14 +68,12 @@ TEST_F(TrashScannerTest, UnreadableEntriesAreCountedAsFarAsReadable)
     put(QStringLiteral("readable.txt"), 10'000);
     put(QStringLiteral("also-readable.txt"), 10'000);
     put(QStringLiteral("folder/hidden.txt"), 10'000);
-    ::chmod(QFile::encodeName(trash + QStringLiteral("/folder")).constData(), 0);
-
-    const auto seen = tree.runUnprivileged([&] {
+    const auto seen = withFoldersLocked(tree, {trash + QStringLiteral("/folder")}, [&] {
         const ScanOutput output = scanned();
         return (QStringList{QString::number(output.items.size()), output.items.value(0).detail} + output.notes)
             .join(QLatin1Char('|')).toUtf8();
     });
-    ASSERT_TRUE(seen.has_value()) << "could not run without privileges";
+    ASSERT_TRUE(seen.has_value()) << cannotLockFolders;
     EXPECT_EQ(*seen, "1|2 files|Some items in the Trash couldn't be read, so its size counts only the rest. "
                      "Empty Trash removes them too.");
 }

@@ -1,9 +1,8 @@
 #pragma once
 
+#include "ProjectScannerGit.h"
 #include "scan/Walk.h"
 #include "support/TempTree.h"
-
-#include <QProcess>
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -64,12 +63,7 @@ protected:
     // Runs git in `relativeFolder` (created first); fails the test when git does.
     void git(const QString& relativeFolder, const QStringList& arguments) const
     {
-        QProcess process;
-        process.setWorkingDirectory(tree.dir(relativeFolder));
-        process.start(QStringLiteral("git"),
-                      QStringList{"-c", "user.name=Test", "-c", "user.email=test@example.com"} + arguments);
-        ASSERT_TRUE(process.waitForFinished(30'000)) << "git " << qPrintable(arguments.join(' '));
-        ASSERT_EQ(process.exitCode(), 0) << process.readAllStandardError().constData();
+        ProjectScannerGit::run(tree.dir(relativeFolder), arguments);
     }
 
     TempTree tree;

@@ -1,21 +1,10 @@
 #include "WalkFixture.h"
-#include "scan/ProjectScanner.h"
+#include "support/AllocatedBytes.h"
 
 #include <QFile>
 
 #include <fcntl.h>
 #include <sys/stat.h>
-
-namespace {
-
-qint64 allocated(const QString& path)
-{
-    struct stat info {};
-    ::lstat(QFile::encodeName(path).constData(), &info);
-    return static_cast<qint64>(info.st_blocks) * 512;
-}
-
-}  // namespace
 
 using WalkFiles = WalkFixture;
 
@@ -52,11 +41,11 @@ TEST_F(WalkFiles, CandidatesCarryIdentitySizesAndNanosecondTime)
                                    [&](const DuplicateFinder::File& f) { return f.path == path; });
     ASSERT_NE(real, walk.duplicateCandidates().end());
     EXPECT_EQ(real->size, 1'200'000);
-    EXPECT_EQ(real->allocated, allocated(path));
+    EXPECT_EQ(real->allocated, allocatedBytes(path));
     EXPECT_EQ(real->stamp.modified, 1'700'000'000'123'456'789);
 
     ASSERT_EQ(walk.largeFiles().size(), 1);
-    EXPECT_EQ(walk.largeFiles().front().size, allocated(sparse)) << "a large file's size is what it takes on disk";
+    EXPECT_EQ(walk.largeFiles().front().size, allocatedBytes(sparse)) << "a large file's size is what it takes on disk";
     EXPECT_LT(walk.largeFiles().front().size, 1'000'000);
 }
 
@@ -74,18 +63,6 @@ TEST_F(WalkFiles, HiddenFoldersBelowTheRootAndSyncedHomeFoldersAreIgnored)
 
     const Walk home = walked({"home"});
     EXPECT_EQ(candidates(home), QStringList({"home/Documents/Google Drive/big", "home/Projects/.bigfile"}));
-}
-
-TEST_F(WalkFiles, SymbolicLinksAreNeverFollowed)
-{
-    tree.sparseFile("outside/big", 300'000'000);
-    tree.sparseFile("outside/folder/big", 300'000'000);
-    tree.symlink("scan/file-link", tree.path("outside/big"));
-    tree.symlink("scan/folder-link", tree.path("outside/folder"));
-    tree.symlink("scan/dangling", tree.path("nowhere"));
-    const Walk walk = walked({"scan"});
-    EXPECT_TRUE(walk.duplicateCandidates().isEmpty());
-    EXPECT_TRUE(walk.largeFiles().isEmpty());
 }
 
 using WalkSkips = WalkFixture;
@@ -115,34 +92,6 @@ TEST_F(WalkSkips, SafeFoldersGoPackagesAndHomeToolFolders)
     const Walk walk = walked({"home"});
     EXPECT_EQ(candidates(walk), QStringList({"home/Documents/Library/big", "home/Work/other/big", "home/go/src/big"}));
     EXPECT_TRUE(walk.artifacts().isEmpty()) << qPrintable(artifacts(walk).join(", "));
-}
-
-TEST_F(WalkSkips, NestedScanFoldersAreWalkedOnce)
-{
-    tree.sparseFile("home/code/app/big", 2'000'000);
-    tree.sparseFile("home/code/lib/big", 2'000'000);
-    const QStringList roots = ProjectScanner::distinctRoots(
-        {tree.path("home/code/app"), "~/code", tree.path("home/code/lib/")}, context.home);
-    ASSERT_EQ(roots, QStringList({tree.path("home/code")}));
-    Walk walk(context);
-    for (const QString& root : roots)
-        walk.run(root);
-    EXPECT_EQ(candidates(walk), QStringList({"home/code/app/big", "home/code/lib/big"}));
-}
-
-TEST_F(WalkFiles, UnreadableFoldersAreCountedAndTheWalkGoesOn)
-{
-    tree.sparseFile("scan/open/big", 2'000'000);
-    tree.sparseFile("scan/locked/big", 2'000'000);
-    ::chmod(QFile::encodeName(tree.path("scan/locked")).constData(), 0);
-    const auto result = tree.runUnprivileged([&] {
-        const Walk walk = walked({"scan"});
-        return QByteArray::number(walk.unreadable()) + ' ' + candidates(walk).join(',').toUtf8();
-    });
-    ::chmod(QFile::encodeName(tree.path("scan/locked")).constData(), 0755);
-    if (!result)
-        GTEST_SKIP() << "running as root, and a child as 'nobody' could not be started to honour folder modes";
-    EXPECT_EQ(*result, "1 scan/open/big");
 }
 
 // A name that is not valid text could be neither shown nor found again by its path: such

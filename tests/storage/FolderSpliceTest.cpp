@@ -23,13 +23,6 @@ namespace {
 
 class FolderSpliceTest : public ::testing::Test, public StorageFixture {
 protected:
-    StorageReport measured() const
-    {
-        const auto report = StorageAnalyzer::analyze(request());
-        EXPECT_TRUE(report.has_value());
-        return report.value_or(StorageReport{});
-    }
-
     StorageReport remeasured(const StorageReport& report, const QString& relative) const
     {
         const auto spliced = StorageAnalyzer::remeasure(request(), report, home + '/' + relative);
@@ -83,7 +76,7 @@ TEST_F(FolderSpliceTest, AFolderMeasuredAgainEqualsAFreshMeasurementOfTheHome)
     for (int i = 0; i < 1'000; ++i)  // a large folder of small files, and a folder below it
         file(QStringLiteral("code/vendor/f%1.o").arg(i), 100'000);
     file("code/vendor/sub/keep.o", 100'000);
-    StorageReport report = measured();
+    StorageReport report = analyzed();
     ASSERT_EQ(report.largeFolders.size(), 1);
 
     struct Step {
@@ -113,7 +106,7 @@ TEST_F(FolderSpliceTest, AFolderMeasuredAgainEqualsAFreshMeasurementOfTheHome)
         SCOPED_TRACE(step.folder);
         step.change();
         report = remeasured(report, QString::fromUtf8(step.folder));
-        expectSame(report, measured());
+        expectSame(report, analyzed());
     }
     EXPECT_EQ(report.largeFolders.first().fileCount, 1'002) << "the listed folder above took the new file";
 }
@@ -122,7 +115,7 @@ TEST_F(FolderSpliceTest, OnlyFoldersTheTreeKeepsBelowTheHomeAreMeasuredAlone)
 {
     file("Documents/report.pdf", 120'000);
     file("Library/Caches/cache.db", 20'000);
-    const StorageReport report = measured();
+    const StorageReport report = analyzed();
     for (const QString& folder : {home, home + "/Library", home + "/Nowhere", home + "/Documents/", QStringLiteral("/tmp")})
         EXPECT_FALSE(StorageAnalyzer::remeasure(request(), report, folder).has_value()) << folder.toStdString();
     EXPECT_TRUE(StorageAnalyzer::remeasure(request(), report, home + "/Library/Caches").has_value());

@@ -5,32 +5,21 @@
 
 #include "storage/FolderTreeBuilder.h"
 #include "storage/HomeTree.h"
+#include "support/AllocatedBytes.h"
 #include "support/DeepChain.h"
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
 namespace {
 
-// Allocated bytes of a folder's own files and blocks, without its sub-folders (du -S).
+// Allocated bytes of a folder's own files and blocks, without its sub-folders.
 qint64 duOwn(const QString& folder)
 {
-    QProcess process;
-    process.start(QStringLiteral("du"), {QStringLiteral("-s"), QStringLiteral("-S"), QStringLiteral("-x"),
-                                         QStringLiteral("-B1"), folder});
-    process.waitForFinished(60'000);
-    return process.readAllStandardOutput().split('\t').first().toLongLong();
-}
-
-// The blocks of one entry itself (a folder's list of names, not what it holds).
-qint64 blocksOf(const QString& path)
-{
-    struct stat status {};
-    return ::lstat(QFile::encodeName(path).constData(), &status) == 0 ? qint64(status.st_blocks) * 512 : -1;
+    return StorageFixture::du({folder}, {QStringLiteral("-S")});
 }
 
 // Checks the sum at every node; returns the path of the first folder where it fails ("" if none).
@@ -50,15 +39,6 @@ QString firstUnbalanced(const FolderNode& node, const QString& path = {})
 
 class FolderTreeTest : public ::testing::Test, public StorageFixture {
 protected:
-    StorageReport analyzed(qsizetype treeNodes = HomeTree::nodesKept) const
-    {
-        StorageAnalyzer::Request asked = request();
-        asked.treeNodes = treeNodes;
-        const auto report = StorageAnalyzer::analyze(asked);
-        EXPECT_TRUE(report.has_value());
-        return report.value_or(StorageReport{});
-    }
-
     QStringList homeRoots() const
     {
         QStringList paths = roots();
@@ -112,8 +92,8 @@ TEST_F(FolderTreeTest, EveryFolderAddsUpToTheByteAndMatchesDu)
     EXPECT_EQ(at(report, "Documents").bytes, du({home + "/Documents"}));
     EXPECT_EQ(at(report, "Documents").ownBytes, duOwn(home + "/Documents"));
     EXPECT_EQ(at(report, "code").bytes, du({home + "/Documents", home + "/code"}) - du({home + "/Documents"}));
-    EXPECT_EQ(at(report, "code/shop").ownBytes, blocksOf(home + "/code/shop") + blocksOf(home + "/code/shop/main.cpp"));
-    EXPECT_EQ(at(report, "code").ownBytes, blocksOf(home + "/code"));
+    EXPECT_EQ(at(report, "code/shop").ownBytes, allocatedBytes(home + "/code/shop") + allocatedBytes(home + "/code/shop/main.cpp"));
+    EXPECT_EQ(at(report, "code").ownBytes, allocatedBytes(home + "/code"));
     EXPECT_EQ(at(report, "code").fileCount, 1) << "only main.cpp: both links were counted in Documents";
 
     EXPECT_EQ(at(report, "Movies").bytes, du({home + "/Movies"})) << "a sparse file counts its blocks";
@@ -152,7 +132,7 @@ TEST_F(FolderTreeTest, TheNodeBoundKeepsTheLargestFoldersAndEveryByte)
     file("many/g0/f000/deeper/x.bin", 4'096);
 
     constexpr qsizetype limit = 40;
-    const StorageReport report = analyzed(limit);
+    const StorageReport report = analyzed(true, limit);
     EXPECT_EQ(firstUnbalanced(report.tree), QString());
     EXPECT_LE(report.tree.nodeCount(), limit);
     EXPECT_GT(report.tree.nodeCount(), limit / 2) << "the bound folds the smallest, not nearly all";

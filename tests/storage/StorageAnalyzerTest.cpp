@@ -4,6 +4,7 @@
 
 #include "storage/StorageAnalyzer.h"
 #include "storage/StorageWalker.h"
+#include "support/LockedFolders.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -26,13 +27,6 @@ const StorageReport::FolderUsage* usageAt(const StorageReport& report, StorageBu
 
 class StorageAnalyzerTest : public ::testing::Test, public StorageFixture {
 protected:
-    StorageReport analyzed(bool fullDiskAccess = true) const
-    {
-        const auto report = StorageAnalyzer::analyze(request(fullDiskAccess));
-        EXPECT_TRUE(report.has_value());
-        return report.value_or(StorageReport{});
-    }
-
     qint64 duOf(const QString& relative) const { return du({home + '/' + relative}); }
 };
 
@@ -143,14 +137,12 @@ TEST_F(StorageAnalyzerTest, UnreadableFoldersFallIntoTheRemainderWithANote)
 {
     file("Documents/open.pdf", 40'000);
     file("Documents/private/secret.pdf", 400'000);
-    ::chmod(QFile::encodeName(home + "/Documents/private").constData(), 0);
-    const auto measured = tree.runUnprivileged([this] {
+    const auto measured = withFoldersLocked(tree, {home + "/Documents/private"}, [this] {
         const auto report = StorageAnalyzer::analyze(request());
         return report ? QByteArray::number(report->total(StorageBucket::documents)) + '\n' + report->notes.value(0).toUtf8()
                       : QByteArray();
     });
-    ::chmod(QFile::encodeName(home + "/Documents/private").constData(), 0755);
-    ASSERT_TRUE(measured.has_value()) << "could not run as an unprivileged user";
+    ASSERT_TRUE(measured.has_value()) << cannotLockFolders;
     const QList<QByteArray> lines = measured->split('\n');
     EXPECT_EQ(lines.value(0).toLongLong(), 40'960);
     EXPECT_TRUE(lines.value(1).startsWith("1 folder couldn't be read")) << lines.value(1).constData();

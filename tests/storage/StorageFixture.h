@@ -4,6 +4,7 @@
 #include "support/TempTree.h"
 
 #include <QProcess>
+#include <gtest/gtest.h>
 #include <QStringList>
 
 // A fixture home ("home") and applications folder ("Applications") in a temporary tree, and
@@ -23,12 +24,22 @@ public:
         return request;
     }
 
+    // The analysis of the fixture, its tree bounded to `treeNodes`; a failed one fails the test.
+    StorageReport analyzed(bool fullDiskAccess = true, qsizetype treeNodes = HomeTree::nodesKept) const
+    {
+        StorageAnalyzer::Request asked = request(fullDiskAccess);
+        asked.treeNodes = treeNodes;
+        const auto report = StorageAnalyzer::analyze(asked);
+        EXPECT_TRUE(report.has_value());
+        return report.value_or(StorageReport{});
+    }
+
     // Allocated bytes of the given paths by `du -s -x -B1`: a file with several links once, no
-    // other volume entered.
-    static qint64 du(const QStringList& paths)
+    // other volume entered; `options` adds du's own (-S: without sub-folders).
+    static qint64 du(const QStringList& paths, const QStringList& options = {})
     {
         QProcess process;
-        process.start(QStringLiteral("du"), QStringList{QStringLiteral("-s"), QStringLiteral("-x"), QStringLiteral("-B1")} + paths);
+        process.start(QStringLiteral("du"), QStringList{QStringLiteral("-s"), QStringLiteral("-x"), QStringLiteral("-B1")} + options + paths);
         process.waitForFinished(60'000);
         qint64 sum = 0;
         for (const QByteArray& line : process.readAllStandardOutput().split('\n'))
