@@ -64,36 +64,11 @@ TEST_F(RemoverChecks, ScanFoldersCountAsOtherDisksByTheirDevice)
               QStringList{onOtherDisk});
 }
 
-TEST_F(RemoverChecks, RefusesWhatIsOutsideTheHomeFolder)
-{
-    TempTree elsewhere;
-    expectRefused(trashItem({elsewhere.file(QStringLiteral("notes.txt"), 10)}), RemovalReasons::outsideHome());
-
-    environment.home = home.path(QStringLiteral("me"));
-    expectRefused(trashItem({home.file(QStringLiteral("meta/notes.txt"), 10)}), RemovalReasons::outsideHome());
-}
-
-TEST_F(RemoverChecks, RefusesAVanishedFile)
-{
-    const CleanupItem item = trashItem({home.file(QStringLiteral("gone.log"), 10)});
-    QFile::remove(home.path(QStringLiteral("gone.log")));
-    EXPECT_EQ(Remover::remove(item, environment), RemovalOutcome::failed(RemovalReasons::noLongerExists()));
-}
-
 TEST_F(RemoverChecks, RefusesASymbolicLink)
 {
     home.file(QStringLiteral("real.txt"), 10);
     expectRefused(trashItem({home.symlink(QStringLiteral("link.txt"), home.path(QStringLiteral("real.txt")))}),
                   RemovalReasons::symbolicLink());
-}
-
-TEST_F(RemoverChecks, RefusesATargetReplacedByANewFileOfTheSameName)
-{
-    const QString path = home.file(QStringLiteral("cache/blob.bin"), 100);
-    const CleanupItem item = trashItem({path});
-    home.file(QStringLiteral("cache/blob.new"), 100);
-    ASSERT_EQ(::rename(QFile::encodeName(home.path(QStringLiteral("cache/blob.new"))).constData(), QFile::encodeName(path).constData()), 0);
-    expectRefused(item, RemovalReasons::changedSinceScan());
 }
 
 // ext4 hands a freed inode straight back, so a deleted and recreated file or folder can carry

@@ -20,7 +20,7 @@ struct PrivateMountRun {
 
 // Absent when this is not root or unshare(1) is missing.
 std::optional<PrivateMountRun> runInPrivateMount(const QString& script, const QString& argument,
-                                                 const QProcessEnvironment& environment);
+                                                 const QProcessEnvironment& environment, int timeoutMs = 60'000);
 
 // A tmpfs mounted at `mountPoint` in a private namespace, where this test program runs its
 // disabled tests that match `innerFilter` with `environment`.
