@@ -2,6 +2,7 @@
 // private mount namespace; the test program re-runs itself there and runs dustlark-cli clean,
 // which must move the rows into that disk's own trash, as the app's cleanup does.
 
+#include "support/FileLook.h"
 #include "support/PrivateMount.h"
 #include "support/TempTree.h"
 
@@ -21,11 +22,6 @@ namespace {
 
 const char* const homeVariable = "DUSTLARK_CLEAN_HOME";
 const char* const diskVariable = "DUSTLARK_CLEAN_DISK";
-
-QStringList entriesOf(const QString& folder)
-{
-    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-}
 
 void writeFile(const QString& path, const QByteArray& content)
 {

@@ -57,9 +57,7 @@ TEST(EverydayCli, TheEverydayCategoriesShowExactlyTheFixtureRows)
     ASSERT_TRUE(fixture.isValid());
     const QString home = fixture.path() + QStringLiteral("/home");
     put(home + "/tmp/notes-31.txt", 31);
-    put(home + "/tmp/notes-10.txt", 10);
     put(home + "/Downloads/report-91.pdf", 91);
-    put(home + "/Downloads/report-89.pdf", 89);
     put(home + "/Downloads/Setup.dmg", 400);
     put(home + "/Downloads/movie.mov", 400, 300'000'000, true);
     put(home + "/Library/iTunes/iPad Software Updates/iPad_17.ipsw", 20, 2'000'000);
