@@ -35,15 +35,6 @@ std::optional<PrivateMountRun> runInPrivateMount(const QString& script, const QS
     return run;
 }
 
-std::optional<PrivateMountRun> runOnPrivateTmpfs(const QString& mountPoint, const QString& innerFilter,
-                                                 const QProcessEnvironment& environment)
-{
-    const QString script = QStringLiteral("mount -t tmpfs dustlark-test \"$1\" || exit 77; echo MOUNTED; "
-                                          "exec \"$2\" --gtest_also_run_disabled_tests --gtest_filter=%1")
-                               .arg(innerFilter);
-    return runInPrivateMount(script, mountPoint, environment);
-}
-
 QString whyNotMounted(const std::optional<PrivateMountRun>& run)
 {
     if (!run)
