@@ -8,7 +8,6 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
-#include <QTemporaryDir>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -27,14 +26,10 @@ class TrashVolume : public TrashFixture {};
 
 TEST_F(TrashVolume, AScanFolderOnAnotherDiskIsCleanedIntoThatDisksOwnTrash)
 {
-    QTemporaryDir scanFolder(QStringLiteral("/dev/shm/dustlark-XXXXXX"));
-    ASSERT_TRUE(scanFolder.isValid());
-    environment.otherVolumeFolders = {scanFolder.path()};
-    const QString path = scanFolder.filePath(QStringLiteral("build/out.o"));
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("object") == 6);
-    file.close();
+    const TempTree scanFolder(QStringLiteral("/dev/shm"));
+    ASSERT_FALSE(scanFolder.root().isEmpty());
+    environment.otherVolumeFolders = {scanFolder.root()};
+    const QString path = scanFolder.file(QStringLiteral("build/out.o"), QByteArray("object"));
     const ino_t inode = FileStatus::of(path)->st_ino;
 
     ASSERT_EQ(Remover::remove(trashItem({path}), environment), RemovalOutcome::movedToTrash());
