@@ -2,6 +2,7 @@
 #include "actions/FreedesktopTrash.h"
 #include "actions/SystemTrash.h"
 #include "platform/Platform.h"
+#include "support/FileLook.h"
 #include "support/TempTree.h"
 
 #include <QDir>
@@ -49,12 +50,6 @@ protected:
     SystemTrash::FileManagerCalls calls;
     QStringList refusedOpens;
 };
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 TEST_F(FileManagerTrash, ConfirmsTheArrivalWithoutOpeningTheTrash)
 {

@@ -5,61 +5,29 @@
 #include "actions/MoverFixture.h"
 #include "actions/MoverReasons.h"
 #include "actions/ToolStandIn.h"
+#include "support/PrivateMount.h"
 #include "support/TempTree.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QProcess>
-#include <QStandardPaths>
-
-#include <unistd.h>
 
 namespace {
 
-constexpr int unavailable = 77;  // the setup script's exit status when the disk can't be made
-
-struct MountRun {
-    bool skipped = false;
-    QString reason;
-    int status = -1;
-    QString output;
-};
-
-// Runs `setup` (which mounts "$1" and then runs "$@" after a shift, cleaning up afterwards) and
-// the tests matching `filter` inside it.
-MountRun runMounted(const QString& setup, const QString& filter)
+// `setup` mounts the disk at "$1" and prints MOUNTED, then runs the tests matching `filter` of
+// this program ("$2") inside the namespace.
+void expectPassedOnMountedDisk(const QString& setup, const QString& filter)
 {
-    const QString unshare = QStandardPaths::findExecutable(QStringLiteral("unshare"));
-    if (::geteuid() != 0 || unshare.isEmpty())
-        return {true, QStringLiteral("mounting a disk in a private namespace needs root and unshare(1)"), -1, {}};
     TempTree tree;
-    const QString mountPoint = tree.dir(QStringLiteral("disk"));
-    QProcess child;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("DUSTLARK_MOVE_DESTINATION"), mountPoint);
+    environment.insert(QStringLiteral("DUSTLARK_MOVE_DESTINATION"), tree.dir(QStringLiteral("disk")));
     environment.insert(QStringLiteral("DUSTLARK_IMAGE"), tree.path(QStringLiteral("disk.img")));
-    child.setProcessEnvironment(environment);
-    child.setProcessChannelMode(QProcess::MergedChannels);
-    child.start(unshare, {QStringLiteral("--mount"), QStringLiteral("--propagation"), QStringLiteral("private"),
-                          QStringLiteral("sh"), QStringLiteral("-c"), setup, QStringLiteral("sh"), mountPoint,
-                          QCoreApplication::applicationFilePath(), QStringLiteral("--gtest_also_run_disabled_tests"),
-                          QStringLiteral("--gtest_filter=") + filter});
-    if (!child.waitForFinished(120'000))
-        return {false, {}, -1, QStringLiteral("timed out")};
-    MountRun run{false, {}, child.exitCode(), QString::fromLocal8Bit(child.readAll())};
-    if (run.status == unavailable)
-        return {true, QStringLiteral("this machine can't make that disk: ") + run.output.section('\n', 0, 0), run.status, {}};
-    return run;
-}
-
-void expectPassed(const MountRun& run)
-{
-    if (run.skipped)
-        GTEST_SKIP() << qPrintable(run.reason);
-    EXPECT_EQ(run.status, 0) << qPrintable(run.output);
-    EXPECT_TRUE(run.output.contains(QLatin1String("[  PASSED  ]"))) << qPrintable(run.output);
-    EXPECT_FALSE(run.output.contains(QLatin1String("[  SKIPPED ]"))) << qPrintable(run.output);
+    const QString tests = QStringLiteral("\"$2\" --gtest_also_run_disabled_tests --gtest_filter=") + filter;
+    const auto run = runInPrivateMount(setup.arg(tests), tree.path(QStringLiteral("disk")), environment, 120'000);
+    if (const QString why = whyNotMounted(run); !why.isEmpty())
+        GTEST_SKIP() << qPrintable(why);
+    EXPECT_TRUE(run->output.contains(QLatin1String("[  PASSED  ]"))) << qPrintable(run->output + run->error);
+    EXPECT_FALSE(run->output.contains(QLatin1String("[  FAILED  ]"))) << qPrintable(run->output);
+    EXPECT_FALSE(run->output.contains(QLatin1String("[  SKIPPED ]"))) << qPrintable(run->output);
 }
 
 bool insideNamespace()
@@ -68,32 +36,29 @@ bool insideNamespace()
 }
 
 const QString exfatSetup = QStringLiteral(
-    "command -v mkfs.exfat >/dev/null && command -v mount.exfat-fuse >/dev/null || { echo 'no exFAT tools'; exit 77; }\n"
-    "truncate -s 32M \"$DUSTLARK_IMAGE\" && mkfs.exfat \"$DUSTLARK_IMAGE\" >/dev/null 2>&1 || { echo 'mkfs failed'; exit 77; }\n"
-    "loop=$(losetup -f --show \"$DUSTLARK_IMAGE\" 2>&1) || { echo \"$loop\"; exit 77; }\n"
-    "mount.exfat-fuse \"$loop\" \"$1\" >/dev/null 2>&1 || { losetup -d \"$loop\"; echo 'FUSE mount failed'; exit 77; }\n"
-    "shift; \"$@\"; status=$?; umount \"$DUSTLARK_MOVE_DESTINATION\"; losetup -d \"$loop\"; exit $status\n");
+    "command -v mkfs.exfat >/dev/null && command -v mount.exfat-fuse >/dev/null || { echo 'no exFAT tools' >&2; exit 77; }\n"
+    "truncate -s 32M \"$DUSTLARK_IMAGE\" && mkfs.exfat \"$DUSTLARK_IMAGE\" >/dev/null 2>&1 || { echo 'mkfs failed' >&2; exit 77; }\n"
+    "loop=$(losetup -f --show \"$DUSTLARK_IMAGE\" 2>&1) || { echo \"$loop\" >&2; exit 77; }\n"
+    "mount.exfat-fuse \"$loop\" \"$1\" >/dev/null 2>&1 || { losetup -d \"$loop\"; echo 'FUSE mount failed' >&2; exit 77; }\n"
+    "echo MOUNTED; %1; status=$?; umount \"$1\"; losetup -d \"$loop\"; exit $status\n");
 
 // Few inodes, so the copy of a folder of many small files runs out of room halfway.
 const QString smallTmpfsSetup = QStringLiteral(
-    "mount -t tmpfs -o size=4m,nr_inodes=40 dustlark-test \"$1\" || { echo 'tmpfs mount failed'; exit 77; }\n"
-    "shift; exec \"$@\"\n");
+    "mount -t tmpfs -o size=4m,nr_inodes=40 dustlark-test \"$1\" || exit 77; echo MOUNTED; exec %1\n");
 
-const QString readOnlySetup = QStringLiteral(
-    "mount -t tmpfs -o ro dustlark-test \"$1\" || { echo 'tmpfs mount failed'; exit 77; }\n"
-    "shift; exec \"$@\"\n");
+const QString readOnlySetup = QStringLiteral("mount -t tmpfs -o ro dustlark-test \"$1\" || exit 77; echo MOUNTED; exec %1\n");
 
 }  // namespace
 
 TEST(MoverOnMountedDisks, ExFat)
 {
-    expectPassed(runMounted(exfatSetup, QStringLiteral("MoverFixture.DISABLED_OnExFat*")));
+    expectPassedOnMountedDisk(exfatSetup, QStringLiteral("MoverFixture.DISABLED_OnExFat*"));
 }
 
 TEST(MoverOnMountedDisks, FillingUpAndReadOnly)
 {
-    expectPassed(runMounted(smallTmpfsSetup, QStringLiteral("MoverFixture.DISABLED_OnASmallDisk*")));
-    expectPassed(runMounted(readOnlySetup, QStringLiteral("MoverFixture.DISABLED_OnAReadOnlyDisk*")));
+    expectPassedOnMountedDisk(smallTmpfsSetup, QStringLiteral("MoverFixture.DISABLED_OnASmallDisk*"));
+    expectPassedOnMountedDisk(readOnlySetup, QStringLiteral("MoverFixture.DISABLED_OnAReadOnlyDisk*"));
 }
 
 // ---- The sides that run inside the namespace

@@ -111,21 +111,28 @@ TEST(ScheduledScanTest, ThisSessionsConfigFolderIsXdgConfigHome)
     EXPECT_EQ(ScheduledScan::Place::current("/x/dustlark-cli").configHome, QString::fromLocal8Bit(qgetenv("XDG_CONFIG_HOME")));
 }
 
+// The real systemctl, or a launchctl answering as it does, each command noted; a command with
+// the word `failing` in it fails as launchctl does.
+ScheduledScan::Runner noting(QList<QStringList>& ran, bool real, const QString& failing = {})
+{
+    return [&ran, real, failing](const QStringList& command) {
+        ran.append(command);
+        if (real)
+            return ScheduledScan::runTool(command);
+        ProcessRunner::Result result;
+        result.output = ProcessRunner::Output{!failing.isEmpty() && command.contains(failing) ? 5 : 0, {}, {}, false};
+        return result;
+    };
+}
+
 TEST(ScheduledScanTest, LaunchAgentRunsTheReportToolAndIsLoadedForTheGuiSession)
 {
     const TempTree tree;
     const ScheduledScan::Place place = macPlace(tree);
     const QString plist = place.home + "/Library/LaunchAgents/app.dustlark.Dustlark.scan.plist";
     QList<QStringList> ran;
-    bool loadFails = false;
-    const ScheduledScan::Runner launchctl = [&](const QStringList& command) {
-        ran.append(command);
-        ProcessRunner::Result result;
-        result.output = ProcessRunner::Output{loadFails && command.contains("bootstrap") ? 5 : 0, {}, {}, false};
-        return result;
-    };
 
-    EXPECT_FALSE(ScheduledScan::apply(ScanSchedule::weekly, place, launchctl));
+    EXPECT_FALSE(ScheduledScan::apply(ScanSchedule::weekly, place, noting(ran, false)));
     const auto agent = PropertyList::read(plist);
     ASSERT_TRUE(agent);
     EXPECT_EQ(agent->string("Label"), "app.dustlark.Dustlark.scan");
@@ -137,29 +144,15 @@ TEST(ScheduledScanTest, LaunchAgentRunsTheReportToolAndIsLoadedForTheGuiSession)
                                       {"/bin/launchctl", "bootstrap", "gui/501", plist}}));
 
     ran.clear();
-    loadFails = true;
-    EXPECT_EQ(ScheduledScan::apply(ScanSchedule::monthly, place, launchctl),
+    EXPECT_EQ(ScheduledScan::apply(ScanSchedule::monthly, place, noting(ran, false, QStringLiteral("bootstrap"))),
               "macOS didn't start the background scan. It starts after your next login.");
     EXPECT_EQ(PropertyList::read(plist)->integer(QStringList{"StartCalendarInterval", "Day"}), 1);
     EXPECT_FALSE(PropertyList::read(plist)->integer(QStringList{"StartCalendarInterval", "Weekday"}));
 
     ran.clear();
-    EXPECT_FALSE(ScheduledScan::apply(ScanSchedule::never, place, launchctl));
+    EXPECT_FALSE(ScheduledScan::apply(ScanSchedule::never, place, noting(ran, false)));
     EXPECT_FALSE(QFile::exists(plist));
     EXPECT_EQ(ran, (QList<QStringList>{{"/bin/launchctl", "bootout", "gui/501/app.dustlark.Dustlark.scan"}}));
-}
-
-// The real systemctl or a launchctl answering as it does on success, each command noted.
-ScheduledScan::Runner noting(QList<QStringList>& ran, bool real)
-{
-    return [&ran, real](const QStringList& command) {
-        ran.append(command);
-        if (real)
-            return ScheduledScan::runTool(command);
-        ProcessRunner::Result result;
-        result.output = ProcessRunner::Output{0, {}, {}, false};
-        return result;
-    };
 }
 
 qint64 modifiedAt(const QString& path)

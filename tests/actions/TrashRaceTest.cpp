@@ -1,15 +1,15 @@
 #include "actions/FreedesktopTrash.h"
 #include "actions/Remover.h"
 #include "actions/TrashFixture.h"
+#include "support/LinkSwapper.h"
+#include "support/TreeSnapshot.h"
+#include "vocabulary/FileStatus.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 
-#include <atomic>
 #include <sys/stat.h>
-#include <thread>
 #include <unistd.h>
 
 // Races an attacker against real removals: while the remover checks and moves, or Empty Trash
@@ -31,65 +31,6 @@ QByteArray bytes(const QString& path)
 {
     return QFile::encodeName(path);
 }
-
-std::optional<struct stat> statusOf(const QString& path)
-{
-    struct stat info {};
-    if (::lstat(bytes(path).constData(), &info) != 0)
-        return std::nullopt;
-    return info;
-}
-
-// Each entry below `folder` (links not followed) with its size and mode, and the folder's own
-// mode: whatever the person would notice lost or changed.
-std::string snapshot(const QString& folder)
-{
-    QStringList lines{QString::number(statusOf(folder)->st_mode, 8)};
-    QDirIterator entries(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
-                         QDirIterator::Subdirectories);
-    while (entries.hasNext()) {
-        const QString path = entries.next();
-        const auto info = statusOf(path);
-        lines.append(path.mid(folder.size()) + QLatin1Char(' ') + QString::number(info->st_size) + QLatin1Char(' ')
-                     + QString::number(info->st_mode, 8));
-    }
-    lines.sort();
-    return lines.join(QLatin1Char('\n')).toStdString();
-}
-
-// Swaps `path` for a link to `elsewhere` and back, over and over, until destroyed; at the end
-// any link it made is gone and the real object, if still there, is back at `path`.
-class Swapper {
-public:
-    Swapper(const QString& path, const QString& elsewhere)
-        : m_path(bytes(path)), m_aside(bytes(path + QStringLiteral(".real"))), m_elsewhere(bytes(elsewhere)),
-          m_thread([this] { run(); }) {}
-    ~Swapper()
-    {
-        m_stop = true;
-        m_thread.join();
-    }
-
-private:
-    void run()
-    {
-        while (!m_stop) {
-            const bool moved = ::rename(m_path.constData(), m_aside.constData()) == 0;
-            if (::symlink(m_elsewhere.constData(), m_path.constData()) == 0) {
-                std::this_thread::yield();
-                ::unlink(m_path.constData());
-            }
-            if (moved)
-                ::rename(m_aside.constData(), m_path.constData());
-        }
-    }
-
-    const QByteArray m_path;
-    const QByteArray m_aside;
-    const QByteArray m_elsewhere;
-    std::atomic<bool> m_stop{false};
-    std::thread m_thread;
-};
 
 class TrashRace : public TrashFixture {
 protected:
@@ -113,11 +54,11 @@ protected:
     QString whereIs(quint64 inode, const QStringList& places, const QString& original) const
     {
         for (const QString& place : places) {
-            if (const auto info = statusOf(place); info && info->st_ino == inode)
+            if (const auto info = FileStatus::of(place); info && info->st_ino == inode)
                 return place;
         }
         for (const QString& name : trashedNames()) {
-            const auto info = statusOf(trashFolder() + QStringLiteral("/files/") + name);
+            const auto info = FileStatus::of(trashFolder() + QStringLiteral("/files/") + name);
             if (!info || info->st_ino != inode)
                 continue;
             QFile record(trashFolder() + QStringLiteral("/info/") + name + QStringLiteral(".trashinfo"));
@@ -147,13 +88,13 @@ void TrashRace::raceFile(const QString& relative, const QString& swapped, const 
         const CleanupItem item = trashItem({path});
         RemovalOutcome outcome;
         {
-            const Swapper swapper(swapped, elsewhere);
+            const LinkSwapper swapper(swapped, elsewhere, {}, true);
             outcome = Remover::remove(item, environment);
         }
         const QString place = whereIs(item.removal.as<Removal::Trash>()->targets[0].inode, {path}, path);
         ASSERT_TRUE(place == path || place == QStringLiteral("trash")) << "round " << round << ": " << qPrintable(place);
         ASSERT_EQ(outcome == RemovalOutcome::movedToTrash(), place == QStringLiteral("trash")) << "round " << round;
-        const auto outside = statusOf(victim);
+        const auto outside = FileStatus::of(victim);
         ASSERT_TRUE(outside && S_ISREG(outside->st_mode) && outside->st_size == 9) << "round " << round << ": it moved";
         QFile::remove(path);
         emptyTrash();
@@ -193,13 +134,13 @@ TEST_F(TrashRace, GoCacheFolderSwappedDuringThePermissionFix)
         const CleanupItem item = trashItem({module});
         const quint64 inode = item.removal.as<Removal::Trash>()->targets[0].inode;
         {
-            const Swapper swapper(inner, outside.path(QStringLiteral("pkg")));
+            const LinkSwapper swapper(inner, outside.path(QStringLiteral("pkg")), {}, true);
             (void)Remover::remove(item, environment);
         }
         const QString place = whereIs(inode, {module}, module);
         ASSERT_TRUE(place == module || place == QStringLiteral("trash")) << "round " << round << ": " << qPrintable(place);
-        ASSERT_EQ(statusOf(victim)->st_mode & 07777, 0444u) << "round " << round;
-        ASSERT_EQ(statusOf(outside.path(QStringLiteral("pkg")))->st_mode & 07777, 0555u) << "round " << round;
+        ASSERT_EQ(FileStatus::of(victim)->st_mode & 07777, 0444u) << "round " << round;
+        ASSERT_EQ(FileStatus::of(outside.path(QStringLiteral("pkg")))->st_mode & 07777, 0555u) << "round " << round;
         if (place == module) {
             ::chmod(bytes(module).constData(), 0755);
             ::chmod(bytes(inner).constData(), 0755);
@@ -240,14 +181,14 @@ void TrashRace::raceEmptying(const QString& swapped)
     home.file(QStringLiteral("Documents/entry.trashinfo"), 9);
     ::chmod(bytes(home.path(QStringLiteral("Documents/sub/b0"))).constData(), 0444);
     ::chmod(bytes(home.path(QStringLiteral("Documents/sub"))).constData(), 0555);
-    const std::string before = snapshot(documents);
+    const QMap<QString, QString> before = treeSnapshot(documents);
     for (int round = 0; round < rounds(); ++round) {
         fillTrash();
         {
-            const Swapper swapper(trashFolder() + QLatin1Char('/') + swapped, documents);
+            const LinkSwapper swapper(trashFolder() + QLatin1Char('/') + swapped, documents, {}, true);
             (void)FreedesktopTrash::empty();
         }
-        ASSERT_EQ(snapshot(documents), before) << "round " << round;
+        ASSERT_TRUE(treeSnapshot(documents) == before) << "round " << round;
         emptyTrash();
         ASSERT_TRUE(trashedNames().isEmpty()) << "round " << round;
     }

@@ -1,14 +1,13 @@
 #include "actions/FreedesktopTrash.h"
 #include "actions/Remover.h"
 #include "actions/TrashFixture.h"
+#include "support/FileLook.h"
+#include "support/PrivateMount.h"
 #include "vocabulary/RemovalReasons.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
-#include <QStandardPaths>
-#include <QTemporaryDir>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -23,44 +22,21 @@ namespace {
 
 const QByteArray ownId = QByteArray::number(::getuid());
 
-std::optional<struct stat> statusOf(const QString& path)
-{
-    struct stat info {};
-    if (::lstat(QFile::encodeName(path).constData(), &info) != 0)
-        return std::nullopt;
-    return info;
-}
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-QStringList entriesOf(const QString& folder)
-{
-    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-}
-
 class TrashVolume : public TrashFixture {};
 
 TEST_F(TrashVolume, AScanFolderOnAnotherDiskIsCleanedIntoThatDisksOwnTrash)
 {
-    QTemporaryDir scanFolder(QStringLiteral("/dev/shm/dustlark-XXXXXX"));
-    ASSERT_TRUE(scanFolder.isValid());
-    environment.otherVolumeFolders = {scanFolder.path()};
-    const QString path = scanFolder.filePath(QStringLiteral("build/out.o"));
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("object") == 6);
-    file.close();
-    const ino_t inode = statusOf(path)->st_ino;
+    const TempTree scanFolder(QStringLiteral("/dev/shm"));
+    ASSERT_FALSE(scanFolder.root().isEmpty());
+    environment.otherVolumeFolders = {scanFolder.root()};
+    const QString path = scanFolder.file(QStringLiteral("build/out.o"), QByteArray("object"));
+    const ino_t inode = FileStatus::of(path)->st_ino;
 
     ASSERT_EQ(Remover::remove(trashItem({path}), environment), RemovalOutcome::movedToTrash());
     const QString trash = QStringLiteral("/dev/shm/.Trash-") + QString::fromLatin1(ownId);
     const QString trashed = trash + QStringLiteral("/files/out.o");
     const QString info = trash + QStringLiteral("/info/out.o.trashinfo");
-    const auto landed = statusOf(trashed);
+    const auto landed = FileStatus::of(trashed);
     const QByteArray record = contentOf(info);
     QFile::remove(trashed);
     QFile::remove(info);
@@ -115,40 +91,28 @@ protected:
         }
     }
 
-    void expectRefusedWithTheSystemsReason(const QString& path, int error) const
-    {
-        const RemovalOutcome outcome = Remover::remove(trashItem({path}), environment);
-        const QString reason = RemovalReasons::trashFailed(QString::fromStdString(std::generic_category().message(error)));
-        EXPECT_EQ(outcome, RemovalOutcome::failed(reason));
-        EXPECT_EQ(contentOf(path), QByteArray("kept"));
-        const QString trash = mountPoint + QStringLiteral("/.Trash-") + QString::fromLatin1(ownId);
-        EXPECT_TRUE(entriesOf(trash + QStringLiteral("/files")).isEmpty());
-        EXPECT_TRUE(entriesOf(trash + QStringLiteral("/info")).isEmpty());  // no empty record left behind
-    }
-
     QString mountPoint;
 };
 
-TEST_F(PrivateMount, FullDiskGivesASentenceAndLosesNothing)
+// A full disk and a disk without free inodes; the trash folders exist before the disk fills.
+TEST_F(PrivateMount, AFullDiskOrInodeTableGivesASentenceAndLosesNothing)
 {
-    mountTmpfs(QStringLiteral("size=256k"));
-    const QString path = makeTarget();
-    environment.otherVolumeFolders = {mountPoint + QStringLiteral("/scan")};
-    QDir().mkpath(mountPoint + QStringLiteral("/.Trash-") + QString::fromLatin1(ownId) + QStringLiteral("/files"));
-    QDir().mkpath(mountPoint + QStringLiteral("/.Trash-") + QString::fromLatin1(ownId) + QStringLiteral("/info"));
-    fill(false);  // the trash folders exist before the disk fills
-    expectRefusedWithTheSystemsReason(path, ENOSPC);
-}
+    for (const bool inodes : {false, true}) {
+        SCOPED_TRACE(inodes ? "no inodes left" : "no blocks left");
+        mountTmpfs(inodes ? QStringLiteral("size=4m,nr_inodes=32") : QStringLiteral("size=256k"));
+        const QString path = makeTarget();
+        environment.otherVolumeFolders = {mountPoint + QStringLiteral("/scan")};
+        const QString trash = mountPoint + QStringLiteral("/.Trash-") + QString::fromLatin1(ownId);
+        QDir().mkpath(trash + QStringLiteral("/files"));
+        QDir().mkpath(trash + QStringLiteral("/info"));
+        fill(inodes);
 
-TEST_F(PrivateMount, NoInodesLeftGivesASentenceAndLosesNothing)
-{
-    mountTmpfs(QStringLiteral("size=4m,nr_inodes=32"));
-    const QString path = makeTarget();
-    environment.otherVolumeFolders = {mountPoint + QStringLiteral("/scan")};
-    QDir().mkpath(mountPoint + QStringLiteral("/.Trash-") + QString::fromLatin1(ownId) + QStringLiteral("/files"));
-    QDir().mkpath(mountPoint + QStringLiteral("/.Trash-") + QString::fromLatin1(ownId) + QStringLiteral("/info"));
-    fill(true);
-    expectRefusedWithTheSystemsReason(path, ENOSPC);
+        const QString reason = RemovalReasons::trashFailed(QString::fromStdString(std::generic_category().message(ENOSPC)));
+        EXPECT_EQ(Remover::remove(trashItem({path}), environment), RemovalOutcome::failed(reason));
+        EXPECT_EQ(contentOf(path), QByteArray("kept"));
+        EXPECT_TRUE(entriesOf(trash + QStringLiteral("/files")).isEmpty());
+        EXPECT_TRUE(entriesOf(trash + QStringLiteral("/info")).isEmpty());  // no empty record left behind
+    }
 }
 
 // A shared .Trash is used only when it is a real folder with the sticky bit; a link is not.
@@ -191,22 +155,12 @@ TEST_F(PrivateMount, EmptyTrashRefusesAFilesFolderOnAnotherDisk)
 
 TEST_F(TrashVolume, SmallFileSystemsInAPrivateMountNamespace)
 {
-    const QString unshare = QStandardPaths::findExecutable(QStringLiteral("unshare"));
-    if (::geteuid() != 0 || unshare.isEmpty())
-        GTEST_SKIP() << "needs root and unshare(1) to mount a private tmpfs";
-    QProcess child;
     QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
     variables.insert(QStringLiteral("DUSTLARK_PRIVATE_MOUNT"), home.dir(QStringLiteral("mnt")));
-    child.setProcessEnvironment(variables);
-    child.setProcessChannelMode(QProcess::MergedChannels);
-    child.start(unshare, {QStringLiteral("--mount"), QStringLiteral("--propagation"), QStringLiteral("private"),
-                          QCoreApplication::applicationFilePath(), QStringLiteral("--gtest_filter=PrivateMount.*")});
-    ASSERT_TRUE(child.waitForFinished(120'000));
-    const QByteArray output = child.readAll();
-    if (output.contains("unshare failed") || output.contains("Operation not permitted"))
-        GTEST_SKIP() << "mount namespaces are not allowed here: " << output.constData();
-    EXPECT_EQ(child.exitCode(), 0) << output.constData();
-    EXPECT_TRUE(output.contains("[  PASSED  ] 4 tests.")) << output.constData();
+    const auto run = runInPrivateMount(QStringLiteral("echo MOUNTED; exec \"$2\" --gtest_filter=PrivateMount.*"), {}, variables);
+    if (const QString why = whyNotMounted(run); !why.isEmpty())
+        GTEST_SKIP() << qPrintable(why);
+    EXPECT_TRUE(run->output.contains(QLatin1String("[  PASSED  ] 3 tests."))) << qPrintable(run->output + run->error);
 }
 
 }  // namespace

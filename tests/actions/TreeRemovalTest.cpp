@@ -1,4 +1,6 @@
 #include "actions/TreeRemoval.h"
+#include "support/FileLook.h"
+#include "support/LinkSwapper.h"
 #include "support/TempTree.h"
 
 #include <QDir>
@@ -7,11 +9,9 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <atomic>
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -19,12 +19,6 @@ namespace {
 QByteArray bytes(const QString& path)
 {
     return QFile::encodeName(path);
-}
-
-mode_t modeOf(const QString& path)
-{
-    struct stat info {};
-    return ::lstat(bytes(path).constData(), &info) == 0 ? info.st_mode & 07777 : 0;
 }
 
 // Hands the whole tree to the user "nobody", who will remove it in runUnprivileged.
@@ -65,8 +59,12 @@ TEST(TreeRemoval, RemovesReadOnlyAndVeryDeepTreesAndNothingALinkPointsTo)
     ::close(folder);
 
     EXPECT_TRUE(TreeRemoval::removeTree(tree.path("doomed")));
+    // A link or a file as the target itself goes alone.
+    EXPECT_TRUE(TreeRemoval::removeTree(tree.symlink("link", tree.path("outside"))));
+    EXPECT_TRUE(TreeRemoval::removeTree(tree.file("single", 10)));
 
-    EXPECT_FALSE(QFileInfo::exists(tree.path("doomed")));
+    for (const char* gone : {"doomed", "link", "single"})
+        EXPECT_FALSE(FileStatus::exists(tree.path(gone))) << gone;
     EXPECT_EQ(QFileInfo(tree.path("outside/kept")).size(), 100);
     EXPECT_EQ(QFileInfo(tree.path("outside/folder/kept")).size(), 100);
     EXPECT_EQ(modeOf(tree.path("outside/kept")), 0444u);
@@ -122,19 +120,6 @@ TEST(TreeRemoval, RemovesThroughTheHeldFolderAndOnlyTheExpectedObject)
     EXPECT_EQ(QFileInfo(tree.path("work/copy/data")).size(), 20);
 }
 
-TEST(TreeRemoval, ALinkAsTheTargetIsRemovedAloneAndAFileToo)
-{
-    TempTree tree;
-    tree.file("outside/kept", 100);
-    tree.symlink("link", tree.path("outside"));
-    tree.file("single", 10);
-
-    EXPECT_TRUE(TreeRemoval::removeTree(tree.path("link")));
-    EXPECT_TRUE(TreeRemoval::removeTree(tree.path("single")));
-    EXPECT_TRUE(QFileInfo::exists(tree.path("outside/kept")));
-    EXPECT_FALSE(QFileInfo::exists(tree.path("single")));
-}
-
 // While a tree is being removed, another thread keeps swapping one of its folders for a link
 // to a folder of the person's. Whatever the timing, the person's folder keeps every file. A
 // removal by full paths loses files in about one run in eight of this race, so the default 40
@@ -148,24 +133,11 @@ TEST(TreeRemoval, FolderSwappedForALinkDuringTheRemovalIsNeverFollowed)
     for (int run = 0; run < runs; ++run) {
         for (int i = 0; i < 40; ++i)
             tree.file(QStringLiteral("doomed/sub/f%1").arg(i), 10);
-        const QByteArray sub = bytes(tree.path("doomed/sub"));
-        const QByteArray aside = bytes(tree.path("aside"));
-        std::atomic<bool> done{false};
-        std::thread swapper([&] {
-            while (!done.load()) {
-                if (::rename(sub.constData(), aside.constData()) != 0)
-                    continue;
-                ::symlink(bytes(tree.path("precious/sub")).constData(), sub.constData());
-                std::this_thread::yield();
-                ::unlink(sub.constData());
-                ::rename(aside.constData(), sub.constData());
-            }
-        });
-        TreeRemoval::removeTree(tree.path("doomed"));
-        done = true;
-        swapper.join();
+        {
+            const LinkSwapper swapper(tree.path("doomed/sub"), tree.path("precious/sub"));
+            TreeRemoval::removeTree(tree.path("doomed"));
+        }
         ASSERT_EQ(QDir(tree.path("precious/sub")).entryList(QDir::Files).size(), 40) << "run " << run;
         TreeRemoval::removeTree(tree.path("doomed"));
-        TreeRemoval::removeTree(tree.path("aside"));
     }
 }

@@ -50,16 +50,6 @@ TEST_F(AgentsCliTest, ShowsEachPlaceOnceAcrossTheCacheAndAgentLists)
     for (const auto& one : expected)
         EXPECT_EQ(scan.categoryOf(QString::fromUtf8(one.title)), QString::fromUtf8(one.category)) << one.title;
 
-    const QJsonObject sessions = scan.item(QStringLiteral("Claude Code sessions · /nowhere/proj"));
-    EXPECT_EQ(sessions[QStringLiteral("badge")].toString(), QStringLiteral("Claude"));
-    EXPECT_EQ(sessions[QStringLiteral("safety")].toString(), QStringLiteral("askAI"));
-    EXPECT_EQ(sessions[QStringLiteral("lockedReason")].toString(), QStringLiteral("Changed in the last day; a session may be running."));
-    const QJsonObject backups = scan.item(QStringLiteral("Codex backup files (2)"));
-    EXPECT_EQ(backups[QStringLiteral("id")].toString(), QStringLiteral("agents:Codex backup files"));
-    EXPECT_TRUE(backups[QStringLiteral("lockedReason")].isNull());
-    const QJsonObject slack = scan.item(QStringLiteral("Slack"));
-    EXPECT_EQ(slack[QStringLiteral("badge")].toString(), QStringLiteral("Inside app data"));
-    EXPECT_EQ(slack[QStringLiteral("safety")].toString(), QStringLiteral("safe"));
 
     // No place is offered twice, neither itself nor inside another row's folder.
     QStringList paths;

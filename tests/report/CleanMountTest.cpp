@@ -2,6 +2,7 @@
 // private mount namespace; the test program re-runs itself there and runs dustlark-cli clean,
 // which must move the rows into that disk's own trash, as the app's cleanup does.
 
+#include "support/FileLook.h"
 #include "support/PrivateMount.h"
 #include "support/TempTree.h"
 
@@ -21,11 +22,6 @@ namespace {
 
 const char* const homeVariable = "DUSTLARK_CLEAN_HOME";
 const char* const diskVariable = "DUSTLARK_CLEAN_DISK";
-
-QStringList entriesOf(const QString& folder)
-{
-    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-}
 
 void writeFile(const QString& path, const QByteArray& content)
 {
@@ -72,7 +68,9 @@ TEST(CleanOnAnotherDisk, MovesIntoThatDisksTrash)
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(homeVariable, home);
     environment.insert(diskVariable, disk);
-    const auto run = runOnPrivateTmpfs(disk, QStringLiteral("MountedCleanFolder.*"), environment);
+    const auto run = runInPrivateMount(QStringLiteral("mount -t tmpfs dustlark-test \"$1\" || exit 77; echo MOUNTED; "
+                                                      "exec \"$2\" --gtest_also_run_disabled_tests --gtest_filter=MountedCleanFolder.*"),
+                                       disk, environment);
     if (const QString why = whyNotMounted(run); !why.isEmpty())
         GTEST_SKIP() << qPrintable(why);
 

@@ -5,14 +5,11 @@
 #include "support/TempTree.h"
 
 #include <QDateTime>
-#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
-#include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -29,22 +26,6 @@ QStringList rowsOf(const CliScan& scan, const QString& raw)
     return rows;
 }
 
-// Writes a file of `size` bytes (a hole when `sparse`) whose times lie `days` in the past.
-void put(const QString& path, qint64 days, qint64 size = 10, bool sparse = false)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    if (sparse)
-        file.resize(size);
-    else
-        file.write(QByteArray(size, 'x'));
-    file.close();
-    const qint64 when = QDateTime::currentSecsSinceEpoch() - days * day;
-    const struct timespec times[2] = {{when, 0}, {when, 0}};
-    ::utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times, 0);
-}
-
 }  // namespace
 
 TEST(EverydayCli, TheEverydayCategoriesShowExactlyTheFixtureRows)
@@ -53,20 +34,23 @@ TEST(EverydayCli, TheEverydayCategoriesShowExactlyTheFixtureRows)
     if (::geteuid() != 0 || unshare.isEmpty() || !QFileInfo(QStringLiteral("/dev/shm")).isDir())
         GTEST_SKIP() << "fresh /tmp and /var/tmp need root, unshare(1) and /dev/shm for the fixture";
     // The fixture lives on /dev/shm, since /tmp is replaced for the tool.
-    QTemporaryDir fixture(QStringLiteral("/dev/shm/dustlark-everyday-XXXXXX"));
-    ASSERT_TRUE(fixture.isValid());
-    const QString home = fixture.path() + QStringLiteral("/home");
-    put(home + "/tmp/notes-31.txt", 31);
-    put(home + "/tmp/notes-10.txt", 10);
-    put(home + "/Downloads/report-91.pdf", 91);
-    put(home + "/Downloads/report-89.pdf", 89);
-    put(home + "/Downloads/Setup.dmg", 400);
-    put(home + "/Downloads/movie.mov", 400, 300'000'000, true);
-    put(home + "/Library/iTunes/iPad Software Updates/iPad_17.ipsw", 20, 2'000'000);
-    put(home + "/Library/Application Support/MobileSync/Backup/0001/Manifest.db", 20, 20'000);
-    put(home + "/.local/share/Trash/files/junk.txt", 1, 5'000);
-
+    const TempTree fixture(QStringLiteral("/dev/shm"));
+    ASSERT_FALSE(fixture.root().isEmpty());
+    const QString home = fixture.path(QStringLiteral("home"));
     const qint64 now = QDateTime::currentSecsSinceEpoch();
+    const auto put = [&](const QString& relative, qint64 days, qint64 size = 10) {
+        fixture.file(QStringLiteral("home/") + relative, size);
+        fixture.setTimes(QStringLiteral("home/") + relative, now - days * day);
+    };
+    put("tmp/notes-31.txt", 31);
+    put("Downloads/report-91.pdf", 91);
+    put("Downloads/Setup.dmg", 400);
+    fixture.sparseFile(QStringLiteral("home/Downloads/movie.mov"), 300'000'000);
+    fixture.setTimes(QStringLiteral("home/Downloads/movie.mov"), now - 400 * day);
+    put("Library/iTunes/iPad Software Updates/iPad_17.ipsw", 20, 2'000'000);
+    put("Library/Application Support/MobileSync/Backup/0001/Manifest.db", 20, 20'000);
+    put(".local/share/Trash/files/junk.txt", 1, 5'000);
+
     const QString script = QStringLiteral(
         "mount -t tmpfs dustlark /tmp && mount -t tmpfs dustlark /var/tmp || exit 77\n"
         "mkdir /tmp/old-build && touch -d @%1 /tmp/old-build/out.o /tmp/old-build\n"
@@ -78,7 +62,7 @@ TEST(EverydayCli, TheEverydayCategoriesShowExactlyTheFixtureRows)
     environment.insert(QStringLiteral("XDG_DATA_HOME"), home + QStringLiteral("/.local/share"));
     // The tool runs from a copy beside the fixture: a build under /tmp would be hidden by the new
     // /tmp. It needs nothing from its build folder (catalogue and resources are built in).
-    const QString tool = fixture.path() + QStringLiteral("/dustlark-cli");
+    const QString tool = fixture.path(QStringLiteral("dustlark-cli"));
     ASSERT_TRUE(QFile::copy(QStringLiteral(DUSTLARK_CLI), tool));
     QStringList arguments = {"--mount", "--propagation", "private", "sh", "-c", script, tool, "scan", "--home", home};
     for (const char* raw : {"temporary", "oldDownloads", "installers", "devices", "trash", "largeFiles"})

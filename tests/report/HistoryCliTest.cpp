@@ -9,7 +9,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -23,15 +22,6 @@ ProgramRun cli(const QStringList& arguments, const QString& dataHome)
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("XDG_DATA_HOME"), dataHome);
     return ProgramRun::run(QStringLiteral(DUSTLARK_CLI), arguments, 300'000, environment);
-}
-
-// Allocated bytes of the file, as the scan counts them.
-qint64 allocated(const QString& path)
-{
-    QProcess process;
-    process.start(QStringLiteral("du"), {QStringLiteral("-s"), QStringLiteral("-B1"), path});
-    process.waitForFinished(30'000);
-    return process.readAllStandardOutput().split('\t').first().toLongLong();
 }
 
 QJsonObject change(const QJsonArray& changes, const QString& category)
@@ -60,26 +50,18 @@ TEST(HistoryCli, TwoRecordedScansReportWhatGrewInBetween)
     const ProgramRun unrecorded = cli({"scan", "--home", home, "--category", "trash"}, data);
     ASSERT_EQ(unrecorded.exitCode, 0);
 
-    const QString builds = tree.path("home/code/web/node_modules");
-    const QString cache = tree.path("home/.npm/_cacache");
-    const qint64 buildsBefore = allocated(builds);
-    tree.file("home/code/web/node_modules/big/blob", 300'000'000);
-    tree.file("home/.npm/_cacache/content-v2/blob", 100'000'000);
+    tree.allocatedFile("home/code/web/node_modules/big/blob", 300'000'000);
+    tree.allocatedFile("home/.npm/_cacache/content-v2/blob", 100'000'000);
     ASSERT_EQ(cli({"scan", "--home", home, "--record"}, data).exitCode, 0);
 
+    // How growth is reckoned is HistoryGrowth's; here the tool hands the two recorded scans to it.
     const ProgramRun history = cli({"history", "--since", "last", "--json"}, data);
     ASSERT_EQ(history.exitCode, 0) << history.standardError.constData();
     const QJsonObject growth = QJsonDocument::fromJson(history.standardOutput).object();
     EXPECT_EQ(growth[QStringLiteral("scans")].toArray().size(), 2) << "the unrecorded scan is not kept";
     const QJsonArray categories = growth[QStringLiteral("categories")].toArray();
-    ASSERT_GE(categories.size(), 2) << history.standardOutput.toStdString();
-    const qint64 projects = change(categories, QStringLiteral("projects"))[QStringLiteral("growth")].toInteger();
-    const qint64 caches = change(categories, QStringLiteral("packageCaches"))[QStringLiteral("growth")].toInteger();
-    EXPECT_GE(projects, 300'000'000);
-    EXPECT_LE(projects, allocated(builds) - buildsBefore) << "within the bytes added to node_modules";
-    EXPECT_GE(caches, 100'000'000);
-    EXPECT_LE(caches, allocated(cache));
-    EXPECT_EQ(categories.at(0)[QStringLiteral("category")].toString(), QStringLiteral("projects")) << "largest growth first";
+    EXPECT_GE(change(categories, QStringLiteral("projects"))[QStringLiteral("growth")].toInteger(), 300'000'000);
+    EXPECT_GE(change(categories, QStringLiteral("packageCaches"))[QStringLiteral("growth")].toInteger(), 100'000'000);
 
     const QJsonArray kept = QJsonDocument::fromJson(cli({"history", "--json"}, data).standardOutput).object()[QStringLiteral("scans")].toArray();
     EXPECT_EQ(kept.size(), 2);

@@ -16,7 +16,7 @@ QString PrivateMountRun::report() const
 }
 
 std::optional<PrivateMountRun> runInPrivateMount(const QString& script, const QString& argument,
-                                                 const QProcessEnvironment& environment)
+                                                 const QProcessEnvironment& environment, int timeoutMs)
 {
     const QString unshare = QStandardPaths::findExecutable(QStringLiteral("unshare"));
     if (::geteuid() != 0 || unshare.isEmpty())
@@ -27,7 +27,7 @@ std::optional<PrivateMountRun> runInPrivateMount(const QString& script, const QS
                           QStringLiteral("sh"), QStringLiteral("-c"), script, QStringLiteral("sh"), argument,
                           QCoreApplication::applicationFilePath()});
     PrivateMountRun run;
-    if (!child.waitForFinished(60'000))
+    if (!child.waitForFinished(timeoutMs))
         child.kill();
     run.output = QString::fromLocal8Bit(child.readAllStandardOutput());
     run.error = QString::fromLocal8Bit(child.readAllStandardError()).trimmed();
@@ -35,20 +35,11 @@ std::optional<PrivateMountRun> runInPrivateMount(const QString& script, const QS
     return run;
 }
 
-std::optional<PrivateMountRun> runOnPrivateTmpfs(const QString& mountPoint, const QString& innerFilter,
-                                                 const QProcessEnvironment& environment)
-{
-    const QString script = QStringLiteral("mount -t tmpfs dustlark-test \"$1\" || exit 77; echo MOUNTED; "
-                                          "exec \"$2\" --gtest_also_run_disabled_tests --gtest_filter=%1")
-                               .arg(innerFilter);
-    return runInPrivateMount(script, mountPoint, environment);
-}
-
 QString whyNotMounted(const std::optional<PrivateMountRun>& run)
 {
     if (!run)
-        return QStringLiteral("mounting a tmpfs in a private namespace needs root and unshare(1)");
+        return QStringLiteral("mounting a disk in a private namespace needs root and unshare(1)");
     if (!run->mounted)
-        return QStringLiteral("this system does not allow a private tmpfs mount: ") + run->error;
+        return QStringLiteral("the disk could not be mounted in a private namespace here: ") + run->error;
     return {};
 }

@@ -19,6 +19,9 @@
 
 TempTree::TempTree() : m_root(QFileInfo(m_dir.path()).canonicalFilePath()) {}
 
+TempTree::TempTree(const QString& parentFolder)
+    : m_dir(parentFolder + QStringLiteral("/dustlark-XXXXXX")), m_root(QFileInfo(m_dir.path()).canonicalFilePath()) {}
+
 QString TempTree::path(const QString& relative) const
 {
     return relative.isEmpty() ? m_root : m_root + QLatin1Char('/') + relative;

@@ -12,6 +12,8 @@
 class TempTree {
 public:
     TempTree();
+    // In `parentFolder` (a file system of its own, say) instead of the temporary folder.
+    explicit TempTree(const QString& parentFolder);
 
     QString root() const { return m_root; }
     QString path(const QString& relative) const;
