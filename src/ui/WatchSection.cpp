@@ -11,6 +11,8 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
+#include <utility>
+
 WatchSection::WatchSection(SettingsStore* settings, ScheduledScan::Place place, QWidget* parent)
     : QWidget(parent), m_settings(settings), m_place(std::move(place)), m_warningPicker(new QComboBox(this)),
       m_schedulePicker(new QComboBox(this)),
@@ -61,8 +63,25 @@ void WatchSection::followTheApp()
     const ScanSchedule schedule = m_settings->scanSchedule();
     if (schedule == ScanSchedule::never)
         return;
-    Background::run(this, [schedule, place = m_place] { return ScheduledScan::follow(schedule, place).value_or(QString()); },
-                    [this](const QString& said) { showScheduleNote(said); });
+    writeSchedule([schedule, place = m_place] { return ScheduledScan::follow(schedule, place); });
+}
+
+// One write at a time, the latest asked for last: writes side by side (the start's follow-up and
+// a choice, or two quick choices) could end in either order and leave a timer for "never".
+void WatchSection::writeSchedule(ScheduleWrite write)
+{
+    if (m_writingSchedule) {
+        m_nextScheduleWrite = std::move(write);
+        return;
+    }
+    m_writingSchedule = true;
+    Background::run(this, [write = std::move(write)] { return write().value_or(QString()); }, [this](const QString& said) {
+        m_writingSchedule = false;
+        showScheduleNote(said);
+        emit scheduleApplied(said);
+        if (ScheduleWrite next = std::exchange(m_nextScheduleWrite, {}))
+            writeSchedule(std::move(next));
+    });
 }
 
 void WatchSection::showScheduleNote(const QString& said)
@@ -83,9 +102,5 @@ void WatchSection::refreshKeepWatching()
 void WatchSection::chooseSchedule(ScanSchedule schedule)
 {
     m_settings->setScanSchedule(schedule);
-    Background::run(this, [schedule, place = m_place] { return ScheduledScan::apply(schedule, place).value_or(QString()); },
-                    [this](const QString& said) {
-                        showScheduleNote(said);
-                        emit scheduleApplied(said);
-                    });
+    writeSchedule([schedule, place = m_place] { return ScheduledScan::apply(schedule, place); });
 }

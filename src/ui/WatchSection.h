@@ -4,6 +4,9 @@
 
 #include <QWidget>
 
+#include <functional>
+#include <optional>
+
 class QCheckBox;
 class QComboBox;
 class QLabel;
@@ -27,12 +30,16 @@ public:
     QLabel* scheduleNote() const { return m_scheduleNote; }
 
 signals:
-    // The system's timer was written or removed; `said` is empty when all went well.
+    // A write of the system's timer ended (a choice, or the start's follow-up); `said` is empty
+    // when all went well.
     void scheduleApplied(const QString& said);
 
 private:
+    using ScheduleWrite = std::function<std::optional<QString>()>;
+
     void chooseSchedule(ScanSchedule schedule);
     void followTheApp();
+    void writeSchedule(ScheduleWrite write);
     void showScheduleNote(const QString& said);
     void refreshKeepWatching();
 
@@ -42,4 +49,6 @@ private:
     QComboBox* m_schedulePicker;
     QCheckBox* m_keepWatching;
     QLabel* m_scheduleNote;
+    bool m_writingSchedule = false;
+    ScheduleWrite m_nextScheduleWrite;  // the latest one asked for while another ran
 };

@@ -62,7 +62,9 @@ TEST(WatchSection, TurningScanForMeOnWritesTheTimerAndOffRemovesIt)
     ScheduledScan::Place moved = fixture.place;
     moved.cli = fixture.dir.filePath("moved/dustlark-cli");
     const WatchSection afterTheMove(&fixture.settings, moved);
-    EXPECT_TRUE(waitUntil([&] { return ScheduledScan::scheduledTool(moved) == moved.cli; }));
+    QSignalSpy followed(&afterTheMove, &WatchSection::scheduleApplied);
+    ASSERT_TRUE(waitUntil([&] { return followed.size() == 1; }));
+    EXPECT_EQ(ScheduledScan::scheduledTool(moved), moved.cli);
 
     fixture.choose(section.schedulePicker(), "never");
     ASSERT_TRUE(waitUntil([&] { return applied.size() == 2; }));
