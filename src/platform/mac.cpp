@@ -313,6 +313,11 @@ bool openPrivatePipe(int ends[2])
     return true;
 }
 
+bool ownDescriptorTable()
+{
+    return false;  // every thread shares the process's table
+}
+
 short extraSpawnFlags()
 {
     return POSIX_SPAWN_CLOEXEC_DEFAULT;

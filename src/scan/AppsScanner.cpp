@@ -106,11 +106,10 @@ ScanOutputs AppsScanner::scan(const ScanContext& context) const
     for (const Found& one : found)
         identities.append(one.identity);
     const Claims claims = Claims::of(apps, identities);
-    const QSet<QString> running = runningIdentifiers(runningExecutables());
-
     std::vector<Found> offered;
     std::copy_if(found.begin(), found.end(), std::back_inserter(offered),
                  [&](const Found& one) { return isOffered(one.app, folders, everything); });
+    const QSet<QString> running = offered.empty() ? QSet<QString>{} : runningIdentifiers(runningExecutables());
     const auto rows = Concurrency::map(offered, parallelLimit, context.cancellation,
                                        [&](const Found& one) { return row(one, claims, running, context); });
     ScanOutput output;

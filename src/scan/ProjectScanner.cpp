@@ -74,13 +74,29 @@ QList<CleanupItem> rows(const QList<Item>& found, const ScanContext& context, Ma
     return made;
 }
 
+// Each build folder with its size; one not measured (the scan was stopped) is left out.
+QList<std::pair<Artifact, FileSizer::Measurement>> measured(const QList<Artifact>& artifacts, const ScanContext& context)
+{
+    std::vector<QString> paths;
+    for (const Artifact& artifact : artifacts)
+        paths.push_back(artifact.path);
+    const auto sizes = FileSizer::measureAll(paths, rowsAtOnce, context.progress.get(), context.cancellation);
+    QList<std::pair<Artifact, FileSizer::Measurement>> found;
+    for (qsizetype index = 0; index < artifacts.size(); ++index) {
+        if (sizes[size_t(index)])
+            found.append({artifacts[index], *sizes[size_t(index)]});
+    }
+    return found;
+}
+
 ScanOutput projectRows(const Walk& walk, const std::optional<QString>& git, const ScanContext& context)
 {
     const QHash<QString, ProjectInfo> infos = projectInfos(walk, context);
     ScanOutput output;
-    output.items = rows(walk.artifacts(), context, [&](const Artifact& artifact) {
+    output.items = rows(measured(walk.artifacts(), context), context, [&](const auto& found) {
+        const auto& [artifact, size] = found;
         const auto info = infos.constFind(artifact.project);
-        return ProjectScanner::buildFolderRow(artifact, info == infos.cend() ? nullptr : &*info, git, context);
+        return ProjectScanner::buildFolderRow(artifact, size, info == infos.cend() ? nullptr : &*info, git, context);
     });
     return output;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "machinery/FileSizer.h"
 #include "machinery/ToolLocations.h"
 #include "platform/Platform.h"
 #include "scan/Artifact.h"
@@ -33,10 +34,12 @@ public:
     // and only existing folders kept.
     [[nodiscard]] static QStringList distinctRoots(const QStringList& roots, const QString& home = QDir::homePath());
 
-    // The row of one build folder, with its project's info when known and the git check for a
-    // "build" folder (`git` absent: not installed). Absent when the folder vanished, holds no file
-    // or could not be measured completely.
-    [[nodiscard]] static std::optional<CleanupItem> buildFolderRow(const Artifact& artifact, const ProjectInfo* project,
+    // The row of one build folder of the measured `size`, with its project's info when known and
+    // the git check for a "build" folder (`git` absent: not installed). Absent when the folder
+    // vanished, holds no file or could not be measured completely.
+    [[nodiscard]] static std::optional<CleanupItem> buildFolderRow(const Artifact& artifact,
+                                                                   const FileSizer::Measurement& size,
+                                                                   const ProjectInfo* project,
                                                                    const std::optional<QString>& git,
                                                                    const ScanContext& context);
     // The row of one large file; absent when it vanished.

@@ -59,11 +59,10 @@ std::optional<FileTarget::ContentStamp> contentStamp(const QString& path)
 
 }  // namespace
 
-std::optional<CleanupItem> ProjectScanner::buildFolderRow(const Artifact& artifact, const ProjectInfo* project,
-                                                          const std::optional<QString>& git,
+std::optional<CleanupItem> ProjectScanner::buildFolderRow(const Artifact& artifact, const FileSizer::Measurement& size,
+                                                          const ProjectInfo* project, const std::optional<QString>& git,
                                                           const ScanContext& context)
 {
-    const FileSizer::Measurement size = FileSizer::measure(artifact.path, context.progress.get(), &context.cancellation);
     // A folder without a single file frees next to nothing; counting files rather than bytes
     // keeps that true where even an empty folder takes a block (ext4, unlike APFS).
     if (!size.complete || size.bytes < 1 || size.files == 0)

@@ -93,12 +93,17 @@ std::optional<QString> XcodeScanner::applicationOf(const QString& developerFolde
 QList<CleanupItem> XcodeScanner::otherCopies(const std::optional<QString>& selected, const ScanContext& context) const
 {
     QStringList names = FileInfo::children(m_environment.applications);
+    names.removeIf([&](const QString& name) {
+        return !isXcodeCopy(name) || m_environment.applications + QLatin1Char('/') + name == selected;
+    });
+    if (names.isEmpty())
+        return {};  // nothing to ask the process list about
     names.sort();
     const QStringList running = m_environment.runningExecutables ? m_environment.runningExecutables() : Platform::runningExecutables();
     QList<CleanupItem> rows;
     for (const QString& name : names) {
         const QString path = m_environment.applications + QLatin1Char('/') + name;
-        if (!isXcodeCopy(name) || path == selected || context.isCancelled())
+        if (context.isCancelled())
             continue;
         if (auto row = copyRow(path, selected, running, context))
             rows.append(*row);
