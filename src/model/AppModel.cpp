@@ -270,7 +270,8 @@ void AppModel::apply(const FilteredOutputs& outputs, bool stopped)
     for (const auto& [category, output] : outputs.outputs) {
         CategoryResult result;
         result.state = CategoryResult::State::done;
-        result.items = outputs.shownFor(category, filter, scanFolders);
+        result.facts = outputs.shownFor(category, filter, scanFolders);
+        result.items = result.facts.rows();
         result.notes = output.notes;
         if (stopped)
             //: Banner of a category whose scanner returned early because the scan was stopped

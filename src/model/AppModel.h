@@ -260,6 +260,8 @@ private:
     bool removeItemsWhere(const std::function<bool(const CleanupItem&)>& predicate);
     void removeSafeItemsFromResults();
     void indexDuplicates();
+    // Makes the category's list facts again after its rows changed on this thread.
+    void remakeFacts(CategoryID category);
     void removeLoneCopies();
 
     SettingsStore* m_settings;

@@ -136,8 +136,10 @@ void AppModel::removeFromResults(const CleanupItem& item)
         return;
     const qsizetype before = found->second.items.size();
     found->second.items.removeIf([&](const CleanupItem& each) { return each.id == item.id; });
-    if (found->second.items.size() != before)
+    if (found->second.items.size() != before) {
+        remakeFacts(item.category);
         emit resultsChanged(item.category);
+    }
     if (m_selection.remove(item.id))
         emit selectionChanged();
     indexDuplicates();

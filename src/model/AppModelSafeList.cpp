@@ -21,8 +21,10 @@ bool AppModel::removeItemsWhere(const std::function<bool(const CleanupItem&)>& p
             selectionTouched |= m_selection.remove(item.id);
             return true;
         });
-        if (entry.items.size() != before)
-            emit resultsChanged(category);
+        if (entry.items.size() == before)
+            continue;
+        remakeFacts(category);
+        emit resultsChanged(category);
     }
     indexDuplicates();
     return selectionTouched;

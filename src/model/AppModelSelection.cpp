@@ -25,7 +25,15 @@ void AppModel::clearSelection()
 
 void AppModel::indexDuplicates()
 {
-    m_selection.indexDuplicates(result(CategoryID::duplicates).items);
+    remakeFacts(CategoryID::duplicates);
+    m_selection.indexDuplicates(result(CategoryID::duplicates).facts);
+}
+
+void AppModel::remakeFacts(CategoryID category)
+{
+    const auto found = m_results.find(category);
+    if (found != m_results.end() && !found->second.facts.describe(found->second.items))
+        found->second.facts = ListFacts(category, found->second.items);
 }
 
 void AppModel::removeLoneCopies()
@@ -33,7 +41,8 @@ void AppModel::removeLoneCopies()
     const auto found = m_results.find(CategoryID::duplicates);
     if (found == m_results.end())
         return;
-    const QSet<QString> lone = Selection::loneCopyIds(found->second.items);
+    remakeFacts(CategoryID::duplicates);
+    const QSet<QString> lone = Selection::loneCopyIds(found->second.facts);
     if (lone.isEmpty())
         return;  // removeIf would copy a list the screens share, to remove nothing
     const qsizetype before = found->second.items.size();

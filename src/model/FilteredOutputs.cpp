@@ -4,7 +4,7 @@ FilteredOutputs FilteredOutputs::filterNow(ScanOutputs outputs, ScanFilter filte
 {
     FilteredOutputs result = unfiltered(std::move(outputs), std::move(filter), std::move(scanFolders));
     for (const auto& [category, output] : result.outputs)
-        result.shown[category] = result.filter.shown(output.items, result.scanFolders);
+        result.shown[category] = ListFacts(category, result.filter.shown(output.items, result.scanFolders));
     return result;
 }
 
@@ -13,12 +13,12 @@ FilteredOutputs FilteredOutputs::unfiltered(ScanOutputs outputs, ScanFilter filt
     return FilteredOutputs{std::move(outputs), std::move(filter), std::move(scanFolders), {}};
 }
 
-QList<CleanupItem> FilteredOutputs::shownFor(CategoryID category, const ScanFilter& current,
-                                             const QStringList& currentFolders) const
+ListFacts FilteredOutputs::shownFor(CategoryID category, const ScanFilter& current,
+                                    const QStringList& currentFolders) const
 {
     const auto done = shown.find(category);
     if (done != shown.end() && current == filter && currentFolders == scanFolders)
         return done->second;
     const auto output = outputs.find(category);
-    return output == outputs.end() ? QList<CleanupItem>() : current.shown(output->second.items, currentFolders);
+    return output == outputs.end() ? ListFacts() : ListFacts(category, current.shown(output->second.items, currentFolders));
 }

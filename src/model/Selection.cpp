@@ -9,10 +9,8 @@ std::optional<QString> Selection::duplicateGroup(const CleanupItem& item) const
 {
     if (item.duplicateGroup)
         return item.duplicateGroup;
-    const auto found = m_groupOf.constFind(item.id);
-    if (found == m_groupOf.constEnd())
-        return std::nullopt;
-    return *found;
+    const CleanupItem* listed = m_duplicates.rowWithId(item.id);
+    return listed ? listed->duplicateGroup : std::nullopt;
 }
 
 bool Selection::isLastUnselectedCopy(const CleanupItem& item) const
@@ -20,8 +18,10 @@ bool Selection::isLastUnselectedCopy(const CleanupItem& item) const
     const auto group = duplicateGroup(item);
     if (!group || m_ids.contains(item.id))
         return false;
-    for (const QString& member : m_members.value(*group)) {
-        if (member != item.id && !m_ids.contains(member))
+    const ListFacts::Section* members = m_duplicates.section(*group);
+    for (int member : members ? members->rows : QList<int>()) {
+        const QString& id = m_duplicates.rows()[member].id;
+        if (id != item.id && !m_ids.contains(id))
             return false;
     }
     return true;
@@ -96,29 +96,13 @@ bool Selection::clear()
     return true;
 }
 
-QSet<QString> Selection::loneCopyIds(const QList<CleanupItem>& duplicates)
+QSet<QString> Selection::loneCopyIds(const ListFacts& duplicates)
 {
-    QHash<QString, int> counts;
-    for (const CleanupItem& item : duplicates) {
-        if (item.duplicateGroup)
-            ++counts[*item.duplicateGroup];
-    }
     QSet<QString> lone;
-    for (const CleanupItem& item : duplicates) {
-        if (item.duplicateGroup && counts.value(*item.duplicateGroup) < 2)
-            lone.insert(item.id);
+    for (const ListFacts::Section& section : duplicates.sections()) {
+        const CleanupItem& only = duplicates.rows()[section.rows.first()];
+        if (section.rows.size() == 1 && only.duplicateGroup)
+            lone.insert(only.id);
     }
     return lone;
-}
-
-void Selection::indexDuplicates(const QList<CleanupItem>& duplicates)
-{
-    m_groupOf.clear();
-    m_members.clear();
-    for (const CleanupItem& item : duplicates) {
-        if (!item.duplicateGroup)
-            continue;
-        m_groupOf.insert(item.id, *item.duplicateGroup);
-        m_members[*item.duplicateGroup].append(item.id);
-    }
 }

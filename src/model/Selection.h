@@ -1,8 +1,8 @@
 #pragma once
 
 #include "vocabulary/CleanupItem.h"
+#include "vocabulary/ListFacts.h"
 
-#include <QHash>
 #include <QList>
 #include <QSet>
 #include <QString>
@@ -38,12 +38,12 @@ public:
     bool remove(const QString& id) { return m_ids.remove(id); }
     bool clear();
     // The ids of the duplicates rows whose group has no other row left: no longer duplicates.
-    [[nodiscard]] static QSet<QString> loneCopyIds(const QList<CleanupItem>& duplicates);
-    // Learns the duplicate groups from the rows of the duplicates list.
-    void indexDuplicates(const QList<CleanupItem>& duplicates);
+    [[nodiscard]] static QSet<QString> loneCopyIds(const ListFacts& duplicates);
+    // Learns the duplicate groups from the facts of the duplicates list (its rows by id and its
+    // sections, one a group).
+    void indexDuplicates(ListFacts duplicates) { m_duplicates = std::move(duplicates); }
 
 private:
     QSet<QString> m_ids;
-    QHash<QString, QString> m_groupOf;      // item id -> group key
-    QHash<QString, QStringList> m_members;  // group key -> member ids in list order
+    ListFacts m_duplicates;
 };

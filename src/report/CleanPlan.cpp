@@ -29,7 +29,7 @@ void dropLoneCopies(ScanReport::Results* results)
     const auto found = results->find(CategoryID::duplicates);
     if (found == results->end())
         return;
-    const QSet<QString> lone = Selection::loneCopyIds(found->second.items);
+    const QSet<QString> lone = Selection::loneCopyIds(ListFacts(CategoryID::duplicates, found->second.items));
     found->second.items.removeIf([&](const CleanupItem& item) { return lone.contains(item.id); });
 }
 
@@ -57,7 +57,7 @@ CleanPlan CleanPlan::make(ScanReport::Results results, const CleanOptions& optio
     plan.copies = results[CategoryID::duplicates].items;
     plan.unknownIds = unknown(options.ids, results);
     Selection selection;
-    selection.indexDuplicates(plan.copies);
+    selection.indexDuplicates(ListFacts(CategoryID::duplicates, plan.copies));
     // Each category is one list whose select-all takes the rows that pass, as in the app.
     QList<CleanupItem> selected;
     for (const auto& [category, result] : results) {

@@ -79,7 +79,7 @@ ScanReport::Results scan(const ReportOptions& options, const Protection& protect
             if (!asked.contains(category))
                 continue;
             results[category] = CategoryResult{CategoryResult::State::done, filter.shown(output.items, context.roots),
-                                               output.notes, output.summary};
+                                               output.notes, output.summary, {}};
         }
     });
     return results;

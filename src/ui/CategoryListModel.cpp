@@ -5,12 +5,6 @@
 #include "model/SettingsStore.h"
 #include "vocabulary/PathRules.h"
 
-#include <QMap>
-
-namespace {
-
-}  // namespace
-
 CategoryListModel::CategoryListModel(AppModel* model, QObject* parent) : QAbstractListModel(parent), m_model(model)
 {
     connect(m_model, &AppModel::resultsChanged, this, [this](CategoryID changed) {
@@ -35,74 +29,60 @@ void CategoryListModel::reload()
     endResetModel();
 }
 
-std::optional<QString> CategoryListModel::sectionKey(const CleanupItem& item) const
-{
-    if (m_category == CategoryID::worktrees)
-        return item.projectPath.value_or(QString());
-    if (m_category == CategoryID::duplicates)
-        return m_model->selection().duplicateGroup(item).value_or(QString());
-    return std::nullopt;
-}
-
 void CategoryListModel::buildRows()
 {
+    const CategoryResult result = m_model->result(m_category);
+    // A search or the size filter shows part of the list: its sections are worked out here.
+    m_facts = result.facts.describe(m_items) ? result.facts : ListFacts(m_category, m_items);
     m_rows.clear();
-    if (m_category != CategoryID::worktrees && m_category != CategoryID::duplicates) {
-        m_rows.reserve(m_items.size());
+    if (m_facts.sections().isEmpty()) {
+        m_rows.resize(m_items.size());
         for (int i = 0; i < m_items.size(); ++i)
-            m_rows.append(Row{false, i, {}, {}, m_items[i].size});
+            m_rows[i] = Row{false, i};
         return;
     }
-    // Sections keep the order in which their first row appears in the list.
-    QStringList order;
-    QMap<QString, QList<int>> members;
-    for (int i = 0; i < m_items.size(); ++i) {
-        const QString key = sectionKey(m_items[i]).value_or(QString());
-        if (!members.contains(key))
-            order.append(key);
-        members[key].append(i);
-    }
-    for (const QString& key : order) {
-        m_rows.append(sectionFor(key, members[key]));
-        for (int i : members[key])
-            m_rows.append(Row{false, i, {}, {}, m_items[i].size});
+    m_rows.reserve(m_items.size() + m_facts.sections().size());
+    for (int section = 0; section < m_facts.sections().size(); ++section) {
+        m_rows.append(Row{true, section});
+        for (int i : m_facts.sections()[section].rows)
+            m_rows.append(Row{false, i});
     }
 }
 
-CategoryListModel::Row CategoryListModel::sectionFor(const QString& key, const QList<int>& members) const
+// Worked out when the view asks, for the few sections on screen, not for thousands at once.
+QVariant CategoryListModel::sectionData(const ListFacts::Section& section, int role) const
 {
-    Row row;
-    row.isSection = true;
-    if (m_category == CategoryID::worktrees) {
+    const bool worktrees = m_category == CategoryID::worktrees;
+    const int members = int(section.rows.size());
+    switch (role) {
+    case IsSectionRole: return true;
+    case Qt::DisplayRole:
+        if (!worktrees)
+            return m_items[section.rows.first()].title;
         //: Section heading of worktrees whose repository is not known
-        row.title = key.isEmpty() ? tr("Other worktrees") : key.section(QLatin1Char('/'), -1);
-        //: Under a repository's name in Git Worktrees: %1 is its folder, %n the number of its worktrees listed
-        row.subtitle = tr("%1 · %n worktrees", nullptr, int(members.size()))
-                           .arg(PathRules::withTilde(key, m_model->settings()->home()));
-        for (int i : members)
-            row.size += m_items[i].size;
-        return row;
+        return section.key.isEmpty() ? tr("Other worktrees") : section.key.section(QLatin1Char('/'), -1);
+    case SubtitleRole:
+        if (worktrees)
+            //: Under a repository's name in Git Worktrees: %1 is its folder, %n the number of its worktrees listed
+            return tr("%1 · %n worktrees", nullptr, members).arg(PathRules::withTilde(section.key, m_model->settings()->home()));
+        //: Section heading of a group of identical files; %n is the number of copies shown, %1 the size of one copy
+        return tr("%n copies of %1 each", nullptr, members).arg(ByteCount::format(m_items[section.rows.first()].size));
+    case SizeTextRole: return ByteCount::format(section.freeableSize);
+    default: return {};
     }
-    const CleanupItem& first = m_items[members.first()];
-    row.title = first.title;
-    //: Section heading of a group of identical files; %n is the number of copies shown, %1 the size of one copy
-    row.subtitle = tr("%n copies of %1 each", nullptr, int(members.size())).arg(ByteCount::format(first.size));
-    // One copy always stays; summed by index, since thousands of sections arrive at once.
-    row.size = CategoryResult::freeableSize(members, [this](int i) -> const CleanupItem& { return m_items[i]; });
-    return row;
 }
 
 const CleanupItem* CategoryListModel::itemAt(const QModelIndex& index) const
 {
     if (!index.isValid() || index.row() >= m_rows.size() || m_rows[index.row()].isSection)
         return nullptr;
-    return &m_items[m_rows[index.row()].item];
+    return &m_items[m_rows[index.row()].index];
 }
 
 QModelIndex CategoryListModel::indexOfItem(const QString& id) const
 {
     for (int row = 0; row < m_rows.size(); ++row) {
-        if (!m_rows[row].isSection && m_items[m_rows[row].item].id == id)
+        if (!m_rows[row].isSection && m_items[m_rows[row].index].id == id)
             return index(row);
     }
     return {};
@@ -129,15 +109,7 @@ QVariant CategoryListModel::data(const QModelIndex& index, int role) const
     if (!index.isValid() || index.row() >= m_rows.size())
         return {};
     const Row& row = m_rows[index.row()];
-    if (!row.isSection)
-        return itemData(m_items[row.item], role);
-    switch (role) {
-    case IsSectionRole: return true;
-    case Qt::DisplayRole: return row.title;
-    case SubtitleRole: return row.subtitle;
-    case SizeTextRole: return ByteCount::format(row.size);
-    default: return {};
-    }
+    return row.isSection ? sectionData(m_facts.sections()[row.index], role) : itemData(m_items[row.index], role);
 }
 
 QVariant CategoryListModel::itemData(const CleanupItem& item, int role) const

@@ -2,6 +2,7 @@
 
 #include "vocabulary/CategoryID.h"
 #include "vocabulary/CleanupItem.h"
+#include "vocabulary/ListFacts.h"
 
 #include <QAbstractListModel>
 
@@ -27,10 +28,7 @@ public:
 
     struct Row {
         bool isSection = false;
-        int item = -1;  // index into shownItems() for item rows
-        QString title;
-        QString subtitle;
-        qint64 size = 0;
+        int index = -1;  // into shownItems() for item rows, into the list's sections for section rows
     };
 
     explicit CategoryListModel(AppModel* model, QObject* parent = nullptr);
@@ -53,9 +51,7 @@ public:
 
 private:
     void buildRows();
-    // The key that groups a row under a section header; absent for lists without sections.
-    std::optional<QString> sectionKey(const CleanupItem& item) const;
-    Row sectionFor(const QString& key, const QList<int>& members) const;
+    QVariant sectionData(const ListFacts::Section& section, int role) const;
     QVariant itemData(const CleanupItem& item, int role) const;
     void selectionDidChange();
 
@@ -63,5 +59,6 @@ private:
     CategoryID m_category = CategoryID::projects;
     QString m_search;
     QList<CleanupItem> m_items;
+    ListFacts m_facts;  // of m_items: the result's own when every row shows, else made here
     QList<Row> m_rows;
 };

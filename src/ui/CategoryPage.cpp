@@ -320,11 +320,14 @@ void CategoryPage::refreshSelectAll()
     // Rows that can't be ticked, and the one copy that must stay, don't keep it unchecked.
     bool anySelected = false;
     bool anyOpen = false;
+    // One row left to tick settles it: after a scan that is the first row, not the last of thousands.
     for (const CleanupItem& item : m_listModel->shownItems()) {
         if (m_model->selection().contains(item.id))
             anySelected = true;
         else if (m_listModel->checkbox(item) == CategoryListModel::Checkbox::usable)
             anyOpen = true;
+        if (anyOpen)
+            break;
     }
     m_selectAll->setChecked(anySelected && !anyOpen);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "vocabulary/CleanupItem.h"
+#include "vocabulary/ListFacts.h"
 
 #include <QHash>
 #include <QList>
@@ -26,10 +27,12 @@ struct CategoryResult {
     QList<CleanupItem> items;  // display order
     QStringList notes;
     std::optional<QString> summary;
+    // Made with `items` where the list was made; once the list changes they no longer describe it.
+    ListFacts facts;
 
     // What cleaning every row could free: each duplicate group counts without its largest copy,
     // since one copy always stays. Shown as the category's total everywhere.
-    qint64 totalSize() const { return freeableSize(items); }
+    qint64 totalSize() const { return facts.describe(items) ? facts.freeableSize() : freeableSize(items); }
 
     // The same for any list of rows (a group, a filtered list); `rowOf` turns an element of
     // `rows` into its row, so a list of indices is summed without copying the rows. A list of

@@ -31,10 +31,10 @@ TEST(CleanPlan, TakesWhatSelectAllTakesAndLeavesPermanentRowsUnlessAsked)
     CleanupItem trash = rowAt(CategoryID::trash, "trash", 1000);
     trash.removal = Removal{Removal::EmptyTrash{}};
     ScanReport::Results results;
-    results[CategoryID::projects] = {CategoryResult::State::done, {folder, locked}, {}, std::nullopt};
-    results[CategoryID::largeFiles] = {CategoryResult::State::done, {inside}, {}, std::nullopt};
-    results[CategoryID::docker] = {CategoryResult::State::done, {cache}, {}, std::nullopt};
-    results[CategoryID::trash] = {CategoryResult::State::done, {trash}, {}, std::nullopt};
+    results[CategoryID::projects] = {CategoryResult::State::done, {folder, locked}, {}, std::nullopt, {}};
+    results[CategoryID::largeFiles] = {CategoryResult::State::done, {inside}, {}, std::nullopt, {}};
+    results[CategoryID::docker] = {CategoryResult::State::done, {cache}, {}, std::nullopt, {}};
+    results[CategoryID::trash] = {CategoryResult::State::done, {trash}, {}, std::nullopt, {}};
     const QDateTime now = QDateTime::currentDateTimeUtc();
 
     CleanOptions options;
@@ -61,7 +61,7 @@ TEST(CleanPlan, AStoppedRunListsWhatItDidAndDidNotReach)
     const CleanupItem web = rowAt(CategoryID::projects, "/h/code/web/node_modules", 8000);
     const CleanupItem shop = rowAt(CategoryID::projects, "/h/code/shop/node_modules", 3000);
     ScanReport::Results results;
-    results[CategoryID::projects] = {CategoryResult::State::done, {web, shop}, {}, std::nullopt};
+    results[CategoryID::projects] = {CategoryResult::State::done, {web, shop}, {}, std::nullopt, {}};
     CleanReport report = CleanReport::runOf(CleanPlan::make(results, {}, "/h", QDateTime::currentDateTimeUtc()));
     report.record(web, RemovalOutcome::movedToTrash());
 

@@ -17,7 +17,7 @@ TEST(ScanReport, EveryCategoryInOrderWithNullOptionals)
     item.size = 2'000'000;
     item.removal = Removal::trash({target});
     ScanReport::Results results;
-    results[CategoryID::packageCaches] = {CategoryResult::State::done, {item}, {"a note"}, std::nullopt};
+    results[CategoryID::packageCaches] = {CategoryResult::State::done, {item}, {"a note"}, std::nullopt, {}};
 
     EXPECT_EQ(ScanReport::toJson(results, "/h")["version"].toInt(), 1);
     const QJsonArray categories = ScanReport::toJson(results, "/h")["categories"].toArray();
@@ -50,7 +50,7 @@ TEST(ScanReport, TheTableShowsBadgesAndCountsWithSeparators)
     shop.id = "/h/code/shop/node_modules";
     shop.badge = "shop";
     ScanReport::Results results;
-    results[CategoryID::projects] = {CategoryResult::State::done, {web, shop}, {}, std::nullopt};
+    results[CategoryID::projects] = {CategoryResult::State::done, {web, shop}, {}, std::nullopt, {}};
     const QString text = QString::fromUtf8(ScanReport::toText(results, "/h"));
     EXPECT_TRUE(text.contains("node_modules  (web)\n")) << qPrintable(text);
     EXPECT_TRUE(text.contains("node_modules  (shop)\n")) << qPrintable(text);

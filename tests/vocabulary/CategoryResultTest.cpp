@@ -37,3 +37,20 @@ TEST(CategoryResult, EachDuplicateGroupKeepsItsLargestCopyOutOfTheTotal)
         EXPECT_EQ(CategoryResult::freeableSize(reversed, rowOf), expected[each]) << "list " << each << " reversed";
     }
 }
+
+// The total kept with a list answers only for that list: once rows are taken out (the Safe List
+// filtering on the GUI thread) or a new list of the same length replaces it, the rows are summed
+// again, while a copy of the result made before keeps its own total.
+TEST(CategoryResult, KeptTotalFollowsTheRowsAfterTheyChange)
+{
+    CategoryResult result;
+    result.items = {row(100, "a"), row(100, "a"), row(60, "b"), row(60, "b")};
+    result.facts = ListFacts(CategoryID::duplicates, result.items);
+    ASSERT_EQ(result.totalSize(), 160);
+    const CategoryResult shared = result;
+    result.items.removeIf([](const CleanupItem& item) { return item.size == 60; });
+    EXPECT_EQ(result.totalSize(), 100);
+    EXPECT_EQ(shared.totalSize(), 160);
+    result.items = {row(5), row(5), row(5), row(5)};
+    EXPECT_EQ(result.totalSize(), 20);
+}
